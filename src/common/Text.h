@@ -1,0 +1,22 @@
+// Text of the workstation: bytes in its ANSI code page.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace obrin {
+
+/// Upper-cases by the code page. The rules take it as an argument: only Windows knows the code page.
+using UpperCaser = std::string (*)(std::string);
+
+/// Without leading and trailing spaces. Tabs and other white space are text.
+std::string_view TrimBlanks(std::string_view text);
+
+/// The fields between the separators; a text without a separator is one field.
+std::vector<std::string_view> Split(std::string_view text, char separator);
+
+/// With a "\" appended when the last character is not one; an empty path becomes "\".
+std::string EnsureTrailingBackslash(std::string path);
+
+} // namespace obrin

@@ -1,0 +1,18 @@
+// Twips, the unit of every position rule, and pixels of a window's DPI: the only conversion between them.
+#pragma once
+
+#include <cmath>
+
+namespace obrin {
+
+constexpr double twipsPerInch = 1440;
+
+inline int ToPixels(double twips, unsigned dpi) {
+    return static_cast<int>(std::lround(twips * dpi / twipsPerInch));
+}
+
+constexpr double ToTwips(int pixels, unsigned dpi) {
+    return pixels * twipsPerInch / dpi;
+}
+
+} // namespace obrin

@@ -1,0 +1,27 @@
+// Puts the pieces together and nothing else.
+
+#include "menu/frmMain.h"
+#include "platform/Events.h"
+#include "platform/Failure.h"
+#include "platform/SupportLibrary.h"
+#include "startup/StartUp.h"
+
+#include <objbase.h>
+
+int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
+    return obrin::AtBoundary([] {
+        const obrin::SupportLibrary corvel;
+        // The shell opens documents and shortcuts through components that need it.
+        CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE);
+        const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_WIN95_CLASSES};
+        InitCommonControlsEx(&controls);
+
+        obrin::frmMain menu(corvel);
+        bool shown = false;
+        obrin::Main([&] {
+            menu.Show();
+            shown = true;
+        });
+        return shown ? obrin::RunEvents(menu.Window()) : 0;
+    });
+}

@@ -1,0 +1,123 @@
+#include "maintenance/frmUpdate.h"
+
+#include "common/Text.h"
+#include "maintenance/UpdateRegister.h"
+#include "platform/Events.h"
+#include "platform/File.h"
+#include "platform/Font.h"
+#include "platform/Workstation.h"
+#include "resources/Ids.h"
+
+#include <array>
+#include <string>
+
+namespace obrin {
+
+namespace {
+
+struct UpdateFile {
+    const char* source;      // below the shared installation
+    const char* destination; // in the workstation's local host folder
+};
+
+constexpr std::array<UpdateFile, 5> updateFiles{{
+    {"Tessel\\Exe\\Tessel.Exe", "Tessel.exe"},
+    {"Tessel\\Exe\\Sweeper.Exe", "Sweeper.exe"},
+    {"Tessel\\Exe\\Notebox.Exe", "Notebox.exe"},
+    {"Tessel\\Exe\\ShowAllFenns.Exe", "ShowAllFenns.exe"},
+    {"Tessel\\Exe\\Glass.Exe", "Glass.exe"},
+}};
+
+// A file that cannot be copied is passed over: the next one is tried, and nobody is told.
+void CopyUnexamined(const char* source, const std::string& destination) {
+    CopyFileA(source, destination.c_str(), FALSE);
+}
+
+} // namespace
+
+void frmUpdate::Show(HWND frmMain) {
+    ShowModal(frmMain, IDD_UPDATE);
+}
+
+INT_PTR frmUpdate::OnMessage(UINT message, WPARAM wParam, LPARAM) {
+    switch (message) {
+    case WM_INITDIALOG:
+        Form_Load();
+        return TRUE;
+    case WM_SIZE:
+        Form_Resize();
+        return TRUE;
+    case WM_COMMAND:
+        if (LOWORD(wParam) != IDOK && LOWORD(wParam) != IDCANCEL)
+            return FALSE;
+        EndDialog(window, 0);
+        return TRUE;
+    default:
+        return FALSE;
+    }
+}
+
+void frmUpdate::Form_Load() {
+    Label1 = Control(IDC_LABEL1);
+    Label2 = Control(IDC_LABEL2);
+    Command1 = Control(IDOK);
+    font = MakeFont("Georgia", 10, GetDpiForWindow(window));
+    SetFont(Label1, font.get());
+    SetFont(Label2, font.get());
+
+    // A quarter of its own height below the menu window's top and half its own width right of its left edge.
+    RECT menu;
+    RECT own;
+    GetWindowRect(GetWindow(window, GW_OWNER), &menu);
+    GetWindowRect(window, &own);
+    const int top = menu.top + (own.bottom - own.top) / 2 / 2;
+    const int left = menu.left + (own.right - own.left) / 2;
+    SetWindowPos(window, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void frmUpdate::Form_Resize() {
+    RECT inner;
+    GetClientRect(window, &inner);
+    const int height = inner.bottom;
+    const int margin = height / 16;
+    SetWindowPos(Label1, nullptr, margin, height / 4, inner.right - 2 * margin, height / 4,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+
+    // A resize can arrive while files are copied, from the events processed between two of them. Its copy
+    // sequence then follows the one at work.
+    if (++copiesDue > 1)
+        return;
+    for (; copiesDue > 0; --copiesDue)
+        CopyFiles();
+}
+
+void frmUpdate::CopyFiles() {
+    const auto show = [this](const char* what) {
+        SetWindowTextA(Label1, (std::string("Updating:\r\n") + what).c_str());
+    };
+    for (const auto& [source, destination] : updateFiles) {
+        show(destination);
+        CopyUnexamined(source, EnsureTrailingBackslash(EnvironmentVariable("Tessel")) + destination);
+        // The window may be closed in here. The remaining files are copied all the same, since the register
+        // will say that the workstation has them; texts set on a window that is gone go nowhere.
+        ProcessPendingEvents();
+    }
+    show("Complete");
+    ShowWindow(Command1, SW_SHOW);
+}
+
+void CheckWorkstationUpdate(HWND frmMain, int wsid) {
+    const std::string key = UpdateKey(wsid);
+    File updated("Updated.txt", File::Use::ReadWrite);
+    const UpdateSearch found = FindUpdateKey(updated.ReadToEnd(), key);
+    if (found.updated)
+        return;
+    frmUpdate().Show(frmMain);
+    if (!IsWindow(frmMain))
+        return; // the program ends: the workstation is updated at its next start
+    updated.Seek((found.record - 1) * updateKeyBytes);
+    updated.Write(key);
+    updated.FlushAndClose();
+}
+
+} // namespace obrin

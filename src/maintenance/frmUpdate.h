@@ -1,0 +1,32 @@
+// The update window: copies the shared executables to the workstation while it shows their names.
+#pragma once
+
+#include "platform/Dialog.h"
+#include "platform/Handle.h"
+
+namespace obrin {
+
+class frmUpdate final : public Dialog {
+public:
+    /// Shows the window beside the menu window, modally; returns once the user has closed it.
+    void Show(HWND frmMain);
+
+private:
+    INT_PTR OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void Form_Load();
+    void Form_Resize();
+    void CopyFiles();
+
+    HWND Label1 = nullptr;   // progress
+    HWND Label2 = nullptr;   // what is going on
+    HWND Command1 = nullptr; // "O&kay"
+    UniqueFont font;
+    int copiesDue = 0; // resize notifications whose copy sequence has not ended
+};
+
+/// Once per workstation: shows the update window for a workstation that "Updated.txt" does not name, then
+/// enters it there. Not entered when the menu window is gone by then. Throws RunTimeError for the register's
+/// errors.
+void CheckWorkstationUpdate(HWND frmMain, int wsid);
+
+} // namespace obrin

@@ -1,0 +1,25 @@
+#include "menu/MenuFiles.h"
+
+#include "common/RunTimeError.h"
+#include "menu/MenuDefinition.h"
+#include "platform/File.h"
+#include "platform/Folder.h"
+
+namespace obrin {
+
+std::vector<MenuFile> EnumerateMenuFiles() {
+    constexpr std::size_t most = 99;
+    std::vector<MenuFile> files;
+    for (const std::string& name : ListNormalFiles(CurrentFolder())) {
+        if (!IsMenuFileName(name))
+            continue;
+        const std::string header = ReadFirstLine(name);
+        if (files.size() == most)
+            throw RunTimeError(PlatformError::AlreadyExists,
+                               "Adding " + name + " to the system list as item 99");
+        files.push_back({.name = name, .title = std::string(HeaderTitle(header))});
+    }
+    return files;
+}
+
+} // namespace obrin

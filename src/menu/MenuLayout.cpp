@@ -1,0 +1,61 @@
+#include "menu/MenuLayout.h"
+
+#include "common/RunTimeError.h"
+
+#include <cmath>
+
+namespace obrin {
+
+namespace {
+
+double Finite(double twips) {
+    if (!std::isfinite(twips))
+        throw RunTimeError(PlatformError::ArithmeticOverflow, "Laying out the menu window");
+    return twips;
+}
+
+std::int32_t Whole(double twips) {
+    return static_cast<std::int32_t>(std::lrint(Finite(twips)));
+}
+
+} // namespace
+
+LayoutMargins RecordMargins(Size outer, const MenuLayout& layout) {
+    return {
+        .height = Whole(outer.height - layout.frame1.height),
+        .width = Whole(outer.width - layout.frame1.width),
+        .treeWidth = Whole(layout.frame1.width - layout.treeView1.width),
+        .treeHeight = Whole(layout.frame1.height - layout.treeView1.height),
+    };
+}
+
+MenuLayout Resize(MenuLayout layout, const LayoutMargins& margins, Size outer, Size inner,
+                  const OwnSizes& own) {
+    Box& frame = layout.frame1;
+    Box& tree = layout.treeView1;
+    // Strictly greater: a window too small for the margins leaves frame and tree as they were.
+    if (outer.height > margins.height)
+        frame.height = Finite(outer.height - margins.height);
+    if (outer.width > margins.width)
+        frame.width = Finite(outer.width - margins.width);
+    if (frame.width > margins.treeWidth)
+        tree.width = Finite(frame.width - margins.treeWidth);
+    if (frame.height > margins.treeHeight)
+        tree.height = Finite(frame.height - margins.treeHeight);
+    layout.command1.top = tree.top + tree.height + design::command1Gap;
+
+    // Centred by the outer width: slightly right of the true centre, as it always was.
+    const double right = frame.left + frame.width;
+    const auto centred = [&](double width) { return Finite(right + (outer.width - right) / 2 - width / 2); };
+    layout.label1Left = centred(own.label1);
+    layout.image1Left = centred(own.image1);
+    layout.label2Left = centred(own.label2);
+    layout.label3Left = centred(own.label3);
+
+    layout.label5 = {Finite(inner.width - own.label5.width - 100),
+                     Finite(inner.height - own.label5.height - 20)};
+    layout.label4 = {Finite(layout.label5.left - own.label4.width), layout.label5.top};
+    return layout;
+}
+
+} // namespace obrin

@@ -1,0 +1,512 @@
+#include "menu/frmMain.h"
+
+#include "common/RunTimeError.h"
+#include "common/Text.h"
+#include "common/Twips.h"
+#include "maintenance/frmUpdate.h"
+#include "menu/MenuCommands.h"
+#include "menu/MenuDefinition.h"
+#include "platform/Failure.h"
+#include "platform/File.h"
+#include "platform/Folder.h"
+#include "platform/Font.h"
+#include "platform/Picture.h"
+#include "platform/Shell.h"
+#include "platform/Workstation.h"
+#include "resources/Ids.h"
+#include "startup/HostKeys.h"
+#include "startup/HostLink.h"
+#include "startup/WorkstationIdentity.h"
+
+#include <array>
+
+namespace obrin {
+
+namespace {
+
+constexpr const char* className = "ObrinMenu.frmMain";
+constexpr const char* registryKey = "Software\\Obrin";
+constexpr const char* lastSystemValue = "LastSystem";
+constexpr DWORD windowStyle = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
+
+HINSTANCE Instance() {
+    return GetModuleHandleA(nullptr);
+}
+
+HWND CreateControl(HWND parent, const char* controlClass, int id, DWORD style, const char* text = "",
+                   DWORD extendedStyle = 0) {
+    const HWND control = CreateWindowExA(
+        extendedStyle, controlClass, text, WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | style, 0, 0, 0, 0,
+        parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), Instance(), nullptr);
+    if (control == nullptr)
+        ThrowLastError("Creating the menu window");
+    return control;
+}
+
+} // namespace
+
+void frmMain::Show() {
+    WNDCLASSEXA windowClass{};
+    windowClass.cbSize = sizeof windowClass;
+    windowClass.lpfnWndProc = Procedure;
+    windowClass.hInstance = Instance();
+    windowClass.hIcon = LoadIconA(Instance(), MAKEINTRESOURCEA(IDI_OBRIN));
+    windowClass.hCursor = nullptr; // OnSetCursor answers for the whole window
+    windowClass.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
+    windowClass.lpszMenuName = MAKEINTRESOURCEA(IDR_MENU_BAR);
+    windowClass.lpszClassName = className;
+    RegisterClassExA(&windowClass);
+    // Without a caption until a system is shown: a second menu that is started meanwhile must not find and
+    // show an empty window.
+    if (CreateWindowExA(WS_EX_CONTROLPARENT, className, "", windowStyle, CW_USEDEFAULT, CW_USEDEFAULT,
+                        CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr, Instance(), this) == nullptr)
+        ThrowLastError("Creating the menu window");
+    CreateControls();
+    if (!Form_Load())
+        return;
+    ShowWindow(window, SW_SHOWNORMAL);
+    SetForegroundWindow(window);
+}
+
+LRESULT CALLBACK frmMain::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_NCCREATE) {
+        auto* self = static_cast<frmMain*>(reinterpret_cast<const CREATESTRUCTA*>(lParam)->lpCreateParams);
+        self->window = window;
+        SetWindowLongPtrA(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(self));
+    }
+    auto* self = reinterpret_cast<frmMain*>(GetWindowLongPtrA(window, GWLP_USERDATA));
+    if (self == nullptr)
+        return DefWindowProcA(window, message, wParam, lParam);
+    return AtBoundary([=] { return self->OnMessage(message, wParam, lParam); });
+}
+
+LRESULT frmMain::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_COMMAND:
+        OnCommand(LOWORD(wParam), HIWORD(wParam));
+        return 0;
+    case WM_NOTIFY:
+        OnNotify(*reinterpret_cast<const NMHDR*>(lParam));
+        return 0;
+    case WM_SIZE:
+        Form_Resize();
+        return 0;
+    case WM_DPICHANGED:
+        Form_DpiChanged(*reinterpret_cast<const RECT*>(lParam));
+        return 0;
+    case WM_SETFOCUS:
+        SetFocus(TreeView1.Window());
+        return 0;
+    case WM_SETCURSOR:
+        if (OnSetCursor(reinterpret_cast<HWND>(wParam), LOWORD(lParam)))
+            return TRUE;
+        break;
+    case WM_CTLCOLORSTATIC:
+        if (reinterpret_cast<HWND>(lParam) == Label5) {
+            SetTextColor(reinterpret_cast<HDC>(wParam), GetSysColor(COLOR_HOTLIGHT));
+            SetBkMode(reinterpret_cast<HDC>(wParam), TRANSPARENT);
+            return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_BTNFACE));
+        }
+        break;
+    case WM_CLOSE:
+        Form_Unload();
+        return 0;
+    case WM_ENDSESSION:
+        // The session's end is the last that a program hears: it may be ended as soon as this returns.
+        if (wParam != FALSE)
+            Form_Unload();
+        return 0;
+    case WM_DESTROY:
+        PostQuitMessage(0);
+        return 0;
+    default:
+        break;
+    }
+    return DefWindowProcA(window, message, wParam, lParam);
+}
+
+void frmMain::OnCommand(int id, int notification) {
+    if (id >= ID_SYSTEMS && id < ID_SYSTEMS + static_cast<int>(MnuFiles.size()))
+        mnuSystems_Click(static_cast<std::size_t>(id - ID_SYSTEMS));
+    else if (id == ID_TREE_PROPERTIES || id == ID_TREE_HELP)
+        mnuTreeView_Click(id);
+    else if (id == IDC_COMMAND1)
+        Command1_Click();
+    else if (id == IDC_LABEL5 && notification != STN_CLICKED)
+        return;
+    else if (const auto program = HostProgramOf(id))
+        RunHostProgram(*program);
+    else if (const auto document = DocumentOf(id, SystemCode(currentSystem)))
+        OpenUnexamined(window, document->c_str());
+}
+
+void frmMain::OnNotify(const NMHDR& notification) {
+    if (notification.hwndFrom == TreeView1.Window() && notification.code == static_cast<UINT>(NM_DBLCLK))
+        TreeView1_DblClick();
+}
+
+// A state of the window, not of the label: once the link has turned the pointer into the crosshair, it stays
+// so over everything but the window's own background.
+bool frmMain::OnSetCursor(HWND under, int hitTest) {
+    if (hitTest != HTCLIENT)
+        return false;
+    if (under == Label5)
+        crosshair = true;
+    else if (under == window)
+        crosshair = false;
+    if (!crosshair && under != window)
+        return false;
+    SetCursor(LoadCursorA(nullptr, crosshair ? IDC_CROSS : IDC_ARROW));
+    return true;
+}
+
+// --- Load, resize, unload
+// ---------------------------------------------------------------------------------------
+
+bool frmMain::Form_Load() {
+    RECT outer;
+    GetWindowRect(window, &outer);
+    margins = RecordMargins({ToTwips(outer.right - outer.left, dpi), ToTwips(outer.bottom - outer.top, dpi)},
+                            layout);
+
+    MnuFiles = EnumerateMenuFiles();
+    FillSystemList();
+
+    // Set already when the window is loaded a second time in the same run: number and link then stay.
+    if (hostCommandWindow == nullptr) {
+        const std::string loginName = LoginName();
+        wsid = EstablishIdentity(window, loginName);
+        if (!IsWindow(window))
+            return false;
+        SetLabel(Label2, UserCaption(loginName));
+        SetLabel(Label3, WsidCaption(wsid));
+        hostCommandWindow = StartHost(window, wsid);
+        if (!IsWindow(window))
+            return false;
+    }
+
+    WriteFileBytes(MarkerFileName(wsid), "");
+
+    const std::string lastSystem(
+        TrimBlanks(corvel.GetRegValue(HKEY_LOCAL_MACHINE, registryKey, lastSystemValue)));
+    if (!lastSystem.empty() && FileExists(lastSystem)) {
+        LoadSystem(lastSystem);
+    } else {
+        if (MnuFiles.empty())
+            throw RunTimeError(PlatformError::InvalidIndex,
+                               "Showing the first system: there is no menu file (*.mnu) in " +
+                                   CurrentFolder());
+        LoadSystem(MnuFiles.front().name);
+    }
+    return IsWindow(window);
+}
+
+void frmMain::Form_Resize() {
+    if (!margins)
+        return;
+    RECT outer;
+    RECT inner;
+    GetWindowRect(window, &outer);
+    GetClientRect(window, &inner);
+    const auto twips = [this](int width, int height) {
+        return Size{ToTwips(width, dpi), ToTwips(height, dpi)};
+    };
+    layout = Resize(layout, *margins, twips(outer.right - outer.left, outer.bottom - outer.top),
+                    twips(inner.right, inner.bottom),
+                    {.label1 = OwnSize(Label1).width,
+                     .image1 = OwnSize(Image1).width,
+                     .label2 = OwnSize(Label2).width,
+                     .label3 = OwnSize(Label3).width,
+                     .label4 = OwnSize(Label4),
+                     .label5 = OwnSize(Label5)});
+
+    const auto px = [this](double value) { return ToPixels(value, dpi); };
+    const Box& frame = layout.frame1;
+    const Box& tree = layout.treeView1;
+    constexpr UINT quiet = SWP_NOACTIVATE | SWP_NOZORDER;
+    // The frame comes to the front first and the link labels last.
+    HDWP positions = BeginDeferWindowPos(7);
+    positions = DeferWindowPos(positions, Frame1, HWND_TOP, px(frame.left), px(frame.top), px(frame.width),
+                               px(frame.height), SWP_NOACTIVATE);
+    const auto move = [&](HWND control, double left, double top) {
+        positions = DeferWindowPos(positions, control, nullptr, px(left), px(top), 0, 0, quiet | SWP_NOSIZE);
+    };
+    move(Label1, layout.label1Left, design::label1Top);
+    move(Image1, layout.image1Left, design::image1Top);
+    move(Label2, layout.label2Left, design::label2Top);
+    move(Label3, layout.label3Left, design::label3Top);
+    const auto raise = [&](HWND control, Point place) {
+        positions = DeferWindowPos(positions, control, HWND_TOP, px(place.left), px(place.top), 0, 0,
+                                   SWP_NOACTIVATE | SWP_NOSIZE);
+    };
+    raise(Label4, layout.label4);
+    raise(Label5, layout.label5);
+    EndDeferWindowPos(positions);
+
+    positions = BeginDeferWindowPos(2); // the controls of another parent
+    positions = DeferWindowPos(positions, TreeView1.Window(), nullptr, px(tree.left), px(tree.top),
+                               px(tree.width), px(tree.height), quiet);
+    positions =
+        DeferWindowPos(positions, Command1, nullptr, px(layout.command1.left), px(layout.command1.top),
+                       px(design::command1.width), px(design::command1.height), quiet);
+    EndDeferWindowPos(positions);
+}
+
+void frmMain::Form_DpiChanged(const RECT& suggested) {
+    dpi = GetDpiForWindow(window);
+    ApplyFonts();
+    ShowPicture();
+    SetWindowPos(window, nullptr, suggested.left, suggested.top, suggested.right - suggested.left,
+                 suggested.bottom - suggested.top, SWP_NOZORDER | SWP_NOACTIVATE);
+    Form_Resize(); // the size in pixels may be the same
+}
+
+// The window is about to close, for whatever reason: the close box, the end of the Windows session, another
+// program's request.
+void frmMain::Form_Unload() {
+    if (unloading)
+        return; // asked again while the host handles the exit command
+    unloading = true;
+    SendHostCommand(hostCommandWindow, "Run Core\\Exit\r");
+    // Closed before any system was shown, there is none to remember: the earlier one stays remembered.
+    if (!currentSystem.empty())
+        corvel.SetRegValue(HKEY_LOCAL_MACHINE, registryKey, lastSystemValue, currentSystem);
+    DeleteFileA(MarkerFileName(wsid).c_str());
+    DestroyWindow(window);
+}
+
+// --- Controls
+// ---------------------------------------------------------------------------------------------------
+
+void frmMain::CreateControls() {
+    Frame1 =
+        CreateControl(window, WC_BUTTONA, IDC_FRAME1, BS_GROUPBOX | WS_CLIPCHILDREN, "", WS_EX_CONTROLPARENT);
+    TreeView1.Attach(
+        CreateControl(Frame1, WC_TREEVIEWA, IDC_TREEVIEW1,
+                      WS_TABSTOP | TVS_HASLINES | TVS_LINESATROOT | TVS_HASBUTTONS | TVS_SHOWSELALWAYS, "",
+                      WS_EX_CLIENTEDGE));
+    Command1 = CreateControl(Frame1, WC_BUTTONA, IDC_COMMAND1, WS_TABSTOP | BS_PUSHBUTTON, "&Run Program");
+    constexpr DWORD label = SS_LEFT | SS_NOPREFIX;
+    Label1 = CreateControl(window, WC_STATICA, IDC_LABEL1, label);
+    Image1 = CreateControl(window, WC_STATICA, IDC_IMAGE1, SS_BITMAP);
+    Label2 = CreateControl(window, WC_STATICA, IDC_LABEL2, label);
+    Label3 = CreateControl(window, WC_STATICA, IDC_LABEL3, label);
+    Label4 = CreateControl(window, WC_STATICA, IDC_LABEL4, label, "Got a better idea?");
+    Label5 = CreateControl(window, WC_STATICA, IDC_LABEL5, label | SS_NOTIFY, "E-Mail us!");
+    // A group box neither hands on what its children say nor colours their background.
+    SetWindowSubclass(Frame1, Frame1Procedure, 0, reinterpret_cast<DWORD_PTR>(this));
+    SetWindowSubclass(TreeView1.Window(), TreeView1Procedure, 0, reinterpret_cast<DWORD_PTR>(this));
+
+    dpi = GetDpiForWindow(window);
+    ApplyFonts();
+    // The designed size, in the middle of the screen that Windows chose.
+    RECT size{0, 0, ToPixels(design::inner.width, dpi), ToPixels(design::inner.height, dpi)};
+    AdjustWindowRectExForDpi(&size, windowStyle, TRUE, 0, dpi);
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    GetMonitorInfoA(MonitorFromWindow(window, MONITOR_DEFAULTTOPRIMARY), &monitor);
+    const RECT& work = monitor.rcWork;
+    const int width = size.right - size.left;
+    const int height = size.bottom - size.top;
+    SetWindowPos(window, nullptr, std::max(work.left, work.left + (work.right - work.left - width) / 2),
+                 std::max(work.top, work.top + (work.bottom - work.top - height) / 2), width, height,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void frmMain::ApplyFonts() {
+    titleFont = MakeFont("Comic Sans MS", 18, dpi, {.bold = true});
+    labelFont = MakeFont("Georgia", 10, dpi);
+    linkFont = MakeFont("Georgia", 10, dpi, {.underlined = true});
+    buttonFont = MakeFont("MS Sans Serif", 8, dpi);
+    messageFont = MakeMessageFont(dpi);
+    SetFont(Label1, titleFont.get());
+    SetFont(Label4, labelFont.get());
+    SetFont(Label5, linkFont.get());
+    SetFont(Command1, buttonFont.get());
+    for (const HWND control : {Frame1, TreeView1.Window(), Label2, Label3})
+        SetFont(control, messageFont.get());
+    for (const HWND label : {Label1, Label2, Label3, Label4, Label5})
+        SetLabel(label, WindowText(label));
+}
+
+void frmMain::ShowPicture() {
+    if (!picture)
+        return;
+    // The label must have let go of the old picture before it is deleted.
+    UniqueBitmap scaled = ScalePicture(picture.get(), dpi);
+    SendMessageA(Image1, STM_SETIMAGE, IMAGE_BITMAP, reinterpret_cast<LPARAM>(scaled.get()));
+    scaledPicture = std::move(scaled);
+}
+
+void frmMain::FillSystemList() {
+    const HMENU bar = GetMenu(window);
+    if (MnuFiles.empty()) {
+        DeleteMenu(bar, 0, MF_BYPOSITION);
+        return;
+    }
+    const HMENU list = GetSubMenu(bar, 0);
+    for (std::size_t i = 0; i < MnuFiles.size(); ++i)
+        AppendMenuA(list, MF_STRING, ID_SYSTEMS + i, MnuFiles[i].title.c_str());
+    DeleteMenu(list, ID_SYSTEMS_TEMPLATE, MF_BYCOMMAND);
+}
+
+// A label is as large as its text.
+void frmMain::SetLabel(HWND label, const std::string& text) {
+    SetWindowTextA(label, text.c_str());
+    const SIZE size = MeasureText(label, text);
+    SetWindowPos(label, nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+Size frmMain::OwnSize(HWND control) const {
+    RECT size;
+    GetWindowRect(control, &size);
+    return {ToTwips(size.right - size.left, dpi), ToTwips(size.bottom - size.top, dpi)};
+}
+
+LRESULT CALLBACK frmMain::Frame1Procedure(HWND frame, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                          DWORD_PTR self) {
+    switch (message) {
+    case WM_COMMAND:
+    case WM_NOTIFY:
+    case WM_CTLCOLORBTN:
+    case WM_CTLCOLORSTATIC:
+        return SendMessageA(reinterpret_cast<frmMain*>(self)->window, message, wParam, lParam);
+    default:
+        return DefSubclassProc(frame, message, wParam, lParam);
+    }
+}
+
+// --- The tree
+// ---------------------------------------------------------------------------------------------------
+
+LRESULT CALLBACK frmMain::TreeView1Procedure(HWND tree, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                             DWORD_PTR data) {
+    auto* self = reinterpret_cast<frmMain*>(data);
+    return AtBoundary([=]() -> LRESULT {
+        switch (message) {
+        case WM_GETDLGCODE: {
+            // Enter is the tree's own key here, not the default button's.
+            const auto* key = reinterpret_cast<const MSG*>(lParam);
+            const LRESULT code = DefSubclassProc(tree, message, wParam, lParam);
+            return key != nullptr && key->wParam == VK_RETURN ? code | DLGC_WANTMESSAGE : code;
+        }
+        case WM_CHAR:
+            self->TreeView1_KeyPress(static_cast<int>(wParam));
+            if (wParam == VK_RETURN)
+                return 0; // the tree would beep
+            break;
+        case WM_RBUTTONDOWN:
+        case WM_RBUTTONDBLCLK: // a second right click soon after the first
+            self->TreeView1_RightMouseDown();
+            return 0;
+        case WM_CONTEXTMENU:
+            if (lParam == -1) // from the keyboard; the mouse's has been handled above
+                self->TreeView1_MenuKey();
+            return 0;
+        default:
+            break;
+        }
+        return DefSubclassProc(tree, message, wParam, lParam);
+    });
+}
+
+void frmMain::TreeView1_DblClick() {
+    RunSelectedProgram();
+}
+
+void frmMain::TreeView1_KeyPress(int character) {
+    if (character == VK_RETURN)
+        RunSelectedProgram();
+}
+
+void frmMain::Command1_Click() {
+    RunSelectedProgram();
+}
+
+void frmMain::TreeView1_RightMouseDown() {
+    if (!rightClickLatch) {
+        // A left click selects the node under the pointer; the right click behind it comes back here.
+        constexpr DWORD left = MOUSEEVENTF_LEFTDOWN | MOUSEEVENTF_LEFTUP;
+        constexpr DWORD right = MOUSEEVENTF_RIGHTDOWN | MOUSEEVENTF_RIGHTUP;
+        // The flags name the buttons of the mouse, which a left-handed user has swapped.
+        const bool swapped = GetSystemMetrics(SM_SWAPBUTTON) != 0;
+        mouse_event(swapped ? right : left, 0, 0, 0, 0);
+        mouse_event(swapped ? left : right, 0, 0, 0, 0);
+        rightClickLatch = true;
+        return;
+    }
+    rightClickLatch = false;
+    POINT pointer;
+    GetCursorPos(&pointer);
+    PopUp(pointer.x, pointer.y);
+}
+
+void frmMain::TreeView1_MenuKey() {
+    const auto text = TreeView1.SelectedTextPosition();
+    if (!text)
+        return;
+    POINT below{text->left, text->bottom};
+    ClientToScreen(TreeView1.Window(), &below);
+    PopUp(below.x, below.y);
+}
+
+// The popup of the selected program, at a place of the screen; headings have none.
+void frmMain::PopUp(int x, int y) {
+    if (TreeView1.SelectedKey().empty())
+        return;
+    propertiesKey = TreeView1.SelectedKey();
+    struct Destroy {
+        void operator()(HMENU menu) const { DestroyMenu(menu); }
+    };
+    const std::unique_ptr<std::remove_pointer_t<HMENU>, Destroy> menu(
+        LoadMenuA(Instance(), MAKEINTRESOURCEA(IDR_TREE_POPUP)));
+    TrackPopupMenu(GetSubMenu(menu.get(), 0), TPM_LEFTALIGN | TPM_TOPALIGN, x, y, 0, window, nullptr);
+}
+
+void frmMain::mnuTreeView_Click(int item) {
+    if (item == ID_TREE_HELP)
+        MessageBoxA(window, "Option not available. In Developement.", "Warning", MB_OK);
+}
+
+// --- Systems and programs
+// -----------------------------------------------------------------------------------------
+
+void frmMain::mnuSystems_Click(std::size_t index) {
+    LoadSystem(MnuFiles[index].name);
+}
+
+void frmMain::LoadSystem(const std::string& fileName) {
+    currentSystem = fileName;
+    TreeView1.Clear();
+    const MenuDefinition definition = ParseMenuDefinition(ReadFileBytes(fileName), fileName);
+    constexpr const char* pictureFile = "Startup.bmp";
+    if (NormalFileExists(pictureFile)) {
+        picture = LoadPicture(pictureFile);
+        ShowPicture();
+    }
+    SetWindowTextA(window, menuCaption);
+    const std::string title(TrimBlanks(definition.title));
+    SetWindowTextA(Frame1, title.c_str());
+    SetLabel(Label1, title);
+    Form_Resize(); // title and picture are centred by their own widths
+    TreeView1.Fill(definition.entries);
+    SendHostCommand(hostCommandWindow, StartSystem(SystemCode(fileName)));
+}
+
+void frmMain::RunSelectedProgram() {
+    CheckWorkstationUpdate(window, wsid);
+    if (!IsWindow(window) || !TreeView1.IsProgramNode())
+        return;
+    RunHostProgram(TreeView1.SelectedKey());
+}
+
+void frmMain::RunHostProgram(std::string_view program) {
+    SendHostCommand(hostCommandWindow, LoadAndRun(program));
+    AfterHostCommand();
+}
+
+// The step behind every host command. The window stays as it is: an operator starts one program after the
+// other.
+void frmMain::AfterHostCommand() {}
+
+} // namespace obrin

@@ -1,0 +1,97 @@
+// The menu window: the tree of one system, its title and picture, the menu bar, and the link to the host.
+#pragma once
+
+#include "menu/MenuFiles.h"
+#include "menu/MenuLayout.h"
+#include "menu/MenuTree.h"
+#include "platform/Handle.h"
+#include "platform/SupportLibrary.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace obrin {
+
+class frmMain {
+public:
+    explicit frmMain(const SupportLibrary& supportLibrary)
+        : corvel(supportLibrary) {}
+    frmMain(const frmMain&) = delete;
+    frmMain& operator=(const frmMain&) = delete;
+
+    /// Creates the window, loads it (workstation number, host, first system) and shows it. The window may
+    /// have been closed during the load; the program's events then end at once. Throws RunTimeError.
+    void Show();
+
+    HWND Window() const { return window; }
+
+private:
+    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    static LRESULT CALLBACK Frame1Procedure(HWND frame, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                            DWORD_PTR self);
+    static LRESULT CALLBACK TreeView1Procedure(HWND tree, UINT message, WPARAM wParam, LPARAM lParam,
+                                               UINT_PTR, DWORD_PTR self);
+    LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    void OnCommand(int id, int notification);
+    void OnNotify(const NMHDR& notification);
+    bool OnSetCursor(HWND under, int hitTest);
+
+    // Events of the window.
+    bool Form_Load();
+    void Form_Resize();
+    void Form_DpiChanged(const RECT& suggested);
+    void Form_Unload();
+
+    // Events of controls and menu items.
+    void mnuSystems_Click(std::size_t index);
+    void mnuTreeView_Click(int item);
+    void TreeView1_DblClick();
+    void TreeView1_KeyPress(int character);
+    void TreeView1_RightMouseDown();
+    void TreeView1_MenuKey();
+    void Command1_Click();
+
+    void CreateControls();
+    void ApplyFonts();
+    void ShowPicture();
+    void FillSystemList();
+    void SetLabel(HWND label, const std::string& text);
+    Size OwnSize(HWND control) const;
+    void PopUp(int x, int y);
+
+    void LoadSystem(const std::string& fileName);
+    void RunSelectedProgram();
+    void RunHostProgram(std::string_view program);
+    void AfterHostCommand();
+
+    const SupportLibrary& corvel;
+    HWND window = nullptr;
+    HWND Frame1 = nullptr;
+    MenuTree TreeView1;
+    HWND Command1 = nullptr;
+    HWND Label1 = nullptr; // system title
+    HWND Image1 = nullptr;
+    HWND Label2 = nullptr; // user
+    HWND Label3 = nullptr; // workstation number
+    HWND Label4 = nullptr;
+    HWND Label5 = nullptr; // link
+
+    UINT dpi = USER_DEFAULT_SCREEN_DPI;
+    UniqueFont titleFont, labelFont, linkFont, buttonFont, messageFont;
+    UniqueBitmap picture, scaledPicture;
+    std::optional<LayoutMargins> margins; // from the load on
+    MenuLayout layout = design::layout;
+    bool crosshair = false; // from the link label until the window's own background
+
+    std::int16_t wsid = 0;
+    HWND hostCommandWindow = nullptr;
+    std::vector<MenuFile> MnuFiles;
+    std::string currentSystem; // the tag of mnuSystems(99): the menu file shown
+    std::string propertiesKey; // the tag of TreeView1: the program last right-clicked
+    bool rightClickLatch = false;
+    bool unloading = false;
+};
+
+} // namespace obrin

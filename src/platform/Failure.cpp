@@ -1,0 +1,43 @@
+#include "platform/Failure.h"
+
+#include <new>
+
+namespace obrin {
+
+namespace {
+
+std::string PlatformText(DWORD code) {
+    char text[512];
+    const DWORD length = FormatMessageA(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
+                                        code, 0, text, sizeof text, nullptr);
+    std::string result(text, length);
+    result.erase(result.find_last_not_of("\r\n ") + 1);
+    return result.empty() ? "Error " + std::to_string(code) : result;
+}
+
+[[noreturn]] void End(DWORD code, const char* doing) noexcept {
+    // Task-modal: no other window of ours may act while the program ends.
+    MessageBoxA(nullptr, (PlatformText(code) + "\r\n\r\n" + doing).c_str(), applicationTitle,
+                MB_OK | MB_ICONERROR | MB_TASKMODAL | MB_SETFOREGROUND);
+    ExitProcess(1);
+}
+
+} // namespace
+
+void ThrowLastError(const std::string& doing) {
+    throw RunTimeError(GetLastError(), doing);
+}
+
+void EndWithCurrentError() noexcept {
+    try {
+        throw;
+    } catch (const RunTimeError& error) {
+        End(error.Code(), error.what());
+    } catch (const std::bad_alloc&) {
+        End(ERROR_NOT_ENOUGH_MEMORY, "");
+    } catch (const std::exception& error) {
+        End(ERROR_INTERNAL_ERROR, error.what());
+    }
+}
+
+} // namespace obrin

@@ -1,0 +1,31 @@
+// Failed calls as exceptions, and the boundary at which they end the program.
+#pragma once
+
+#include "common/RunTimeError.h"
+#include "platform/WindowsApi.h"
+
+#include <string>
+
+namespace obrin {
+
+/// The title of message boxes that have none of their own.
+constexpr const char* applicationTitle = "ObrinMenu";
+
+/// Throws the calling thread's last error with what was being done.
+[[noreturn]] void ThrowLastError(const std::string& doing);
+
+/// Shows the platform's text for the error that is being handled and what failed, then ends the program
+/// with exit code 1, at once: no exit command for the host, no remembered system. Only for catch blocks.
+[[noreturn]] void EndWithCurrentError() noexcept;
+
+/// Runs the body of a window, dialog or subclass procedure: no exception may cross the platform's callback.
+template <class Body>
+auto AtBoundary(Body&& body) noexcept {
+    try {
+        return body();
+    } catch (...) {
+        EndWithCurrentError();
+    }
+}
+
+} // namespace obrin

@@ -1,0 +1,65 @@
+// Files by the platform's own calls: every call is checked, and a file lives no longer than the function
+// that uses it. Paths are relative to the current directory, which never changes.
+#pragma once
+
+#include "platform/Handle.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace obrin {
+
+/// An open file. Other programs and workstations may read, write and replace it meanwhile: the files of the
+/// installation are shared without locks.
+class File {
+public:
+    enum class Use {
+        Read,      ///< must exist
+        ReadWrite, ///< created when missing
+        Truncate,  ///< for writing, created or emptied
+    };
+
+    /// Throws RunTimeError when the file cannot be opened so.
+    File(const std::string& filePath, Use use);
+
+    /// The next bytes, at most `most` (up to 1 GB); none at the end of the file. Throws RunTimeError.
+    std::string Read(std::size_t most);
+    /// Everything from the current position to the end. Throws RunTimeError.
+    std::string ReadToEnd();
+    /// Appends at the current position. Throws RunTimeError.
+    void Write(std::string_view bytes);
+    /// Moves the current position, in bytes from the start. Throws RunTimeError.
+    void Seek(std::uint64_t position);
+    /// Waits until the written bytes are on disk and closes the file. Throws RunTimeError, which is where a
+    /// share reports what it could not store.
+    void FlushAndClose();
+
+private:
+    [[noreturn]] void Fail(const char* doing) const;
+
+    std::string path;
+    UniqueFile handle;
+};
+
+/// All bytes of a file. Throws RunTimeError.
+std::string ReadFileBytes(const std::string& path);
+
+/// The first line of a file, of which no more is read than needed. Throws RunTimeError, also for a file
+/// without any byte.
+std::string ReadFirstLine(const std::string& path);
+
+/// Writes a whole file in its place (created or truncated). Throws RunTimeError.
+void WriteFileBytes(const std::string& path, std::string_view bytes);
+
+/// Gives a file new contents without ever being without the old or the new ones: they are complete on disk,
+/// under a name beside it, before they take the file's place. Throws RunTimeError and leaves the file alone.
+void ReplaceFileBytes(const std::string& path, std::string_view bytes);
+
+/// Whether a file (no folder) of that name exists. A name with wildcards names no file.
+bool FileExists(const std::string& path);
+
+/// Whether a folder listing of normal files shows that name: no folder, not hidden, no system file.
+bool NormalFileExists(const std::string& path);
+
+} // namespace obrin

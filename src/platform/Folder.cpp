@@ -1,0 +1,49 @@
+#include "platform/Folder.h"
+
+#include "common/Text.h"
+#include "platform/Failure.h"
+#include "platform/Handle.h"
+
+#include <array>
+
+namespace obrin {
+
+std::string CurrentFolder() {
+    std::string folder(GetCurrentDirectoryA(0, nullptr), '\0');
+    const DWORD length = GetCurrentDirectoryA(static_cast<DWORD>(folder.size()), folder.data());
+    if (length == 0 || length >= folder.size())
+        ThrowLastError("Reading the current folder");
+    folder.resize(length);
+    return folder;
+}
+
+std::vector<std::string> ListNormalFiles(const std::string& folder) {
+    constexpr DWORD unlisted = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
+    std::vector<std::string> names;
+    WIN32_FIND_DATAA entry;
+    const HANDLE found = FindFirstFileA((EnsureTrailingBackslash(folder) + "*").c_str(), &entry);
+    if (found == INVALID_HANDLE_VALUE) {
+        if (GetLastError() == ERROR_FILE_NOT_FOUND) // an empty drive root
+            return names;
+        ThrowLastError("Listing " + folder);
+    }
+    const UniqueSearch search(found);
+    do {
+        if ((entry.dwFileAttributes & unlisted) == 0)
+            names.emplace_back(entry.cFileName);
+    } while (FindNextFileA(search.get(), &entry));
+    if (GetLastError() != ERROR_NO_MORE_FILES)
+        ThrowLastError("Listing " + folder);
+    return names;
+}
+
+std::string ShortPath(const std::string& path) {
+    // One byte more than the call is told, so that its text always ends.
+    std::array<char, 165> buffer{};
+    constexpr DWORD size = buffer.size() - 1;
+    const DWORD length = GetShortPathNameA(path.c_str(), buffer.data(), size);
+    // Of a path that does not fit the call answers the length it would need, and the buffer holds nothing.
+    return length < size ? std::string(buffer.data(), length) : std::string();
+}
+
+} // namespace obrin

@@ -1,0 +1,19 @@
+// Folder listings.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace obrin {
+
+/// The process's current directory, the host installation folder. Throws RunTimeError.
+std::string CurrentFolder();
+
+/// Names of the normal files of a folder (read-only and archived ones too, no folders, no hidden or system
+/// files), in the order of the file system. Throws RunTimeError.
+std::vector<std::string> ListNormalFiles(const std::string& folder);
+
+/// The folder's short form, or an empty text when it cannot be had in 164 bytes.
+std::string ShortPath(const std::string& path);
+
+} // namespace obrin

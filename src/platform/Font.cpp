@@ -1,0 +1,35 @@
+#include "platform/Font.h"
+
+namespace obrin {
+
+UniqueFont MakeFont(const char* face, int points, UINT dpi, FontStyle style) {
+    constexpr int pointsPerInch = 72;
+    return UniqueFont(CreateFontA(-MulDiv(points, static_cast<int>(dpi), pointsPerInch), 0, 0, 0,
+                                  style.bold ? FW_BOLD : FW_NORMAL, FALSE, style.underlined ? TRUE : FALSE,
+                                  FALSE, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS,
+                                  CLEARTYPE_QUALITY, DEFAULT_PITCH | FF_DONTCARE, face));
+}
+
+UniqueFont MakeMessageFont(UINT dpi) {
+    NONCLIENTMETRICSW metrics{};
+    metrics.cbSize = sizeof metrics;
+    SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0, dpi);
+    return UniqueFont(CreateFontIndirectW(&metrics.lfMessageFont));
+}
+
+void SetFont(HWND control, HFONT font) {
+    SendMessageA(control, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+}
+
+SIZE MeasureText(HWND control, const std::string& text) {
+    const HDC context = GetDC(control);
+    const HGDIOBJ old =
+        SelectObject(context, reinterpret_cast<HFONT>(SendMessageA(control, WM_GETFONT, 0, 0)));
+    SIZE size{};
+    GetTextExtentPoint32A(context, text.data(), static_cast<int>(text.size()), &size);
+    SelectObject(context, old);
+    ReleaseDC(control, context);
+    return size;
+}
+
+} // namespace obrin

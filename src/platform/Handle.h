@@ -1,0 +1,31 @@
+// Ownership of the platform's handles.
+#pragma once
+
+#include "platform/WindowsApi.h"
+
+#include <memory>
+#include <type_traits>
+
+namespace obrin {
+
+/// Closes a file handle; INVALID_HANDLE_VALUE never gets this far.
+struct CloseFile {
+    void operator()(HANDLE handle) const { CloseHandle(handle); }
+};
+struct CloseSearch {
+    void operator()(HANDLE search) const { FindClose(search); }
+};
+struct DeleteGdiObject {
+    void operator()(HGDIOBJ object) const { DeleteObject(object); }
+};
+struct DeleteMemoryDc {
+    void operator()(HDC context) const { DeleteDC(context); }
+};
+
+using UniqueFile = std::unique_ptr<void, CloseFile>;
+using UniqueSearch = std::unique_ptr<void, CloseSearch>;
+using UniqueFont = std::unique_ptr<std::remove_pointer_t<HFONT>, DeleteGdiObject>;
+using UniqueBitmap = std::unique_ptr<std::remove_pointer_t<HBITMAP>, DeleteGdiObject>;
+using UniqueDc = std::unique_ptr<std::remove_pointer_t<HDC>, DeleteMemoryDc>;
+
+} // namespace obrin

@@ -1,0 +1,46 @@
+#include "platform/Picture.h"
+
+#include "platform/Failure.h"
+
+namespace obrin {
+
+UniqueBitmap LoadPicture(const std::string& path) {
+    SetLastError(0);
+    UniqueBitmap picture(static_cast<HBITMAP>(
+        LoadImageA(nullptr, path.c_str(), IMAGE_BITMAP, 0, 0, LR_LOADFROMFILE | LR_CREATEDIBSECTION)));
+    if (picture)
+        return picture;
+    const std::string doing = "Loading the picture " + path;
+    if (GetLastError() != 0)
+        ThrowLastError(doing);
+    throw RunTimeError(PlatformError::InvalidData, doing); // the call itself is silent about bad contents
+}
+
+UniqueBitmap ScalePicture(HBITMAP picture, UINT dpi) {
+    const SIZE size = PictureSize(picture);
+    const int width = MulDiv(size.cx, static_cast<int>(dpi), USER_DEFAULT_SCREEN_DPI);
+    const int height = MulDiv(size.cy, static_cast<int>(dpi), USER_DEFAULT_SCREEN_DPI);
+
+    const HDC screen = GetDC(nullptr);
+    UniqueBitmap scaled(CreateCompatibleBitmap(screen, width, height));
+    const UniqueDc from(CreateCompatibleDC(screen));
+    const UniqueDc to(CreateCompatibleDC(screen));
+    ReleaseDC(nullptr, screen);
+
+    const HGDIOBJ oldFrom = SelectObject(from.get(), picture);
+    const HGDIOBJ oldTo = SelectObject(to.get(), scaled.get());
+    SetStretchBltMode(to.get(), HALFTONE);
+    SetBrushOrgEx(to.get(), 0, 0, nullptr);
+    StretchBlt(to.get(), 0, 0, width, height, from.get(), 0, 0, size.cx, size.cy, SRCCOPY);
+    SelectObject(to.get(), oldTo);
+    SelectObject(from.get(), oldFrom);
+    return scaled;
+}
+
+SIZE PictureSize(HBITMAP picture) {
+    BITMAP description{};
+    GetObjectA(picture, sizeof description, &description);
+    return {description.bmWidth, description.bmHeight};
+}
+
+} // namespace obrin

@@ -1,0 +1,50 @@
+#include "platform/SupportLibrary.h"
+
+#include "platform/Failure.h"
+
+#include <oleauto.h>
+
+namespace obrin {
+
+namespace {
+
+constexpr const char* libraryName = "Corvel.dll";
+
+HMODULE Load() {
+    const HMODULE module = LoadLibraryExA(libraryName, nullptr,
+                                          LOAD_LIBRARY_SEARCH_APPLICATION_DIR | LOAD_LIBRARY_SEARCH_SYSTEM32);
+    if (module == nullptr)
+        ThrowLastError(std::string("Loading ") + libraryName);
+    return module;
+}
+
+template <class Routine>
+Routine Find(HMODULE module, const char* name) {
+    const FARPROC routine = GetProcAddress(module, name);
+    if (routine == nullptr)
+        ThrowLastError(std::string("Looking for ") + name + " in " + libraryName);
+    return reinterpret_cast<Routine>(routine);
+}
+
+} // namespace
+
+SupportLibrary::SupportLibrary()
+    : library(Load())
+    , getRegValue(Find<GetRoutine>(library.get(), "GetRegValue"))
+    , setRegValue(Find<SetRoutine>(library.get(), "SetRegValue")) {}
+
+std::string SupportLibrary::GetRegValue(HKEY root, const char* keyPath, const char* valueName) const {
+    // The library's strings hold bytes of the code page, not wide characters.
+    struct FreeString {
+        void operator()(wchar_t* text) const { SysFreeString(text); }
+    };
+    const std::unique_ptr<wchar_t, FreeString> text(getRegValue(root, keyPath, valueName));
+    return {reinterpret_cast<const char*>(text.get()), SysStringByteLen(text.get())};
+}
+
+void SupportLibrary::SetRegValue(HKEY root, const char* keyPath, const char* valueName,
+                                 const std::string& text) const {
+    setRegValue(root, keyPath, valueName, text.c_str());
+}
+
+} // namespace obrin

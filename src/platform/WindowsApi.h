@@ -1,0 +1,8 @@
+// The only place that includes <windows.h>: the A calls; the build defines the Windows version.
+#pragma once
+
+#include <windows.h>
+
+#include <commctrl.h>
+#include <shellapi.h>
+#include <windowsx.h>

@@ -1,0 +1,28 @@
+#include "platform/Workstation.h"
+
+#include "platform/WindowsApi.h"
+
+#include <array>
+
+namespace obrin {
+
+std::string UpperCase(std::string text) {
+    CharUpperBuffA(text.data(), static_cast<DWORD>(text.size()));
+    return text;
+}
+
+std::string LoginName() {
+    std::array<char, 100> buffer{};
+    DWORD size = buffer.size();
+    GetUserNameA(buffer.data(), &size);
+    buffer.back() = '\0';
+    return buffer.data();
+}
+
+std::string EnvironmentVariable(const char* name) {
+    std::string value(GetEnvironmentVariableA(name, nullptr, 0), '\0');
+    value.resize(GetEnvironmentVariableA(name, value.data(), static_cast<DWORD>(value.size())));
+    return value;
+}
+
+} // namespace obrin

@@ -1,0 +1,17 @@
+// What the workstation says of itself: its code page's upper case, the Windows user, environment variables.
+#pragma once
+
+#include <string>
+
+namespace obrin {
+
+/// Upper case by the workstation's ANSI code page.
+std::string UpperCase(std::string text);
+
+/// The Windows user's name, of up to 99 bytes; empty when Windows does not tell it.
+std::string LoginName();
+
+/// The value of an environment variable; empty when it is not set.
+std::string EnvironmentVariable(const char* name);
+
+} // namespace obrin

@@ -1,0 +1,47 @@
+// Numbers of the resources, controls and menu items; read by the resource compiler too.
+#pragma once
+
+#define IDI_OBRIN 1
+
+#define IDR_MENU_BAR 10
+#define IDR_TREE_POPUP 11
+
+#define IDD_INPUT_BOX 20
+#define IDD_UPDATE 21
+
+// Controls; each dialog has its own.
+#define IDC_PROMPT 100
+#define IDC_ANSWER 101
+
+#define IDC_FRAME1 200
+#define IDC_TREEVIEW1 201
+#define IDC_COMMAND1 202
+#define IDC_LABEL1 203
+#define IDC_IMAGE1 204
+#define IDC_LABEL2 205
+#define IDC_LABEL3 206
+#define IDC_LABEL4 207
+#define IDC_LABEL5 208
+
+// Items of the menu bar.
+#define ID_BACKUP 300
+#define ID_RESTORE 301
+#define ID_SELECT_CO 302
+#define ID_COPY_CO 303
+#define ID_ERASE_CO 304
+#define ID_REDIRECT_PRINT 305
+#define ID_UPDATE 306
+#define ID_PRINT_TEST 307
+#define ID_CORE_HELP 310
+#define ID_SYSTEM_HELP 311
+#define ID_WEBSITE 312
+#define ID_USER_SITE 313
+#define ID_ABOUT 314
+
+// Items of the tree's popup: mnuTreeView(1) and mnuTreeView(2).
+#define ID_TREE_PROPERTIES 321
+#define ID_TREE_HELP 322
+
+// mnuSystems(i) is ID_SYSTEMS + i; mnuSystems(99) is the template.
+#define ID_SYSTEMS 400
+#define ID_SYSTEMS_TEMPLATE 499

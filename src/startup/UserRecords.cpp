@@ -1,0 +1,51 @@
+#include "startup/UserRecords.h"
+
+#include "common/Numbers.h"
+#include "common/Text.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace obrin {
+
+namespace {
+
+constexpr std::size_t nameBytes = 100;
+constexpr std::size_t recordBytes = nameBytes + 2; // the rest of a slot is filler, which the last may lack
+
+unsigned Byte(std::string_view bytes, std::size_t at) {
+    return static_cast<unsigned char>(bytes[at]);
+}
+
+} // namespace
+
+UserScan ScanUserRecords(std::string_view file, std::string_view loginName) {
+    const auto wanted = TrimBlanks(loginName);
+    UserScan scan;
+    for (; file.size() >= recordBytes; ++scan.recordsRead) {
+        // No stop at a match: of several records of a user the last one counts.
+        if (TrimBlanks(file.substr(0, nameBytes)) == wanted)
+            scan.wsid = static_cast<std::int16_t>(Byte(file, nameBytes) | Byte(file, nameBytes + 1) << 8);
+        file.remove_prefix(std::min(userRecordSlot, file.size()));
+    }
+    return scan;
+}
+
+std::string UserWsidRecord(std::string_view loginName, std::int16_t wsid) {
+    std::string record(TrimBlanks(loginName));
+    record.resize(nameBytes, ' ');
+    const auto number = static_cast<std::uint16_t>(wsid);
+    record += static_cast<char>(number & 0xFF);
+    record += static_cast<char>(number >> 8);
+    record.resize(userRecordSlot, '\0');
+    return record;
+}
+
+std::optional<std::int16_t> ParseWsidAnswer(std::string_view answer) {
+    const auto value = ParseNumber(answer);
+    if (!value || !(*value > 0 && *value < 100) || std::trunc(*value) != *value)
+        return std::nullopt;
+    return static_cast<std::int16_t>(*value);
+}
+
+} // namespace obrin
