@@ -94,8 +94,13 @@ LRESULT frmMain::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_DPICHANGED:
         Form_DpiChanged(*reinterpret_cast<const RECT*>(lParam));
         return 0;
+    case WM_ACTIVATE:
+        if (LOWORD(wParam) == WA_INACTIVE)
+            focused = GetFocus();
+        break;
     case WM_SETFOCUS:
-        SetFocus(TreeView1.Window());
+        // Back from another window: the control that had the keyboard before.
+        SetFocus(IsChild(window, focused) ? focused : TreeView1.Window());
         return 0;
     case WM_SETCURSOR:
         if (OnSetCursor(reinterpret_cast<HWND>(wParam), LOWORD(lParam)))
@@ -293,7 +298,7 @@ void frmMain::CreateControls() {
     Label3 = CreateControl(window, WC_STATICA, IDC_LABEL3, label);
     Label4 = CreateControl(window, WC_STATICA, IDC_LABEL4, label, "Got a better idea?");
     Label5 = CreateControl(window, WC_STATICA, IDC_LABEL5, label | SS_NOTIFY, "E-Mail us!");
-    // A group box neither hands on what its children say nor colours their background.
+    // A group box neither hands on what its children say nor paints what is between them.
     SetWindowSubclass(Frame1, Frame1Procedure, 0, reinterpret_cast<DWORD_PTR>(this));
     SetWindowSubclass(TreeView1.Window(), TreeView1Procedure, 0, reinterpret_cast<DWORD_PTR>(this));
 
@@ -371,6 +376,12 @@ LRESULT CALLBACK frmMain::Frame1Procedure(HWND frame, UINT message, WPARAM wPara
     case WM_CTLCOLORBTN:
     case WM_CTLCOLORSTATIC:
         return SendMessageA(reinterpret_cast<frmMain*>(self)->window, message, wParam, lParam);
+    case WM_ERASEBKGND: {
+        RECT inner;
+        GetClientRect(frame, &inner);
+        FillRect(reinterpret_cast<HDC>(wParam), &inner, GetSysColorBrush(COLOR_BTNFACE));
+        return TRUE;
+    }
     default:
         return DefSubclassProc(frame, message, wParam, lParam);
     }

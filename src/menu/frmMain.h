@@ -78,6 +78,8 @@ private:
     HWND Label4 = nullptr;
     HWND Label5 = nullptr; // link
 
+    HWND focused = nullptr; // control that had the keyboard when the window was last active
+
     UINT dpi = USER_DEFAULT_SCREEN_DPI;
     UniqueFont titleFont, labelFont, linkFont, buttonFont, messageFont;
     UniqueBitmap picture, scaledPicture;

@@ -18,6 +18,8 @@ INT_PTR CALLBACK Dialog::Procedure(HWND dialogWindow, UINT message, WPARAM wPara
     if (message == WM_INITDIALOG) {
         SetWindowLongPtrA(dialogWindow, DWLP_USER, lParam);
         reinterpret_cast<Dialog*>(lParam)->window = dialogWindow;
+        const HICON icon = LoadIconA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(IDI_OBRIN));
+        SendMessageA(dialogWindow, WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(icon));
     }
     auto* dialog = reinterpret_cast<Dialog*>(GetWindowLongPtrA(dialogWindow, DWLP_USER));
     if (dialog == nullptr)

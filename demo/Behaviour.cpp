@@ -1,0 +1,43 @@
+#include "Behaviour.h"
+
+#include <windows.h>
+
+#include <charconv>
+
+namespace fenn {
+
+namespace {
+
+std::string Variable(const char* name) {
+    const DWORD size = GetEnvironmentVariableA(name, nullptr, 0); // counts the closing NUL
+    if (size == 0)
+        return {};
+    std::string value(size, '\0');
+    value.resize(GetEnvironmentVariableA(name, value.data(), size));
+    return value;
+}
+
+/// Milliseconds; a text that is no number leaves the default.
+unsigned Duration(const char* name, unsigned byDefault) {
+    const std::string text = Variable(name);
+    unsigned value = byDefault;
+    std::from_chars(text.data(), text.data() + text.size(), value);
+    return value;
+}
+
+} // namespace
+
+Behaviour Behaviour::FromEnvironment() {
+    Behaviour behaviour;
+    behaviour.logFile = Variable("FENN_LOG");
+    behaviour.windowDelay = Duration("FENN_WINDOW_DELAY_MS", behaviour.windowDelay);
+    behaviour.startDelay = Duration("FENN_START_DELAY_MS", behaviour.startDelay);
+    const std::string never = Variable("FENN_NEVER");
+    behaviour.neverShowsWindow = never == "window";
+    behaviour.neverSetsCaption = never == "caption";
+    behaviour.hangLine = Variable("FENN_HANG");
+    behaviour.hangDuration = Duration("FENN_HANG_MS", behaviour.hangDuration);
+    return behaviour;
+}
+
+} // namespace fenn
