@@ -28,6 +28,10 @@ constexpr std::array<UpdateFile, 5> updateFiles{{
     {"Tessel\\Exe\\Glass.Exe", "Glass.exe"},
 }};
 
+// The first resize notification, which starts the first copy. The dialog manager's own comes at another
+// moment on each platform, on some before the window can be seen.
+constexpr UINT firstShown = WM_APP;
+
 // A file that cannot be copied is passed over: the next one is tried, and nobody is told.
 void CopyUnexamined(const char* source, const std::string& destination) {
     CopyFileA(source, destination.c_str(), FALSE);
@@ -43,9 +47,15 @@ INT_PTR frmUpdate::OnMessage(UINT message, WPARAM wParam, LPARAM) {
     switch (message) {
     case WM_INITDIALOG:
         Form_Load();
+        PostMessageA(window, firstShown, 0, 0);
+        return TRUE;
+    case firstShown:
+        shown = true;
+        Form_Resize();
         return TRUE;
     case WM_SIZE:
-        Form_Resize();
+        if (shown)
+            Form_Resize();
         return TRUE;
     case WM_COMMAND:
         if (LOWORD(wParam) != IDOK && LOWORD(wParam) != IDCANCEL)
@@ -104,6 +114,7 @@ void frmUpdate::CopyFiles() {
     }
     show("Complete");
     ShowWindow(Command1, SW_SHOW);
+    SetFocus(Command1);
 }
 
 void CheckWorkstationUpdate(HWND frmMain, int wsid) {

@@ -21,6 +21,7 @@ private:
     HWND Label2 = nullptr;   // what is going on
     HWND Command1 = nullptr; // "O&kay"
     UniqueFont font;
+    bool shown = false;
     int copiesDue = 0; // resize notifications whose copy sequence has not ended
 };
 
