@@ -1,0 +1,56 @@
+#include "common/Numbers.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace obrin {
+namespace {
+
+TEST(Numbers, AreWrittenInThreeWays) {
+    struct {
+        int number;
+        const char *withSign, *plain, *twoDigits, *threeDigits;
+    } const cases[] = {
+        {5, " 5", "5", "05", "005"}, {42, " 42", "42", "42", "042"},  {99, " 99", "99", "99", "099"},
+        {0, " 0", "0", "00", "000"}, {-7, "-7", "-7", "-07", "-007"}, {1234, " 1234", "1234", "1234", "1234"},
+    };
+    for (const auto& [number, withSign, plain, twoDigits, threeDigits] : cases) {
+        EXPECT_EQ(SignedDecimal(number), withSign);
+        EXPECT_EQ(PlainDecimal(number), plain);
+        EXPECT_EQ(PaddedDecimal(number, 2), twoDigits);
+        EXPECT_EQ(PaddedDecimal(number, 3), threeDigits);
+    }
+    EXPECT_EQ(PaddedDecimal(std::numeric_limits<int>::min(), 2), "-2147483648");
+}
+
+TEST(Numbers, ThousandthsAreShort) {
+    struct {
+        int thousandths;
+        const char* text;
+    } const cases[] = {{500, "0.5"}, {1000, "1"},  {250, "0.25"}, {1250, "1.25"},  {4000, "4"},
+                       {0, "0"},     {1, "0.001"}, {10000, "10"}, {1001, "1.001"}, {-500, "-0.5"}};
+    for (const auto& [thousandths, text] : cases)
+        EXPECT_EQ(ShortestThousandths(thousandths), text);
+}
+
+TEST(Numbers, AreRead) {
+    struct {
+        const char* text;
+        std::optional<double> whole;
+        double leading;
+    } const cases[] = {
+        {"12", 12, 12}, {" 12 ", 12, 12},  {"+5", 5, 5},    {"-3", -3, -3},     {"2.5", 2.5, 2.5},
+        {"5.", 5, 5},   {".5", .5, .5},    {"1e1", 10, 10}, {"", {}, 0},        {" ", {}, 0},
+        {"abc", {}, 0}, {"12abc", {}, 12}, {"1 2", {}, 1},  {"1,5", {}, 1},     {"0x1F", {}, 0},
+        {"inf", {}, 0}, {"nan", {}, 0},    {".", {}, 0},    {"-", {}, 0},       {"0.5 in", {}, .5},
+        {"1e", {}, 1},  {"\t5", {}, 0},    {"5\t", {}, 5},  {"1.2.3", {}, 1.2},
+    };
+    for (const auto& [text, whole, leading] : cases) {
+        EXPECT_EQ(ParseNumber(text), whole) << '"' << text << '"';
+        EXPECT_EQ(LeadingNumber(text), leading) << '"' << text << '"';
+    }
+}
+
+} // namespace
+} // namespace obrin

@@ -1,0 +1,32 @@
+#include "maintenance/UpdateRegister.h"
+
+#include <gtest/gtest.h>
+
+namespace obrin {
+namespace {
+
+TEST(UpdateRegister, KeysHaveThreeDigits) {
+    EXPECT_EQ(UpdateKey(5), "005");
+    EXPECT_EQ(UpdateKey(42), "042");
+}
+
+TEST(UpdateRegister, FindsTheKeyOrThePlaceForIt) {
+    struct {
+        const char* bytes;
+        const char* key;
+        bool updated;
+        std::size_t record;
+    } const cases[] = {
+        {"", "005", false, 1},        {"001002", "002", true, 2},  {"001002", "003", false, 3},
+        {"001002X", "009", false, 3}, {"00", "001", false, 1},     {"42 042", "042", true, 2},
+        {"42 ", "042", false, 2},     {"900500", "005", false, 3}, // only whole records count
+    };
+    for (const auto& [bytes, key, updated, record] : cases) {
+        const auto found = FindUpdateKey(bytes, key);
+        EXPECT_EQ(found.updated, updated) << bytes;
+        EXPECT_EQ(found.record, record) << bytes;
+    }
+}
+
+} // namespace
+} // namespace obrin

@@ -1,0 +1,33 @@
+// An empty folder that is the current directory as long as the object lives.
+#pragma once
+
+#include "platform/WindowsApi.h"
+
+#include <filesystem>
+
+namespace obrin::test {
+
+class ScratchFolder {
+public:
+    ScratchFolder()
+        : before(std::filesystem::current_path()) {
+        path =
+            std::filesystem::temp_directory_path() / ("obrin-test-" + std::to_string(GetCurrentProcessId()));
+        std::filesystem::create_directories(path);
+        std::filesystem::current_path(path);
+    }
+    ScratchFolder(const ScratchFolder&) = delete;
+    ScratchFolder& operator=(const ScratchFolder&) = delete;
+    ~ScratchFolder() {
+        std::filesystem::current_path(before);
+        std::error_code ignored;
+        std::filesystem::remove_all(path, ignored);
+    }
+
+    std::filesystem::path path;
+
+private:
+    std::filesystem::path before;
+};
+
+} // namespace obrin::test

@@ -1,0 +1,36 @@
+#include "startup/HostConfiguration.h"
+
+#include <gtest/gtest.h>
+
+#include <cctype>
+
+namespace obrin {
+namespace {
+
+std::string Upper(std::string text) {
+    for (char& c : text)
+        c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+    return text;
+}
+
+TEST(HostConfiguration, FirstPassBlanksDriveLinesAndKeepsTheOthers) {
+    struct {
+        const char *before, *after;
+    } const cases[] = {
+        {"DRIVE A\r\nx\r\ndrive\r\nDrive S,C:\\OLD,X,\\\r\n", "\r\nx\r\n\r\n\r\n"},
+        {"Drivers=3\r\nMyDrive\r\nDriv\r\n Drive\r\n", "\r\nMyDrive\r\nDriv\r\n Drive\r\n"},
+        {"\x80\xFF\tx\r\n  \r\nlast", "\x80\xFF\tx\r\n  \r\nlast\r\n"},
+        {"", ""},
+    };
+    for (const auto& [before, after] : cases)
+        EXPECT_EQ(BlankDriveLines(before, Upper), after);
+}
+
+TEST(HostConfiguration, SecondPassPutsTheDriveLineFirstAndDropsBlankLines) {
+    EXPECT_EQ(WithDriveLine("C:\\APPS\\HOST", "\r\na\r\n   \r\n b \r\n\t\r\n"),
+              "Drive S,C:\\APPS\\HOST,X,\\\r\na\r\n b \r\n\t\r\n");
+    EXPECT_EQ(WithDriveLine("", ""), "Drive S,,X,\\\r\n") << "a folder without a short form";
+}
+
+} // namespace
+} // namespace obrin
