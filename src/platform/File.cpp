@@ -148,9 +148,9 @@ void ReplaceFileBytes(const std::string& path, std::string_view bytes) {
         WriteFileBytes(beside, bytes);
         if (!MoveWithPatience(beside, path))
             ThrowLastError("Writing " + path);
-    } catch (...) {
+    } catch (const RunTimeError& error) {
         DeleteFileA(beside.c_str());
-        throw;
+        throw RunTimeError(error.Code(), "Writing " + path); // the file that the user knows
     }
 }
 

@@ -179,6 +179,19 @@ TEST(Launcher, SwitchesSystemsAndRemembersTheLast) {
     EXPECT_FALSE(FileExists("Menu 5.txt"));
 }
 
+TEST(Launcher, ShowsTheRememberedSystemWhileItsFileIsThere) {
+    for (const auto& [remembered, code] :
+         {std::pair{"Ledger.txt", "LE"}, {"gone.mnu", "UB"}, {"Core", "UB"}, {"*.mnu", "UB"}}) {
+        const Installation installation;
+        installation.KnowUser(5);
+        WriteFileBytes("Ledger.txt",
+                       "General Ledger\r\n"); // a remembered file need not look like a menu file
+        RememberSystem(remembered);
+        const Launcher launcher;
+        EXPECT_TRUE(installation.HostHasTyped(code)) << remembered;
+    }
+}
+
 TEST(Launcher, RightClickSelectsAndOffersThePopup) {
     const Installation installation;
     installation.KnowUser(5);
