@@ -9,17 +9,6 @@ std::string_view TrimBlanks(std::string_view text) {
     return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
-std::vector<std::string_view> Split(std::string_view text, char separator) {
-    std::vector<std::string_view> fields;
-    for (;;) {
-        const auto end = text.find(separator);
-        fields.push_back(text.substr(0, end));
-        if (end == std::string_view::npos)
-            return fields;
-        text.remove_prefix(end + 1);
-    }
-}
-
 std::string EnsureTrailingBackslash(std::string path) {
     if (path.empty() || path.back() != '\\')
         path += '\\';

@@ -3,7 +3,6 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace obrin {
 
@@ -12,9 +11,6 @@ using UpperCaser = std::string (*)(std::string);
 
 /// Without leading and trailing spaces. Tabs and other white space are text.
 std::string_view TrimBlanks(std::string_view text);
-
-/// The fields between the separators; a text without a separator is one field.
-std::vector<std::string_view> Split(std::string_view text, char separator);
 
 /// With a "\" appended when the last character is not one; an empty path becomes "\".
 std::string EnsureTrailingBackslash(std::string path);

@@ -5,7 +5,8 @@
 namespace obrin {
 
 std::string UpdateKey(int wsid) {
-    return PaddedDecimal(wsid, static_cast<int>(updateKeyBytes));
+    // A damaged user record can hold a number of more digits than a key.
+    return PaddedDecimal(wsid, static_cast<int>(updateKeyBytes)).substr(0, updateKeyBytes);
 }
 
 UpdateSearch FindUpdateKey(std::string_view registerBytes, std::string_view key) {

@@ -9,7 +9,7 @@ namespace obrin {
 
 constexpr std::size_t updateKeyBytes = 3;
 
-/// The key of a workstation: 5 is "005".
+/// The key of a workstation, always three bytes: 5 is "005".
 std::string UpdateKey(int wsid);
 
 struct UpdateSearch {

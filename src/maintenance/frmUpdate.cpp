@@ -31,6 +31,7 @@ constexpr std::array<UpdateFile, 5> updateFiles{{
 // The first resize notification, which starts the first copy. The dialog manager's own comes at another
 // moment on each platform, on some before the window can be seen.
 constexpr UINT firstShown = WM_APP;
+constexpr UINT fontDue = WM_APP + 1;
 
 // A file that cannot be copied is passed over: the next one is tried, and nobody is told.
 void CopyUnexamined(const char* source, const std::string& destination) {
@@ -60,7 +61,13 @@ INT_PTR frmUpdate::OnMessage(UINT message, WPARAM wParam, LPARAM) {
     case WM_COMMAND:
         if (LOWORD(wParam) != IDOK && LOWORD(wParam) != IDCANCEL)
             return FALSE;
-        EndDialog(window, 0);
+        Command1_Click();
+        return TRUE;
+    case WM_DPICHANGED:
+        PostMessageA(window, fontDue, 0, 0); // once the dialog manager has set its own
+        return FALSE;
+    case fontDue:
+        ApplyFont();
         return TRUE;
     default:
         return FALSE;
@@ -71,9 +78,7 @@ void frmUpdate::Form_Load() {
     Label1 = Control(IDC_LABEL1);
     Label2 = Control(IDC_LABEL2);
     Command1 = Control(IDOK);
-    font = MakeFont("Georgia", 10, GetDpiForWindow(window));
-    SetFont(Label1, font.get());
-    SetFont(Label2, font.get());
+    ApplyFont();
 
     // A quarter of its own height below the menu window's top and half its own width right of its left edge.
     RECT menu;
@@ -83,6 +88,21 @@ void frmUpdate::Form_Load() {
     const int top = menu.top + (own.bottom - own.top) / 2 / 2;
     const int left = menu.left + (own.right - own.left) / 2;
     SetWindowPos(window, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void frmUpdate::ApplyFont() {
+    UniqueFont georgia = MakeFont("Georgia", 10, GetDpiForWindow(window));
+    SetFont(Label1, georgia.get());
+    SetFont(Label2, georgia.get());
+    font = std::move(georgia);
+}
+
+// Closed while files are copied, the window stays until they are: the register will say that the workstation
+// has them all, and the menu must not be used meanwhile.
+void frmUpdate::Command1_Click() {
+    closing = true;
+    if (copiesDue == 0)
+        EndDialog(window, 0);
 }
 
 void frmUpdate::Form_Resize() {
@@ -99,6 +119,8 @@ void frmUpdate::Form_Resize() {
         return;
     for (; copiesDue > 0; --copiesDue)
         CopyFiles();
+    if (closing)
+        EndDialog(window, 0);
 }
 
 void frmUpdate::CopyFiles() {
@@ -108,8 +130,7 @@ void frmUpdate::CopyFiles() {
     for (const auto& [source, destination] : updateFiles) {
         show(destination);
         CopyUnexamined(source, EnsureTrailingBackslash(EnvironmentVariable("Tessel")) + destination);
-        // The window may be closed in here. The remaining files are copied all the same, since the register
-        // will say that the workstation has them; texts set on a window that is gone go nowhere.
+        // The end of the Windows session may destroy the window in here; texts set on it then go nowhere.
         ProcessPendingEvents();
     }
     show("Complete");

@@ -15,6 +15,8 @@ private:
     INT_PTR OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void Form_Load();
     void Form_Resize();
+    void ApplyFont();
+    void Command1_Click();
     void CopyFiles();
 
     HWND Label1 = nullptr;   // progress
@@ -22,7 +24,8 @@ private:
     HWND Command1 = nullptr; // "O&kay"
     UniqueFont font;
     bool shown = false;
-    int copiesDue = 0; // resize notifications whose copy sequence has not ended
+    int copiesDue = 0;    // resize notifications whose copy sequence has not ended
+    bool closing = false; // the user has closed the window while files were copied
 };
 
 /// Once per workstation: shows the update window for a workstation that "Updated.txt" does not name, then

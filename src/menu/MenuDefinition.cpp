@@ -2,10 +2,10 @@
 
 #include "common/Lines.h"
 #include "common/RunTimeError.h"
-#include "common/Text.h"
 
 #include <algorithm>
 #include <limits>
+#include <optional>
 #include <unordered_set>
 
 namespace obrin {
@@ -19,11 +19,11 @@ public:
         , fileName(name) {}
 
     MenuDefinition Parse() {
-        const auto header = lines.Next();
+        const auto header = NextLine();
         if (!header)
             Fail(PlatformError::EndOfFile, "the file has no header line");
         MenuDefinition definition{.title = std::string(HeaderTitle(*header)), .entries = {}};
-        while (const auto line = lines.Next()) {
+        while (const auto line = NextLine()) {
             if (counter == std::numeric_limits<std::int16_t>::max())
                 Fail(PlatformError::ArithmeticOverflow, "more entries than a menu can count");
             ++counter;
@@ -33,6 +33,11 @@ public:
     }
 
 private:
+    std::optional<std::string_view> NextLine() {
+        ++lineNumber;
+        return lines.Next();
+    }
+
     MenuEntry ParseEntry(std::string_view line) {
         const auto depth = std::min(line.find_first_not_of('>'), line.size());
         line.remove_prefix(depth);
@@ -47,8 +52,11 @@ private:
     MenuEntry ProgramEntry(std::string_view line, std::int16_t parent) {
         std::string cleaned(line);
         std::erase(cleaned, '>');
-        const auto fields = Split(cleaned, '^');
-        MenuEntry entry{.text = std::string(fields[0]), .key = std::string(fields[1]), .parent = parent};
+        const auto textEnd = cleaned.find('^');
+        const auto keyEnd = cleaned.find('^', textEnd + 1); // further fields are nobody's
+        MenuEntry entry{.text = cleaned.substr(0, textEnd),
+                        .key = cleaned.substr(textEnd + 1, keyEnd - textEnd - 1),
+                        .parent = parent};
         if (entry.key.empty())
             return entry;
         // Nodes are found by index or by key, so a number cannot be a key.
@@ -69,11 +77,12 @@ private:
 
     [[noreturn]] void Fail(PlatformError error, const std::string& reason) const {
         throw RunTimeError(error,
-                           std::string(fileName) + ", line " + std::to_string(counter + 1) + ": " + reason);
+                           std::string(fileName) + ", line " + std::to_string(lineNumber) + ": " + reason);
     }
 
     LineReader lines;
     std::string_view fileName;
+    int lineNumber = 0;
     std::int16_t counter = 0;                 // of entry lines; the tree index of the entry at hand
     std::vector<std::int16_t> headings = {0}; // per depth the last heading's tree index, 0 for none
     std::unordered_set<std::string> keys;

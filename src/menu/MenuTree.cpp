@@ -92,10 +92,11 @@ bool MenuTree::IsProgramNode() const {
     return node != nullptr && node->hasText && !node->key.empty();
 }
 
-std::optional<RECT> MenuTree::SelectedTextPosition() const {
+std::optional<RECT> MenuTree::ShowSelectedText() const {
     const HTREEITEM selected = Selected();
     if (selected == nullptr)
         return std::nullopt;
+    SendMessageA(window, TVM_ENSUREVISIBLE, 0, reinterpret_cast<LPARAM>(selected));
     // The message takes the item in the place where it leaves the rectangle.
     union {
         HTREEITEM item;

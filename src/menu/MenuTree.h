@@ -25,8 +25,9 @@ public:
     const std::string& SelectedKey() const;
     /// True when the selected node has a text and a key.
     bool IsProgramNode() const;
-    /// Where the selected node's text stands, in the tree's own pixels; nothing when it is out of sight.
-    std::optional<RECT> SelectedTextPosition() const;
+    /// Brings the selected node into sight and tells where its text stands, in the tree's own pixels; nothing
+    /// without a selection.
+    std::optional<RECT> ShowSelectedText() const;
 
 private:
     struct Node {

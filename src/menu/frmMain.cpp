@@ -15,7 +15,6 @@
 #include "platform/Workstation.h"
 #include "resources/Ids.h"
 #include "startup/HostKeys.h"
-#include "startup/HostLink.h"
 #include "startup/WorkstationIdentity.h"
 
 #include <array>
@@ -27,6 +26,9 @@ namespace {
 constexpr const char* className = "ObrinMenu.frmMain";
 constexpr const char* registryKey = "Software\\Obrin";
 constexpr const char* lastSystemValue = "LastSystem";
+// Runs the selected program once the tree has finished with the event that asks for it: the update and the
+// host may take their time, and the window may be closed meanwhile, with the tree in it.
+constexpr UINT runSelected = WM_APP;
 constexpr DWORD windowStyle = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
 
 HINSTANCE Instance() {
@@ -113,6 +115,9 @@ LRESULT frmMain::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_BTNFACE));
         }
         break;
+    case runSelected:
+        RunSelectedProgram();
+        return 0;
     case WM_CLOSE:
         Form_Unload();
         return 0;
@@ -165,8 +170,7 @@ bool frmMain::OnSetCursor(HWND under, int hitTest) {
     return true;
 }
 
-// --- Load, resize, unload
-// ---------------------------------------------------------------------------------------
+// --- Load, resize, unload ---
 
 bool frmMain::Form_Load() {
     RECT outer;
@@ -178,14 +182,14 @@ bool frmMain::Form_Load() {
     FillSystemList();
 
     // Set already when the window is loaded a second time in the same run: number and link then stay.
-    if (hostCommandWindow == nullptr) {
+    if (!hostLink.Stands()) {
         const std::string loginName = LoginName();
         wsid = EstablishIdentity(window, loginName);
         if (!IsWindow(window))
             return false;
         SetLabel(Label2, UserCaption(loginName));
         SetLabel(Label3, WsidCaption(wsid));
-        hostCommandWindow = StartHost(window, wsid);
+        hostLink.StartHost(window, wsid);
         if (!IsWindow(window))
             return false;
     }
@@ -269,10 +273,10 @@ void frmMain::Form_DpiChanged(const RECT& suggested) {
 // The window is about to close, for whatever reason: the close box, the end of the Windows session, another
 // program's request.
 void frmMain::Form_Unload() {
-    if (unloading)
-        return; // asked again while the host handles the exit command
+    if (unloading || IsEndingWithError())
+        return; // asked again while the host handles the exit command, or while an error is shown
     unloading = true;
-    SendHostCommand(hostCommandWindow, "Run Core\\Exit\r");
+    hostLink.SendHostCommand("Run Core\\Exit\r");
     // Closed before any system was shown, there is none to remember: the earlier one stays remembered.
     if (!currentSystem.empty())
         corvel.SetRegValue(HKEY_LOCAL_MACHINE, registryKey, lastSystemValue, currentSystem);
@@ -280,8 +284,7 @@ void frmMain::Form_Unload() {
     DestroyWindow(window);
 }
 
-// --- Controls
-// ---------------------------------------------------------------------------------------------------
+// --- Controls ---
 
 void frmMain::CreateControls() {
     Frame1 =
@@ -337,9 +340,13 @@ void frmMain::ApplyFonts() {
 void frmMain::ShowPicture() {
     if (!picture)
         return;
-    // The label must have let go of the old picture before it is deleted.
+    // The control must have let go of the old picture before it is deleted. Of some pictures it makes a copy,
+    // which it then hands over as the old one.
     UniqueBitmap scaled = ScalePicture(picture.get(), dpi);
-    SendMessageA(Image1, STM_SETIMAGE, IMAGE_BITMAP, reinterpret_cast<LPARAM>(scaled.get()));
+    UniqueBitmap old(reinterpret_cast<HBITMAP>(
+        SendMessageA(Image1, STM_SETIMAGE, IMAGE_BITMAP, reinterpret_cast<LPARAM>(scaled.get()))));
+    if (old == scaledPicture)
+        old.release(); // one and the same
     scaledPicture = std::move(scaled);
 }
 
@@ -387,8 +394,7 @@ LRESULT CALLBACK frmMain::Frame1Procedure(HWND frame, UINT message, WPARAM wPara
     }
 }
 
-// --- The tree
-// ---------------------------------------------------------------------------------------------------
+// --- The tree ---
 
 LRESULT CALLBACK frmMain::TreeView1Procedure(HWND tree, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
                                              DWORD_PTR data) {
@@ -422,12 +428,12 @@ LRESULT CALLBACK frmMain::TreeView1Procedure(HWND tree, UINT message, WPARAM wPa
 }
 
 void frmMain::TreeView1_DblClick() {
-    RunSelectedProgram();
+    PostMessageA(window, runSelected, 0, 0);
 }
 
 void frmMain::TreeView1_KeyPress(int character) {
     if (character == VK_RETURN)
-        RunSelectedProgram();
+        PostMessageA(window, runSelected, 0, 0);
 }
 
 void frmMain::Command1_Click() {
@@ -453,7 +459,7 @@ void frmMain::TreeView1_RightMouseDown() {
 }
 
 void frmMain::TreeView1_MenuKey() {
-    const auto text = TreeView1.SelectedTextPosition();
+    const auto text = TreeView1.ShowSelectedText();
     if (!text)
         return;
     POINT below{text->left, text->bottom};
@@ -463,9 +469,10 @@ void frmMain::TreeView1_MenuKey() {
 
 // The popup of the selected program, at a place of the screen; headings have none.
 void frmMain::PopUp(int x, int y) {
-    if (TreeView1.SelectedKey().empty())
+    const std::string& key = TreeView1.SelectedKey();
+    if (key.empty())
         return;
-    propertiesKey = TreeView1.SelectedKey();
+    propertiesKey = key;
     struct Destroy {
         void operator()(HMENU menu) const { DestroyMenu(menu); }
     };
@@ -479,8 +486,7 @@ void frmMain::mnuTreeView_Click(int item) {
         MessageBoxA(window, "Option not available. In Developement.", "Warning", MB_OK);
 }
 
-// --- Systems and programs
-// -----------------------------------------------------------------------------------------
+// --- Systems and programs ---
 
 void frmMain::mnuSystems_Click(std::size_t index) {
     LoadSystem(MnuFiles[index].name);
@@ -490,7 +496,8 @@ void frmMain::LoadSystem(const std::string& fileName) {
     currentSystem = fileName;
     TreeView1.Clear();
     const MenuDefinition definition = ParseMenuDefinition(ReadFileBytes(fileName), fileName);
-    constexpr const char* pictureFile = "Startup.bmp";
+    // With its folder: the platform looks for a bare name in other folders too.
+    const std::string pictureFile = EnsureTrailingBackslash(CurrentFolder()) + "Startup.bmp";
     if (NormalFileExists(pictureFile)) {
         picture = LoadPicture(pictureFile);
         ShowPicture();
@@ -501,7 +508,7 @@ void frmMain::LoadSystem(const std::string& fileName) {
     SetLabel(Label1, title);
     Form_Resize(); // title and picture are centred by their own widths
     TreeView1.Fill(definition.entries);
-    SendHostCommand(hostCommandWindow, StartSystem(SystemCode(fileName)));
+    hostLink.SendHostCommand(StartSystem(SystemCode(fileName)));
 }
 
 void frmMain::RunSelectedProgram() {
@@ -512,7 +519,7 @@ void frmMain::RunSelectedProgram() {
 }
 
 void frmMain::RunHostProgram(std::string_view program) {
-    SendHostCommand(hostCommandWindow, LoadAndRun(program));
+    hostLink.SendHostCommand(LoadAndRun(program));
     AfterHostCommand();
 }
 

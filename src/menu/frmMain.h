@@ -6,6 +6,7 @@
 #include "menu/MenuTree.h"
 #include "platform/Handle.h"
 #include "platform/SupportLibrary.h"
+#include "startup/HostLink.h"
 
 #include <cstdint>
 #include <optional>
@@ -88,7 +89,7 @@ private:
     bool crosshair = false; // from the link label until the window's own background
 
     std::int16_t wsid = 0;
-    HWND hostCommandWindow = nullptr;
+    HostLink hostLink;
     std::vector<MenuFile> MnuFiles;
     std::string currentSystem; // the tag of mnuSystems(99): the menu file shown
     std::string propertiesKey; // the tag of TreeView1: the program last right-clicked

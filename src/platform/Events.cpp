@@ -25,9 +25,22 @@ int RunEvents(HWND window) {
     return static_cast<int>(message.wParam);
 }
 
-void PauseForEvents() {
+namespace {
+constexpr DWORD highResolution = 2; // CREATE_WAITABLE_TIMER_HIGH_RESOLUTION, which MinGW's headers lack
+} // namespace
+
+EventPause::EventPause()
+    : timer(CreateWaitableTimerExW(nullptr, nullptr, highResolution, TIMER_ALL_ACCESS)) {}
+
+void EventPause::Sleep() const {
     constexpr DWORD longest = 10; // milliseconds
-    MsgWaitForMultipleObjectsEx(0, nullptr, longest, QS_ALLINPUT, MWMO_INPUTAVAILABLE);
+    // A plain time-out ends with a tick of the clock, up to 16 ms later than asked for.
+    LARGE_INTEGER due;
+    due.QuadPart = -10'000LL * longest; // in units of 100 ns, from now
+    const HANDLE handle = timer.get();
+    const bool timed = handle != nullptr && SetWaitableTimer(handle, &due, 0, nullptr, nullptr, FALSE);
+    MsgWaitForMultipleObjectsEx(timed ? 1 : 0, &handle, timed ? 2 * longest : longest, QS_ALLINPUT,
+                                MWMO_INPUTAVAILABLE);
 }
 
 } // namespace obrin

@@ -1,7 +1,7 @@
 // Window events while a handler of ours is at work.
 #pragma once
 
-#include "platform/WindowsApi.h"
+#include "platform/Handle.h"
 
 namespace obrin {
 
@@ -13,21 +13,29 @@ void ProcessPendingEvents();
 /// Returns the exit code.
 int RunEvents(HWND window);
 
-/// Sleeps until an event arrives, at most 10 ms: short enough not to be noticed, long enough not to load a
-/// core.
-void PauseForEvents();
+/// A pause between two tries: short enough not to be noticed, long enough not to load a core.
+class EventPause {
+public:
+    EventPause();
+    /// Sleeps until an event arrives, at most 10 ms.
+    void Sleep() const;
+
+private:
+    UniqueFile timer; // none on a Windows that has no timers finer than its clock's ticks
+};
 
 /// Tries until `condition` holds, without a time limit, and processes events after each unsuccessful try.
 /// Returns false when `window` was closed meanwhile.
 template <class Condition>
 bool WaitUntil(HWND window, Condition condition) {
-    while (!condition()) {
+    const EventPause pause;
+    while (IsWindow(window)) {
+        if (condition())
+            return true;
         ProcessPendingEvents();
-        if (!IsWindow(window))
-            return false;
-        PauseForEvents();
+        pause.Sleep();
     }
-    return true;
+    return false;
 }
 
 } // namespace obrin

@@ -15,7 +15,10 @@ std::string PlatformText(DWORD code) {
     return result.empty() ? "Error " + std::to_string(code) : result;
 }
 
+bool ending = false;
+
 [[noreturn]] void End(DWORD code, const char* doing) noexcept {
+    ending = true;
     // Task-modal: no other window of ours may act while the program ends.
     MessageBoxA(nullptr, (PlatformText(code) + "\r\n\r\n" + doing).c_str(), applicationTitle,
                 MB_OK | MB_ICONERROR | MB_TASKMODAL | MB_SETFOREGROUND);
@@ -26,6 +29,10 @@ std::string PlatformText(DWORD code) {
 
 void ThrowLastError(const std::string& doing) {
     throw RunTimeError(GetLastError(), doing);
+}
+
+bool IsEndingWithError() {
+    return ending;
 }
 
 void EndWithCurrentError() noexcept {

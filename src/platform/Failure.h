@@ -18,6 +18,9 @@ constexpr const char* applicationTitle = "ObrinMenu";
 /// with exit code 1, at once: no exit command for the host, no remembered system. Only for catch blocks.
 [[noreturn]] void EndWithCurrentError() noexcept;
 
+/// Whether that is happening: its box lets events through, which must not start the orderly close.
+bool IsEndingWithError();
+
 /// Runs the body of a window, dialog or subclass procedure: no exception may cross the platform's callback.
 template <class Body>
 auto AtBoundary(Body&& body) noexcept {

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
+#include <vector>
 
 namespace obrin {
 
@@ -39,6 +41,15 @@ std::string CreateFileBeside(const std::string& path) {
     if (GetTempFileNameA(folder.c_str(), "Obr", 0, name.data()) == 0)
         ThrowLastError("Writing " + path);
     return name.data();
+}
+
+// Who may do what with a file; as much of it as the file system lets a user see and set.
+void CopyRights(const std::string& from, const std::string& to) {
+    DWORD size = 0;
+    GetFileSecurityA(from.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
+    std::vector<std::byte> rights(size);
+    if (GetFileSecurityA(from.c_str(), DACL_SECURITY_INFORMATION, rights.data(), size, &size))
+        SetFileSecurityA(to.c_str(), DACL_SECURITY_INFORMATION, rights.data());
 }
 
 // Another workstation may be reading the file at this instant, which refuses its replacement.
@@ -108,7 +119,13 @@ void File::Seek(std::uint64_t position) {
 }
 
 void File::FlushAndClose() {
-    if (!FlushFileBuffers(handle.get()) || !CloseHandle(handle.release()))
+    if (!FlushFileBuffers(handle.get())) {
+        // Some shares cannot be asked to; what they were given has been accepted.
+        const DWORD error = GetLastError();
+        if (error != ERROR_INVALID_FUNCTION && error != ERROR_NOT_SUPPORTED)
+            Fail("Writing ");
+    }
+    if (!CloseHandle(handle.release()))
         Fail("Writing ");
 }
 
@@ -139,13 +156,17 @@ void WriteFileBytes(const std::string& path, std::string_view bytes) {
 }
 
 void ReplaceFileBytes(const std::string& path, std::string_view bytes) {
-    // A file that may not be written, or that is a folder, is not replaced either.
-    if (const DWORD attributes = GetFileAttributesA(path.c_str()); attributes != INVALID_FILE_ATTRIBUTES) {
-        File writable(path, File::Use::ReadWrite);
-    }
+    const DWORD attributes = GetFileAttributesA(path.c_str());
+    const bool exists = attributes != INVALID_FILE_ATTRIBUTES;
+    if (exists && (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) != 0)
+        throw RunTimeError(ERROR_ACCESS_DENIED, "Writing " + path);
     const std::string beside = CreateFileBeside(path);
     try {
         WriteFileBytes(beside, bytes);
+        if (exists) {
+            CopyRights(path, beside);
+            SetFileAttributesA(beside.c_str(), attributes);
+        }
         if (!MoveWithPatience(beside, path))
             ThrowLastError("Writing " + path);
     } catch (const RunTimeError& error) {

@@ -53,7 +53,8 @@ std::string ReadFirstLine(const std::string& path);
 void WriteFileBytes(const std::string& path, std::string_view bytes);
 
 /// Gives a file new contents without ever being without the old or the new ones: they are complete on disk,
-/// under a name beside it, before they take the file's place. Throws RunTimeError and leaves the file alone.
+/// under a name beside it, before they take the file's place, its rights and its attributes. Throws
+/// RunTimeError and leaves the file alone.
 void ReplaceFileBytes(const std::string& path, std::string_view bytes);
 
 /// Whether a file (no folder) of that name exists. A name with wildcards names no file.

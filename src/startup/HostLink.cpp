@@ -7,29 +7,34 @@
 
 namespace obrin {
 
-HWND StartHost(HWND menu, std::int16_t wsid) {
+void HostLink::StartHost(HWND menu, std::int16_t wsid) {
     OpenUnexamined(menu, "Fenn.exe", HostStartArguments(wsid).c_str());
 
     // Any window of the host will do here, one of another instance too; the caption below is this one's.
     // The children of this first window tell nothing that is needed, so they are not looked up.
     if (!WaitUntil(menu, [] { return FindWindowA(hostWindowClass, nullptr) != nullptr; }))
-        return nullptr;
+        return;
 
     const std::string caption = StationCaption(wsid);
     HWND station = nullptr;
     if (!WaitUntil(menu, [&] { return (station = FindWindowA(nullptr, caption.c_str())) != nullptr; }))
-        return nullptr;
+        return;
     ShowWindow(station, SW_HIDE);
-    return FindWindowExA(station, nullptr, nullptr, nullptr);
+    hostCommandWindow = FindWindowExA(station, nullptr, nullptr, nullptr);
 }
 
-void SendHostCommand(HWND hostCommandWindow, std::string command) {
-    // While a key is handled by the host, only events sent to our windows directly are processed here, such
-    // as the end of the Windows session: its exit command then goes out between two keys, and nothing follows
-    // that could matter.
-    for (const WPARAM key : HostKeyCodes(std::move(command), UpperCase)) {
-        SendMessageA(hostCommandWindow, WM_KEYDOWN, key, 0);
-        SendMessageA(hostCommandWindow, WM_KEYUP, key, 0);
+void HostLink::SendHostCommand(std::string command) {
+    for (const WPARAM code : HostKeyCodes(std::move(command), UpperCase)) {
+        pending.push_back({WM_KEYDOWN, code});
+        pending.push_back({WM_KEYUP, code});
+    }
+    // While the host handles a key, what is sent to our windows directly is processed in here, such as the
+    // end of the Windows session, whose exit command must not land in the middle of a line: the inner call
+    // sends the rest of the outer one's keys first.
+    while (!pending.empty()) {
+        const auto [message, code] = pending.front();
+        pending.pop_front();
+        SendMessageA(hostCommandWindow, message, code, 0);
     }
 }
 

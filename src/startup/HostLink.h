@@ -4,6 +4,7 @@
 #include "platform/WindowsApi.h"
 
 #include <cstdint>
+#include <deque>
 #include <string>
 
 namespace obrin {
@@ -14,12 +15,31 @@ constexpr const char* hostWindowClass = "ZafWindow";
 /// The menu window has this caption from the first shown system on; a second menu finds it by it.
 constexpr const char* menuCaption = "Obrin System Menu";
 
-/// Starts the host for this workstation, waits for its windows without a time limit while the events of
-/// `menu` are processed, and hides it. Returns its command window, or 0 when `menu` was closed meanwhile.
-HWND StartHost(HWND menu, std::int16_t wsid);
+class HostLink {
+public:
+    explicit HostLink(HWND commandWindow = nullptr)
+        : hostCommandWindow(commandWindow) {}
 
-/// Types a command into the host's command window, key by key; each key has been handled by the host when the
-/// next is sent. Without a host the keys are lost, without a message.
-void SendHostCommand(HWND hostCommandWindow, std::string command);
+    /// Starts the host for this workstation, waits for its windows without a time limit while the events of
+    /// `menu` are processed, and hides it. The link stands when it returns, unless `menu` was closed
+    /// meanwhile.
+    void StartHost(HWND menu, std::int16_t wsid);
+
+    /// Whether the host's command window has been found. A host that ends later is not noticed.
+    bool Stands() const { return hostCommandWindow != nullptr; }
+
+    /// Types a command into the host's command window, key by key; each key has been handled by the host when
+    /// the next is sent. Without a host the keys are lost, without a message.
+    void SendHostCommand(std::string command);
+
+private:
+    struct Key {
+        UINT message;
+        WPARAM code;
+    };
+
+    HWND hostCommandWindow;
+    std::deque<Key> pending; // key messages still to be sent
+};
 
 } // namespace obrin

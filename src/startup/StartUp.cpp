@@ -14,9 +14,11 @@ namespace {
 void RewriteHostConfiguration() {
     constexpr const char* configuration = "FennConfig.Sys";
     constexpr const char* temporary = "Core\\TempOut.tmp";
-    WriteFileBytes(temporary, BlankDriveLines(ReadFileBytes(configuration), UpperCase));
-    // The configuration keeps its old lines until the new ones are safely on disk.
-    ReplaceFileBytes(configuration, WithDriveLine(ShortPath(CurrentFolder()), ReadFileBytes(temporary)));
+    const std::string blanked = BlankDriveLines(ReadFileBytes(configuration), UpperCase);
+    WriteFileBytes(temporary, blanked);
+    // Not read back from the temporary file: a workstation that starts at the same instant empties it. And
+    // the configuration keeps its old lines until the new ones are safely on disk.
+    ReplaceFileBytes(configuration, WithDriveLine(ShortPath(CurrentFolder()), blanked));
 }
 
 // The host may be open under any caption: its class alone counts.

@@ -11,13 +11,6 @@ TEST(Text, BlanksAreSpacesOnly) {
     EXPECT_EQ(TrimBlanks("\ta\t"), "\ta\t");
 }
 
-TEST(Text, SplitsIntoAtLeastOneField) {
-    using Fields = std::vector<std::string_view>;
-    EXPECT_EQ(Split("", '^'), Fields{""});
-    EXPECT_EQ(Split("a", '^'), Fields{"a"});
-    EXPECT_EQ(Split("a^^b^", '^'), (Fields{"a", "", "b", ""}));
-}
-
 TEST(Text, TrailingBackslashIsAddedOnce) {
     EXPECT_EQ(EnsureTrailingBackslash("C:\\Tessel"), "C:\\Tessel\\");
     EXPECT_EQ(EnsureTrailingBackslash("C:\\Tessel\\"), "C:\\Tessel\\");

@@ -8,6 +8,7 @@ namespace {
 TEST(UpdateRegister, KeysHaveThreeDigits) {
     EXPECT_EQ(UpdateKey(5), "005");
     EXPECT_EQ(UpdateKey(42), "042");
+    EXPECT_EQ(UpdateKey(1234), "123") << "never longer than a record";
 }
 
 TEST(UpdateRegister, FindsTheKeyOrThePlaceForIt) {

@@ -15,10 +15,14 @@ struct Script {
     int resizesLeft = 0;
     int closeAtCaption = -1;
     bool destroyOwner = false;
+    bool hidden = false;         // while a file was copied
+    bool ownerWasUsable = false; // while a file was copied
 };
 Script* script;
 
 void Act(HWND dialog) {
+    script->hidden |= !IsWindowVisible(dialog);
+    script->ownerWasUsable |= IsWindowEnabled(GetWindow(dialog, GW_OWNER)) != FALSE;
     const auto shown = static_cast<int>(script->captions.size());
     if (shown == script->closeAtCaption) {
         if (script->destroyOwner)
@@ -89,6 +93,7 @@ protected:
 TEST_F(UpdateWindow, CopiesOnceAndEntersTheWorkstation) {
     CheckWorkstationUpdate(owner, 5);
     EXPECT_EQ(played.captions, Captions(1));
+    EXPECT_FALSE(played.hidden);
     for (const char* name : names)
         EXPECT_EQ(ReadFileBytes(std::string("Local\\") + name), name);
     EXPECT_EQ(ReadFileBytes("Updated.txt"), "005");
@@ -114,6 +119,7 @@ TEST_F(UpdateWindow, MissingSourcesAreNobodysBusiness) {
 TEST_F(UpdateWindow, ClosedWhileCopyingStillCopiesTheRest) {
     played.closeAtCaption = 2;
     CheckWorkstationUpdate(owner, 5);
+    EXPECT_FALSE(played.ownerWasUsable) << "until they are copied";
     EXPECT_TRUE(FileExists("Local\\Glass.exe"));
     EXPECT_EQ(ReadFileBytes("Updated.txt"), "005");
 }

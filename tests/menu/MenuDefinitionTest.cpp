@@ -102,7 +102,12 @@ TEST(MenuDefinition, CountsEntriesInSixteenBits) {
     for (int i = 0; i < 32767; ++i)
         file += "A\r";
     EXPECT_EQ(ParseMenuDefinition(file, "UB.mnu").entries.size(), 32767U);
-    EXPECT_THROW(ParseMenuDefinition(file + "A", "UB.mnu"), RunTimeError);
+    try {
+        ParseMenuDefinition(file + "A", "UB.mnu");
+        FAIL() << "no error";
+    } catch (const RunTimeError& raised) {
+        EXPECT_STREQ(raised.what(), "UB.mnu, line 32769: more entries than a menu can count");
+    }
 }
 
 } // namespace
