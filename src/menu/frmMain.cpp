@@ -3,6 +3,7 @@
 #include "common/RunTimeError.h"
 #include "common/Text.h"
 #include "common/Twips.h"
+#include "maintenance/frmAbout.h"
 #include "maintenance/frmUpdate.h"
 #include "menu/MenuCommands.h"
 #include "menu/MenuDefinition.h"
@@ -17,7 +18,7 @@
 #include "startup/HostKeys.h"
 #include "startup/WorkstationIdentity.h"
 
-#include <array>
+#include <algorithm>
 
 namespace obrin {
 
@@ -43,6 +44,22 @@ HWND CreateControl(HWND parent, const char* controlClass, int id, DWORD style, c
     if (control == nullptr)
         ThrowLastError("Creating the menu window");
     return control;
+}
+
+// A group box does not paint what is between its children. Its inside and its border reach the screen at
+// once: erased first, the border would flicker while the window is resized.
+void PaintFrame(HWND frame) {
+    PAINTSTRUCT paint;
+    const HDC screen = BeginPaint(frame, &paint);
+    RECT inner;
+    GetClientRect(frame, &inner);
+    HDC buffer = nullptr;
+    const HPAINTBUFFER painting = BeginBufferedPaint(screen, &inner, BPBF_COMPATIBLEBITMAP, nullptr, &buffer);
+    const HDC target = painting != nullptr ? buffer : screen;
+    FillRect(target, &inner, GetSysColorBrush(COLOR_BTNFACE));
+    DefSubclassProc(frame, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(target), PRF_CLIENT);
+    EndBufferedPaint(painting, TRUE);
+    EndPaint(frame, &paint);
 }
 
 } // namespace
@@ -140,6 +157,8 @@ void frmMain::OnCommand(int id, int notification) {
         mnuSystems_Click(static_cast<std::size_t>(id - ID_SYSTEMS));
     else if (id == ID_TREE_PROPERTIES || id == ID_TREE_HELP)
         mnuTreeView_Click(id);
+    else if (id == ID_ABOUT)
+        mnuAboutObrin_Click();
     else if (id == IDC_COMMAND1)
         Command1_Click();
     else if (id == IDC_LABEL5 && notification != STN_CLICKED)
@@ -157,14 +176,22 @@ void frmMain::OnNotify(const NMHDR& notification) {
 
 // A state of the window, not of the label: once the link has turned the pointer into the crosshair, it stays
 // so over everything but the window's own background.
-bool frmMain::OnSetCursor(HWND under, int hitTest) {
+bool frmMain::OnSetCursor(HWND hit, int hitTest) {
     if (hitTest != HTCLIENT)
         return false;
+    // Labels, picture and frame let the mouse through to the window, but are not its background.
+    HWND under = hit;
+    if (hit == window) {
+        POINT pointer;
+        GetCursorPos(&pointer);
+        ScreenToClient(window, &pointer);
+        under = ChildWindowFromPointEx(window, pointer, CWP_SKIPINVISIBLE);
+    }
     if (under == Label5)
         crosshair = true;
     else if (under == window)
         crosshair = false;
-    if (!crosshair && under != window)
+    if (!crosshair && hit != window)
         return false;
     SetCursor(LoadCursorA(nullptr, crosshair ? IDC_CROSS : IDC_ARROW));
     return true;
@@ -173,10 +200,8 @@ bool frmMain::OnSetCursor(HWND under, int hitTest) {
 // --- Load, resize, unload ---
 
 bool frmMain::Form_Load() {
-    RECT outer;
-    GetWindowRect(window, &outer);
-    margins = RecordMargins({ToTwips(outer.right - outer.left, dpi), ToTwips(outer.bottom - outer.top, dpi)},
-                            layout);
+    const SIZE outer = DesignedOuterSize(); // which a small screen may not have had room for
+    margins = RecordMargins({ToTwips(outer.cx, dpi), ToTwips(outer.cy, dpi)}, layout);
 
     MnuFiles = EnumerateMenuFiles();
     FillSystemList();
@@ -293,6 +318,7 @@ void frmMain::CreateControls() {
         CreateControl(Frame1, WC_TREEVIEWA, IDC_TREEVIEW1,
                       WS_TABSTOP | TVS_HASLINES | TVS_LINESATROOT | TVS_HASBUTTONS | TVS_SHOWSELALWAYS, "",
                       WS_EX_CLIENTEDGE));
+    SendMessageA(TreeView1.Window(), TVM_SETEXTENDEDSTYLE, TVS_EX_DOUBLEBUFFER, TVS_EX_DOUBLEBUFFER);
     Command1 = CreateControl(Frame1, WC_BUTTONA, IDC_COMMAND1, WS_TABSTOP | BS_PUSHBUTTON, "&Run Program");
     constexpr DWORD label = SS_LEFT | SS_NOPREFIX;
     Label1 = CreateControl(window, WC_STATICA, IDC_LABEL1, label);
@@ -301,24 +327,28 @@ void frmMain::CreateControls() {
     Label3 = CreateControl(window, WC_STATICA, IDC_LABEL3, label);
     Label4 = CreateControl(window, WC_STATICA, IDC_LABEL4, label, "Got a better idea?");
     Label5 = CreateControl(window, WC_STATICA, IDC_LABEL5, label | SS_NOTIFY, "E-Mail us!");
-    // A group box neither hands on what its children say nor paints what is between them.
+    // A group box does not hand on what its children say.
     SetWindowSubclass(Frame1, Frame1Procedure, 0, reinterpret_cast<DWORD_PTR>(this));
     SetWindowSubclass(TreeView1.Window(), TreeView1Procedure, 0, reinterpret_cast<DWORD_PTR>(this));
 
     dpi = GetDpiForWindow(window);
     ApplyFonts();
-    // The designed size, in the middle of the screen that Windows chose.
-    RECT size{0, 0, ToPixels(design::inner.width, dpi), ToPixels(design::inner.height, dpi)};
-    AdjustWindowRectExForDpi(&size, windowStyle, TRUE, 0, dpi);
+    // The designed size, or as much of it as fits, in the middle of the screen that Windows chose.
     MONITORINFO monitor{};
     monitor.cbSize = sizeof monitor;
     GetMonitorInfoA(MonitorFromWindow(window, MONITOR_DEFAULTTOPRIMARY), &monitor);
     const RECT& work = monitor.rcWork;
-    const int width = size.right - size.left;
-    const int height = size.bottom - size.top;
-    SetWindowPos(window, nullptr, std::max(work.left, work.left + (work.right - work.left - width) / 2),
-                 std::max(work.top, work.top + (work.bottom - work.top - height) / 2), width, height,
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+    const SIZE designed = DesignedOuterSize();
+    const LONG width = std::min(designed.cx, work.right - work.left);
+    const LONG height = std::min(designed.cy, work.bottom - work.top);
+    SetWindowPos(window, nullptr, (work.left + work.right - width) / 2, (work.top + work.bottom - height) / 2,
+                 width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+SIZE frmMain::DesignedOuterSize() const {
+    RECT size{0, 0, ToPixels(design::inner.width, dpi), ToPixels(design::inner.height, dpi)};
+    AdjustWindowRectExForDpi(&size, windowStyle, TRUE, 0, dpi);
+    return {size.right - size.left, size.bottom - size.top};
 }
 
 void frmMain::ApplyFonts() {
@@ -362,10 +392,10 @@ void frmMain::FillSystemList() {
     DeleteMenu(list, ID_SYSTEMS_TEMPLATE, MF_BYCOMMAND);
 }
 
-// A label is as large as its text.
+// A label is as large as its text. Label4, whose right edge is the link's left one, is a blank larger.
 void frmMain::SetLabel(HWND label, const std::string& text) {
     SetWindowTextA(label, text.c_str());
-    const SIZE size = MeasureText(label, text);
+    const SIZE size = MeasureText(label, label == Label4 ? text + ' ' : text);
     SetWindowPos(label, nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
@@ -383,12 +413,11 @@ LRESULT CALLBACK frmMain::Frame1Procedure(HWND frame, UINT message, WPARAM wPara
     case WM_CTLCOLORBTN:
     case WM_CTLCOLORSTATIC:
         return SendMessageA(reinterpret_cast<frmMain*>(self)->window, message, wParam, lParam);
-    case WM_ERASEBKGND: {
-        RECT inner;
-        GetClientRect(frame, &inner);
-        FillRect(reinterpret_cast<HDC>(wParam), &inner, GetSysColorBrush(COLOR_BTNFACE));
-        return TRUE;
-    }
+    case WM_ERASEBKGND:
+        return TRUE; // painted with the rest
+    case WM_PAINT:
+        PaintFrame(frame);
+        return 0;
     default:
         return DefSubclassProc(frame, message, wParam, lParam);
     }
@@ -484,6 +513,10 @@ void frmMain::PopUp(int x, int y) {
 void frmMain::mnuTreeView_Click(int item) {
     if (item == ID_TREE_HELP)
         MessageBoxA(window, "Option not available. In Developement.", "Warning", MB_OK);
+}
+
+void frmMain::mnuAboutObrin_Click() {
+    frmAbout().Show(window);
 }
 
 // --- Systems and programs ---

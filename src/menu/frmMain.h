@@ -37,7 +37,7 @@ private:
     LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
     void OnCommand(int id, int notification);
     void OnNotify(const NMHDR& notification);
-    bool OnSetCursor(HWND under, int hitTest);
+    bool OnSetCursor(HWND hit, int hitTest);
 
     // Events of the window.
     bool Form_Load();
@@ -47,6 +47,7 @@ private:
 
     // Events of controls and menu items.
     void mnuSystems_Click(std::size_t index);
+    void mnuAboutObrin_Click();
     void mnuTreeView_Click(int item);
     void TreeView1_DblClick();
     void TreeView1_KeyPress(int character);
@@ -55,6 +56,7 @@ private:
     void Command1_Click();
 
     void CreateControls();
+    SIZE DesignedOuterSize() const;
     void ApplyFonts();
     void ShowPicture();
     void FillSystemList();

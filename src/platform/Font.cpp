@@ -21,15 +21,17 @@ void SetFont(HWND control, HFONT font) {
     SendMessageA(control, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
 }
 
-SIZE MeasureText(HWND control, const std::string& text) {
+SIZE MeasureText(HWND control, const std::string& text, int wrapWidth) {
     const HDC context = GetDC(control);
     const HGDIOBJ old =
         SelectObject(context, reinterpret_cast<HFONT>(SendMessageA(control, WM_GETFONT, 0, 0)));
-    SIZE size{};
-    GetTextExtentPoint32A(context, text.data(), static_cast<int>(text.size()), &size);
+    // As a label draws it.
+    RECT area{0, 0, wrapWidth, 0};
+    DrawTextA(context, text.data(), static_cast<int>(text.size()), &area,
+              DT_CALCRECT | DT_NOPREFIX | DT_EXPANDTABS | (wrapWidth > 0 ? DT_WORDBREAK : 0U));
     SelectObject(context, old);
     ReleaseDC(control, context);
-    return size;
+    return {area.right, area.bottom};
 }
 
 } // namespace obrin

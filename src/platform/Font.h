@@ -20,7 +20,8 @@ UniqueFont MakeMessageFont(UINT dpi);
 
 void SetFont(HWND control, HFONT font);
 
-/// The size in pixels of a one-line text in the control's font.
-SIZE MeasureText(HWND control, const std::string& text);
+/// The size in pixels that a label needs for its text in the control's font: as wide as its longest line, or
+/// wrapped at `wrapWidth`.
+SIZE MeasureText(HWND control, const std::string& text, int wrapWidth = 0);
 
 } // namespace obrin

@@ -18,6 +18,9 @@ struct CloseSearch {
 struct DeleteGdiObject {
     void operator()(HGDIOBJ object) const { DeleteObject(object); }
 };
+struct DestroyIconHandle {
+    void operator()(HICON icon) const { DestroyIcon(icon); }
+};
 struct DeleteMemoryDc {
     void operator()(HDC context) const { DeleteDC(context); }
 };
@@ -26,6 +29,7 @@ using UniqueFile = std::unique_ptr<void, CloseFile>;
 using UniqueSearch = std::unique_ptr<void, CloseSearch>;
 using UniqueFont = std::unique_ptr<std::remove_pointer_t<HFONT>, DeleteGdiObject>;
 using UniqueBitmap = std::unique_ptr<std::remove_pointer_t<HBITMAP>, DeleteGdiObject>;
+using UniqueIcon = std::unique_ptr<std::remove_pointer_t<HICON>, DestroyIconHandle>;
 using UniqueDc = std::unique_ptr<std::remove_pointer_t<HDC>, DeleteMemoryDc>;
 
 } // namespace obrin

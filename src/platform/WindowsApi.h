@@ -5,4 +5,5 @@
 
 #include <commctrl.h>
 #include <shellapi.h>
+#include <uxtheme.h>
 #include <windowsx.h>

@@ -8,6 +8,7 @@
 
 #define IDD_INPUT_BOX 20
 #define IDD_UPDATE 21
+#define IDD_ABOUT 22
 
 // Controls; each dialog has its own.
 #define IDC_PROMPT 100
@@ -22,6 +23,13 @@
 #define IDC_LABEL3 206
 #define IDC_LABEL4 207
 #define IDC_LABEL5 208
+
+#define IDC_PIC_ICON 210
+#define IDC_LBL_TITLE 211
+#define IDC_LBL_VERSION 212
+#define IDC_LBL_DESCRIPTION 213
+#define IDC_LBL_DISCLAIMER 214
+#define IDC_CMD_SYS_INFO 215
 
 // Items of the menu bar.
 #define ID_BACKUP 300

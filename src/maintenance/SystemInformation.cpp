@@ -1,0 +1,81 @@
+#include "maintenance/SystemInformation.h"
+
+#include "maintenance/RegistryText.h"
+#include "platform/Failure.h"
+#include "platform/File.h"
+
+#include <array>
+
+namespace obrin {
+
+namespace {
+
+// Closed on every path, the failed open included; nobody asks how that went.
+class RegistryKey {
+public:
+    RegistryKey(HKEY root, const char* name) {
+        constexpr REGSAM fullAccess = 0x2003F;
+        opened = RegOpenKeyExA(root, name, 0, fullAccess, &key) == ERROR_SUCCESS;
+    }
+    RegistryKey(const RegistryKey&) = delete;
+    RegistryKey& operator=(const RegistryKey&) = delete;
+    ~RegistryKey() { RegCloseKey(key); }
+
+    bool IsOpen() const { return opened; }
+    HKEY Get() const { return key; }
+
+private:
+    HKEY key = nullptr;
+    bool opened;
+};
+
+// In a normal window with the focus. The path is the program's alone: nothing is cut off it at a blank or
+// looked for along the search path.
+bool StartProgram(const std::string& path) {
+    STARTUPINFOA window{};
+    window.cb = sizeof window;
+    window.dwFlags = STARTF_USESHOWWINDOW;
+    window.wShowWindow = SW_SHOWNORMAL;
+    PROCESS_INFORMATION process;
+    if (!CreateProcessA(path.c_str(), nullptr, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &window,
+                        &process))
+        return false;
+    CloseHandle(process.hThread);
+    CloseHandle(process.hProcess);
+    return true;
+}
+
+bool StartTool() {
+    std::string path;
+    if (QueryRegistryString(HKEY_LOCAL_MACHINE, "SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", "PATH", path))
+        return StartProgram(path); // and if it cannot be started, the other place is not asked
+    if (!QueryRegistryString(HKEY_LOCAL_MACHINE, "SOFTWARE\\Microsoft\\Shared Tools Location", "MSINFO",
+                             path))
+        return false;
+    path += "\\MSINFO32.EXE";
+    return FileExists(path) && StartProgram(path);
+}
+
+} // namespace
+
+bool QueryRegistryString(HKEY root, const char* keyName, const char* valueName, std::string& value) {
+    value.clear();
+    const RegistryKey key(root, keyName);
+    if (!key.IsOpen())
+        return false;
+    std::array<char, 1024> bytes;
+    DWORD size = bytes.size();
+    DWORD type = REG_NONE;
+    if (RegQueryValueExA(key.Get(), valueName, nullptr, &type, reinterpret_cast<BYTE*>(bytes.data()),
+                         &size) != ERROR_SUCCESS)
+        return false;
+    value = RegistryText(type, {bytes.data(), size});
+    return true;
+}
+
+void LaunchSystemInfo(HWND owner) {
+    if (!StartTool())
+        MessageBoxA(owner, "System Information Is Unavailable At This Time", applicationTitle, MB_OK);
+}
+
+} // namespace obrin
