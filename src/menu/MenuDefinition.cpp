@@ -16,6 +16,7 @@ class Parser {
 public:
     Parser(std::string_view file, std::string_view name)
         : lines(file)
+        , lineEnds(static_cast<std::size_t>(std::ranges::count(file, '\r')))
         , fileName(name) {}
 
     MenuDefinition Parse() {
@@ -23,11 +24,15 @@ public:
         if (!header)
             Fail(PlatformError::EndOfFile, "the file has no header line");
         MenuDefinition definition{.title = std::string(HeaderTitle(*header)), .entries = {}};
+        // All the room at once: the set of keys refers to the keys in the entries.
+        definition.entries.reserve(std::min(lineEnds + 1, mostEntries));
+        keys.reserve(definition.entries.capacity());
         while (const auto line = NextLine()) {
-            if (counter == std::numeric_limits<std::int16_t>::max())
+            if (definition.entries.size() == mostEntries)
                 Fail(PlatformError::ArithmeticOverflow, "more entries than a menu can count");
             ++counter;
             definition.entries.push_back(ParseEntry(*line));
+            CheckKey(definition.entries.back().key);
         }
         return definition;
     }
@@ -49,22 +54,29 @@ private:
         return {.text = std::string(line), .key = {}, .parent = parent};
     }
 
-    MenuEntry ProgramEntry(std::string_view line, std::int16_t parent) {
-        std::string cleaned(line);
-        std::erase(cleaned, '>');
-        const auto textEnd = cleaned.find('^');
-        const auto keyEnd = cleaned.find('^', textEnd + 1); // further fields are nobody's
-        MenuEntry entry{.text = cleaned.substr(0, textEnd),
-                        .key = cleaned.substr(textEnd + 1, keyEnd - textEnd - 1),
-                        .parent = parent};
-        if (entry.key.empty())
-            return entry;
+    // Further fields behind the key mean nothing.
+    static MenuEntry ProgramEntry(std::string_view line, std::int16_t parent) {
+        const auto separator = line.find('^');
+        const auto behind = line.substr(separator + 1);
+        return {.text = WithoutMarks(line.substr(0, separator)),
+                .key = WithoutMarks(behind.substr(0, behind.find('^'))),
+                .parent = parent};
+    }
+
+    static std::string WithoutMarks(std::string_view field) {
+        std::string text(field);
+        std::erase(text, '>');
+        return text;
+    }
+
+    void CheckKey(const std::string& key) {
+        if (key.empty())
+            return;
         // Nodes are found by index or by key, so a number cannot be a key.
-        if (entry.key.find_first_not_of("0123456789") == std::string::npos)
-            Fail(PlatformError::InvalidName, "the key " + entry.key + " is a number");
-        if (!keys.insert(entry.key).second)
-            Fail(PlatformError::AlreadyExists, "the key " + entry.key + " is there already");
-        return entry;
+        if (key.find_first_not_of("0123456789") == std::string::npos)
+            Fail(PlatformError::InvalidName, "the key " + key + " is a number");
+        if (!keys.insert(key).second)
+            Fail(PlatformError::AlreadyExists, "the key " + key + " is there already");
     }
 
     std::int16_t ParentAt(std::size_t depth) const {
@@ -80,12 +92,15 @@ private:
                            std::string(fileName) + ", line " + std::to_string(lineNumber) + ": " + reason);
     }
 
+    static constexpr std::size_t mostEntries = std::numeric_limits<std::int16_t>::max();
+
     LineReader lines;
+    std::size_t lineEnds; // at least as many as there are lines, but for a last one without
     std::string_view fileName;
     int lineNumber = 0;
     std::int16_t counter = 0;                 // of entry lines; the tree index of the entry at hand
     std::vector<std::int16_t> headings = {0}; // per depth the last heading's tree index, 0 for none
-    std::unordered_set<std::string> keys;
+    std::unordered_set<std::string_view> keys;
 };
 
 } // namespace

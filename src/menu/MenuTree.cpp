@@ -2,6 +2,8 @@
 
 #include "platform/Failure.h"
 
+#include <algorithm>
+
 namespace obrin {
 
 namespace {
@@ -38,31 +40,34 @@ void MenuTree::Clear() {
     nodes.clear();
 }
 
-void MenuTree::Fill(const std::vector<MenuEntry>& entries) {
-    struct Placed {
-        HTREEITEM item;
-        HTREEITEM lastChild;
-    };
+void MenuTree::Fill(std::vector<MenuEntry> entries) {
+    nodes = std::move(entries);
+    // Level by level, since a tree view may look for a node's parent in the order in which its nodes came:
+    // with thousands of programs in front of the last headings, most of the time would go there.
+    std::vector<std::size_t> depths(nodes.size() + 1); // by tree index, from 1; the root's is 0
+    std::vector<std::vector<std::size_t>> levels;      // positions in `nodes`
+    for (std::size_t i = 0; i < nodes.size(); ++i) {
+        const std::size_t depth = depths[static_cast<std::size_t>(nodes[i].parent)] + 1;
+        depths[i + 1] = depth;
+        levels.resize(std::max(levels.size(), depth));
+        levels[depth - 1].push_back(i);
+    }
+
     const RedrawPause pause(window);
-    nodes.reserve(entries.size());
-    // By tree index, from 1. Each node goes behind its parent's last child, which is known here: looking for
-    // the end of a long list of siblings at every node would take quadratic time.
-    std::vector<Placed> placed{{TVI_ROOT, TVI_FIRST}};
-    placed.reserve(entries.size() + 1);
-    for (const MenuEntry& entry : entries) {
-        Placed& parent = placed[static_cast<std::size_t>(entry.parent)];
-        TVINSERTSTRUCTA insertion{};
-        insertion.hParent = parent.item;
-        insertion.hInsertAfter = parent.lastChild;
-        insertion.item.mask = TVIF_TEXT | TVIF_PARAM;
-        insertion.item.pszText = const_cast<char*>(entry.text.c_str());
-        insertion.item.lParam = static_cast<LPARAM>(nodes.size());
-        const auto item = reinterpret_cast<HTREEITEM>(Send(window, TVM_INSERTITEMA, 0, &insertion));
-        if (item == nullptr)
-            throw RunTimeError(ERROR_NOT_ENOUGH_MEMORY, "Adding " + entry.text + " to the tree");
-        parent.lastChild = item;
-        placed.push_back({item, TVI_FIRST});
-        nodes.push_back({.key = entry.key, .hasText = !entry.text.empty()});
+    std::vector<HTREEITEM> items(nodes.size() + 1, TVI_ROOT); // by tree index
+    for (const auto& level : levels) {
+        for (const std::size_t i : level) {
+            const MenuEntry& entry = nodes[i];
+            TVINSERTSTRUCTA insertion{};
+            insertion.hParent = items[static_cast<std::size_t>(entry.parent)];
+            insertion.hInsertAfter = TVI_LAST;
+            insertion.item.mask = TVIF_TEXT | TVIF_PARAM;
+            insertion.item.pszText = const_cast<char*>(entry.text.c_str());
+            insertion.item.lParam = static_cast<LPARAM>(i);
+            items[i + 1] = reinterpret_cast<HTREEITEM>(Send(window, TVM_INSERTITEMA, 0, &insertion));
+            if (items[i + 1] == nullptr)
+                throw RunTimeError(ERROR_NOT_ENOUGH_MEMORY, "Adding " + entry.text + " to the tree");
+        }
     }
 }
 
@@ -70,7 +75,7 @@ HTREEITEM MenuTree::Selected() const {
     return reinterpret_cast<HTREEITEM>(SendMessageA(window, TVM_GETNEXTITEM, TVGN_CARET, 0));
 }
 
-const MenuTree::Node* MenuTree::SelectedNode() const {
+const MenuEntry* MenuTree::SelectedNode() const {
     const HTREEITEM selected = Selected();
     if (selected == nullptr)
         return nullptr;
@@ -83,13 +88,13 @@ const MenuTree::Node* MenuTree::SelectedNode() const {
 
 const std::string& MenuTree::SelectedKey() const {
     static const std::string none;
-    const Node* node = SelectedNode();
+    const MenuEntry* node = SelectedNode();
     return node == nullptr ? none : node->key;
 }
 
 bool MenuTree::IsProgramNode() const {
-    const Node* node = SelectedNode();
-    return node != nullptr && node->hasText && !node->key.empty();
+    const MenuEntry* node = SelectedNode();
+    return node != nullptr && !node->text.empty() && !node->key.empty();
 }
 
 std::optional<RECT> MenuTree::ShowSelectedText() const {

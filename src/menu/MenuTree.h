@@ -19,7 +19,7 @@ public:
     /// Empties the tree.
     void Clear();
     /// Fills the empty tree, all nodes collapsed. Throws RunTimeError when the tree takes no more.
-    void Fill(const std::vector<MenuEntry>& entries);
+    void Fill(std::vector<MenuEntry> entries);
 
     /// The key of the selected node; empty for a heading and without a selection.
     const std::string& SelectedKey() const;
@@ -30,16 +30,11 @@ public:
     std::optional<RECT> ShowSelectedText() const;
 
 private:
-    struct Node {
-        std::string key;
-        bool hasText;
-    };
-
     HTREEITEM Selected() const;
-    const Node* SelectedNode() const;
+    const MenuEntry* SelectedNode() const;
 
     HWND window = nullptr;
-    std::vector<Node> nodes; // an item's lParam is its position here
+    std::vector<MenuEntry> nodes; // an item's lParam is its position here
 };
 
 } // namespace obrin

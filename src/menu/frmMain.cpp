@@ -528,7 +528,7 @@ void frmMain::mnuSystems_Click(std::size_t index) {
 void frmMain::LoadSystem(const std::string& fileName) {
     currentSystem = fileName;
     TreeView1.Clear();
-    const MenuDefinition definition = ParseMenuDefinition(ReadFileBytes(fileName), fileName);
+    MenuDefinition definition = ParseMenuDefinition(ReadFileBytes(fileName), fileName);
     // With its folder: the platform looks for a bare name in other folders too.
     const std::string pictureFile = EnsureTrailingBackslash(CurrentFolder()) + "Startup.bmp";
     if (NormalFileExists(pictureFile)) {
@@ -540,7 +540,7 @@ void frmMain::LoadSystem(const std::string& fileName) {
     SetWindowTextA(Frame1, title.c_str());
     SetLabel(Label1, title);
     Form_Resize(); // title and picture are centred by their own widths
-    TreeView1.Fill(definition.entries);
+    TreeView1.Fill(std::move(definition.entries));
     hostLink.SendHostCommand(StartSystem(SystemCode(fileName)));
 }
 

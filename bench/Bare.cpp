@@ -1,0 +1,124 @@
+// The floor of start-up and memory: as little program as can start the host, wait for its windows in the
+// launcher's way and then show a window with the launcher's menu bar and a tree of the same nodes.
+// Started in an installation as "bare.exe UB.mnu".
+
+#include "resources/Ids.h"
+
+#include "platform/WindowsApi.h"
+
+namespace {
+
+constexpr const char* className = "ObrinBench.Bare";
+
+HWND hostCommandWindow;
+
+void TypeExit() {
+    for (const char* key = "RUN CORE\xDC"
+                           "EXIT\r";
+         *key != '\0'; ++key) {
+        SendMessageA(hostCommandWindow, WM_KEYDOWN, static_cast<unsigned char>(*key), 0);
+        SendMessageA(hostCommandWindow, WM_KEYUP, static_cast<unsigned char>(*key), 0);
+    }
+}
+
+LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_CLOSE:
+        TypeExit();
+        DestroyWindow(window);
+        return 0;
+    case WM_DESTROY:
+        PostQuitMessage(0);
+        return 0;
+    default:
+        return DefWindowProcA(window, message, wParam, lParam);
+    }
+}
+
+HWND WaitFor(HWND window, const char* windowClass, const char* caption) {
+    for (;;) {
+        const HWND found = FindWindowA(windowClass, caption);
+        if (found != nullptr)
+            return found;
+        MSG message;
+        while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE))
+            DispatchMessageA(&message);
+        if (!IsWindow(window))
+            ExitProcess(0);
+        MsgWaitForMultipleObjectsEx(0, nullptr, 10, QS_ALLINPUT, MWMO_INPUTAVAILABLE);
+    }
+}
+
+// Trusts the file: at most three levels, at most 64 KB, a CR LF behind every line.
+void FillTree(HWND tree, const char* fileName) {
+    static char text[0x10000];
+    DWORD size = 0;
+    const HANDLE file =
+        CreateFileA(fileName, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+    ReadFile(file, text, sizeof text, &size, nullptr);
+    CloseHandle(file);
+
+    HTREEITEM parents[4] = {TVI_ROOT};
+    SendMessageA(tree, WM_SETREDRAW, FALSE, 0);
+    bool header = true;
+    for (char *line = text, *end = text; end < text + size; ++end) {
+        if (*end != '\r' && *end != '^')
+            continue;
+        const bool isHeading = *end == '\r';
+        *end = '\0';
+        if (!header) {
+            int depth = 0;
+            for (; *line == '>'; ++line)
+                ++depth;
+            TVINSERTSTRUCTA insertion{};
+            insertion.hParent = parents[depth];
+            insertion.hInsertAfter = TVI_LAST;
+            insertion.item.mask = TVIF_TEXT;
+            insertion.item.pszText = line;
+            const LRESULT item = SendMessageA(tree, TVM_INSERTITEMA, 0, reinterpret_cast<LPARAM>(&insertion));
+            if (isHeading)
+                parents[depth + 1] = reinterpret_cast<HTREEITEM>(item);
+        }
+        header = false;
+        while (*end != '\n')
+            ++end;
+        line = end + 1;
+    }
+    SendMessageA(tree, WM_SETREDRAW, TRUE, 0);
+}
+
+} // namespace
+
+int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR fileName, int) {
+    const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_WIN95_CLASSES};
+    InitCommonControlsEx(&controls);
+    WNDCLASSEXA windowClass{};
+    windowClass.cbSize = sizeof windowClass;
+    windowClass.lpfnWndProc = Procedure;
+    windowClass.hInstance = instance;
+    windowClass.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
+    windowClass.lpszMenuName = MAKEINTRESOURCEA(IDR_MENU_BAR);
+    windowClass.lpszClassName = className;
+    RegisterClassExA(&windowClass);
+    const HWND window = CreateWindowExA(0, className, "", WS_OVERLAPPEDWINDOW, 200, 200, 748, 546, nullptr,
+                                        nullptr, instance, nullptr);
+    const HWND tree = CreateWindowExA(WS_EX_CLIENTEDGE, WC_TREEVIEWA, "",
+                                      WS_CHILD | WS_VISIBLE | TVS_HASLINES | TVS_LINESATROOT | TVS_HASBUTTONS,
+                                      20, 30, 380, 410, window, nullptr, instance, nullptr);
+
+    ShellExecuteA(window, "open", "Fenn.exe", "run core\\start -5", nullptr, SW_SHOWNORMAL);
+    WaitFor(window, "ZafWindow", nullptr);
+    const HWND station = WaitFor(window, nullptr, "Obrin-05");
+    ShowWindow(station, SW_HIDE);
+    hostCommandWindow = FindWindowExA(station, nullptr, nullptr, nullptr);
+
+    FillTree(tree, fileName);
+    ShowWindow(window, SW_SHOWNORMAL);
+    SetForegroundWindow(window);
+    MSG message;
+    while (GetMessageA(&message, nullptr, 0, 0) > 0) {
+        TranslateMessage(&message);
+        DispatchMessageA(&message);
+    }
+    return 0;
+}

@@ -1,0 +1,106 @@
+// Listing 98 menu files, against opening each, reading its first 4 KB and closing it; and large files against
+// small ones.
+
+#include "Clock.h"
+#include "Measurements.h"
+#include "Scratch.h"
+
+#include "menu/MenuFiles.h"
+#include "platform/Failure.h"
+#include "platform/File.h"
+#include "platform/Handle.h"
+
+#include <array>
+#include <stdexcept>
+
+namespace obrin::bench {
+
+namespace {
+
+constexpr int fileCount = 98;
+constexpr LONGLONG smallSize = 1024;
+constexpr LONGLONG largeSize = 20LL * 1024 * 1024;
+
+// Of real entries as far as anybody reads; the rest of a large one takes no place on disks that can do so.
+void MakeMenuFile(const std::string& name, LONGLONG size) {
+    std::string text = MenuFileText("Title of a system", 400, 6);
+    text.resize(static_cast<std::size_t>(std::min<LONGLONG>(size, static_cast<LONGLONG>(text.size()))));
+    WriteFileBytes(name, text);
+    const UniqueFile file(CreateFileA(name.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+    LARGE_INTEGER end;
+    end.QuadPart = size;
+    if (!SetFilePointerEx(file.get(), end, nullptr, FILE_BEGIN) || !SetEndOfFile(file.get()))
+        ThrowLastError("Making " + name);
+}
+
+void MakeMenuFiles(LONGLONG size) {
+    for (int i = 0; i < fileCount; ++i)
+        MakeMenuFile("S" + std::to_string(i) + ".mnu", size);
+}
+
+double ListByProduct() {
+    std::size_t found = 0;
+    const double seconds = Timed([&] { found = EnumerateMenuFiles().size(); });
+    if (found != fileCount)
+        throw std::runtime_error("the listing is not complete");
+    return seconds * 1e3;
+}
+
+double ListByBareCalls() {
+    int found = 0;
+    const double seconds = Timed([&] {
+        WIN32_FIND_DATAA entry;
+        const HANDLE search = FindFirstFileA("*", &entry);
+        do {
+            if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0)
+                continue;
+            const HANDLE file = CreateFileA(entry.cFileName, GENERIC_READ, FILE_SHARE_READ, nullptr,
+                                            OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+            std::array<char, 4096> start;
+            DWORD got = 0;
+            if (ReadFile(file, start.data(), start.size(), &got, nullptr) && got > 0)
+                ++found;
+            CloseHandle(file);
+        } while (FindNextFileA(search, &entry));
+        FindClose(search);
+    });
+    if (found != fileCount)
+        throw std::runtime_error("the bare listing is not complete");
+    return seconds * 1e3;
+}
+
+} // namespace
+
+std::vector<Row> MeasureListing() {
+    constexpr int runs = 121;
+    const ScratchFolder folder;
+    CreateDirectoryA("small", nullptr);
+    CreateDirectoryA("large", nullptr);
+    const auto inFolder = [](const char* name, auto&& work) {
+        SetCurrentDirectoryA(name);
+        const auto result = work();
+        SetCurrentDirectoryA("..");
+        return result;
+    };
+    const auto fill = [](LONGLONG size) {
+        return [=] {
+            MakeMenuFiles(size);
+            return true;
+        };
+    };
+    inFolder("small", fill(smallSize));
+    inFolder("large", fill(largeSize));
+
+    const auto listSmall = [&] { return inFolder("small", ListByProduct); };
+    const auto listLarge = [&] { return inFolder("large", ListByProduct); };
+    const Medians small = Alternate(runs, listSmall, [&] { return inFolder("small", ListByBareCalls); });
+    const Medians large = Alternate(runs, listLarge, [&] { return inFolder("large", ListByBareCalls); });
+    const Medians sizes = Alternate(runs, listLarge, listSmall);
+    return {
+        WithinRatio("listing 98 menu files of 1 KB", "ms", small.product, small.floor, 1.10),
+        WithinRatio("listing 98 menu files of 20 MB", "ms", large.product, large.floor, 1.10),
+        WithinRatio("listing 98 files of 20 MB; floor: of 1 KB", "ms", sizes.product, sizes.floor, 1.05),
+    };
+}
+
+} // namespace obrin::bench

@@ -1,0 +1,39 @@
+// Folders that live as long as a measurement.
+#pragma once
+
+#include <string>
+
+namespace obrin::bench {
+
+/// A new folder below the temp path. It is the current folder until it is removed again, with everything in
+/// it.
+class ScratchFolder {
+public:
+    ScratchFolder();
+    ScratchFolder(const ScratchFolder&) = delete;
+    ScratchFolder& operator=(const ScratchFolder&) = delete;
+    ~ScratchFolder();
+
+private:
+    std::string before;
+    std::string folder;
+};
+
+/// A host installation in the current folder: three systems with the same tree, a picture, and a workstation
+/// number for the user who runs this. `host` becomes its host program.
+class Installation {
+public:
+    static constexpr int wsid = 5;
+    static constexpr const char* system = "UB.mnu";
+
+    explicit Installation(const std::string& host);
+
+private:
+    ScratchFolder folder;
+};
+
+/// A menu file of `entries` entries behind its header line. A heading holds ten headings, each of these holds
+/// programs, up to `programs`; with none of these, all entries are programs at top level.
+std::string MenuFileText(const char* title, int entries, int programs);
+
+} // namespace obrin::bench

@@ -1,0 +1,148 @@
+// Showing a system of 30,000 entries, from its file to the painted tree, against inserting the same texts
+// into a tree of the same size. Both trees are visible and hold the last run's entries at first.
+
+#include "Clock.h"
+#include "Measurements.h"
+#include "Scratch.h"
+
+#include "menu/MenuDefinition.h"
+#include "menu/MenuTree.h"
+#include "platform/Events.h"
+#include "platform/Failure.h"
+#include "platform/File.h"
+
+#include <algorithm>
+#include <array>
+#include <memory>
+#include <stdexcept>
+
+namespace obrin::bench {
+
+namespace {
+
+constexpr int entryCount = 30000;
+constexpr int treeWidth = 380;
+constexpr int treeHeight = 410;
+
+struct CloseWindow {
+    void operator()(HWND window) const { DestroyWindow(window); }
+};
+using UniqueWindow = std::unique_ptr<std::remove_pointer_t<HWND>, CloseWindow>;
+
+UniqueWindow ShowFrame() {
+    UniqueWindow frame(CreateWindowExA(0, WC_STATICA, "Obrin bench", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, 0,
+                                       0, 2 * treeWidth + 40, treeHeight + 60, nullptr, nullptr, nullptr,
+                                       nullptr));
+    ShowWindow(frame.get(), SW_SHOWNORMAL);
+    return frame;
+}
+
+HWND CreateTree(HWND frame, int left) {
+    constexpr DWORD style = WS_CHILD | WS_VISIBLE | WS_TABSTOP | TVS_HASLINES | TVS_LINESATROOT |
+                            TVS_HASBUTTONS | TVS_SHOWSELALWAYS;
+    return CreateWindowExA(WS_EX_CLIENTEDGE, WC_TREEVIEWA, "", style, left, 0, treeWidth, treeHeight, frame,
+                           nullptr, nullptr, nullptr);
+}
+
+double ShowByProduct(MenuTree& tree, const char* fileName) {
+    return 1e3 * Timed([&] {
+               tree.Clear();
+               MenuDefinition definition = ParseMenuDefinition(ReadFileBytes(fileName), fileName);
+               tree.Fill(std::move(definition.entries));
+               UpdateWindow(tree.Window());
+           });
+}
+
+// Which order and which place to name is faster differs from platform to platform.
+struct Way {
+    bool levelByLevel; // the nodes of a level before those of the next, instead of in file order
+    bool behindLast;   // named by TVI_LAST, instead of by the handle of the parent's last node
+};
+constexpr std::array<Way, 4> ways{{{false, false}, {false, true}, {true, false}, {true, true}}};
+
+std::vector<std::size_t> OrderOf(const std::vector<MenuEntry>& entries, bool levelByLevel) {
+    std::vector<int> depths{0};
+    std::vector<std::size_t> order;
+    for (const MenuEntry& entry : entries) {
+        order.push_back(order.size());
+        depths.push_back(depths[static_cast<std::size_t>(entry.parent)] + 1);
+    }
+    if (levelByLevel)
+        std::ranges::stable_sort(order, {}, [&](std::size_t i) { return depths[i + 1]; });
+    return order;
+}
+
+double ShowByBareCalls(HWND tree, const std::vector<MenuEntry>& entries, Way way) {
+    const std::vector<std::size_t> order = OrderOf(entries, way.levelByLevel);
+    std::vector<HTREEITEM> items(entries.size() + 1, TVI_ROOT);
+    std::vector<HTREEITEM> lastChildren(entries.size() + 1, way.behindLast ? TVI_LAST : TVI_FIRST);
+    return 1e3 * Timed([&] {
+               SendMessageA(tree, WM_SETREDRAW, FALSE, 0);
+               SendMessageA(tree, TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(TVI_ROOT));
+               TVINSERTSTRUCTA insertion{};
+               insertion.item.mask = TVIF_TEXT;
+               for (const std::size_t i : order) {
+                   const auto parent = static_cast<std::size_t>(entries[i].parent);
+                   insertion.hParent = items[parent];
+                   insertion.hInsertAfter = lastChildren[parent];
+                   insertion.item.pszText = const_cast<char*>(entries[i].text.c_str());
+                   items[i + 1] = reinterpret_cast<HTREEITEM>(
+                       SendMessageA(tree, TVM_INSERTITEMA, 0, reinterpret_cast<LPARAM>(&insertion)));
+                   if (!way.behindLast)
+                       lastChildren[parent] = items[i + 1];
+               }
+               SendMessageA(tree, WM_SETREDRAW, TRUE, 0);
+               InvalidateRect(tree, nullptr, TRUE);
+               UpdateWindow(tree);
+           });
+}
+
+// The first run starts from an empty tree, so each way runs once before they are compared.
+Way FastestWay(HWND tree, const std::vector<MenuEntry>& entries) {
+    std::array<double, ways.size()> times;
+    for (int round = 0; round < 2; ++round) {
+        for (std::size_t i = 0; i < ways.size(); ++i)
+            times[i] = ShowByBareCalls(tree, entries, ways[i]);
+    }
+    return ways[static_cast<std::size_t>(std::ranges::min_element(times) - times.begin())];
+}
+
+Row MeasureShape(const char* what, int programs) {
+    constexpr int runs = 11;
+    constexpr const char* fileName = "UB.mnu";
+    WriteFileBytes(fileName, MenuFileText("Utility Billing", entryCount, programs));
+    const std::vector<MenuEntry> entries = ParseMenuDefinition(ReadFileBytes(fileName), fileName).entries;
+
+    const UniqueWindow frame = ShowFrame();
+    MenuTree tree;
+    tree.Attach(CreateTree(frame.get(), 0));
+    const HWND bare = CreateTree(frame.get(), treeWidth);
+    ProcessPendingEvents();
+    const Way fastest = FastestWay(bare, entries);
+    const Medians medians = Alternate(
+        runs,
+        [&] {
+            ProcessPendingEvents();
+            return ShowByProduct(tree, fileName);
+        },
+        [&] {
+            ProcessPendingEvents();
+            return ShowByBareCalls(bare, entries, fastest);
+        });
+    for (const HWND filled : {tree.Window(), bare}) {
+        if (SendMessageA(filled, TVM_GETCOUNT, 0, 0) != entryCount)
+            throw std::runtime_error("the tree is not complete");
+    }
+    return WithinRatio(what, "ms", medians.product, medians.floor, 1.25);
+}
+
+} // namespace
+
+std::vector<Row> MeasureTree() {
+    const ScratchFolder folder;
+    return {MeasureShape("showing 30,000 entries, 9 below each heading", 9),
+            MeasureShape("showing 30,000 entries, 2,999 below each heading", 2999),
+            MeasureShape("showing 30,000 entries, all at top level", 0)};
+}
+
+} // namespace obrin::bench
