@@ -1,6 +1,6 @@
 # Flags of every image, and what is done to the images that run from a share.
-# O2: O3 makes the images larger and nothing here faster.
-string(REPLACE "-O3" "-O2" CMAKE_CXX_FLAGS_RELEASE "${CMAKE_CXX_FLAGS_RELEASE}")
+# Os: a tenth smaller than with O2, and nothing here is slower for it: the time goes into the calls of Windows.
+string(REPLACE "-O3" "-Os" CMAKE_CXX_FLAGS_RELEASE "${CMAKE_CXX_FLAGS_RELEASE}")
 
 if(WIN32)
   add_compile_options(-fstack-protector-strong -fcf-protection -ffunction-sections -fdata-sections)

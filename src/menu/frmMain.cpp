@@ -15,6 +15,7 @@
 #include "platform/Shell.h"
 #include "platform/Workstation.h"
 #include "resources/Ids.h"
+#include "settings/Form2.h"
 #include "startup/HostKeys.h"
 #include "startup/WorkstationIdentity.h"
 
@@ -511,7 +512,9 @@ void frmMain::PopUp(int x, int y) {
 }
 
 void frmMain::mnuTreeView_Click(int item) {
-    if (item == ID_TREE_HELP)
+    if (item == ID_TREE_PROPERTIES)
+        Form2(corvel, propertiesKey).Show(window);
+    else
         MessageBoxA(window, "Option not available. In Developement.", "Warning", MB_OK);
 }
 

@@ -17,6 +17,19 @@ std::string CurrentFolder() {
     return folder;
 }
 
+bool FolderExists(const std::string& path) {
+    const DWORD attributes = GetFileAttributesA(path.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+void CreateFolder(const std::string& path) {
+    if (CreateDirectoryA(path.c_str(), nullptr))
+        return;
+    const DWORD error = GetLastError();
+    if (!FolderExists(path))
+        throw RunTimeError(error, "Making the folder " + path);
+}
+
 std::vector<std::string> ListNormalFiles(const std::string& folder) {
     constexpr DWORD unlisted = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
     std::vector<std::string> names;

@@ -9,6 +9,13 @@ namespace obrin {
 /// The process's current directory, the host installation folder. Throws RunTimeError.
 std::string CurrentFolder();
 
+/// Whether a folder of that name exists; a file is none.
+bool FolderExists(const std::string& path);
+
+/// Makes a folder in one that exists. That another program has made it meanwhile is no failure. Throws
+/// RunTimeError.
+void CreateFolder(const std::string& path);
+
 /// Names of the normal files of a folder (read-only and archived ones too, no folders, no hidden or system
 /// files), in the order of the file system. Throws RunTimeError.
 std::vector<std::string> ListNormalFiles(const std::string& folder);

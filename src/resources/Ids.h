@@ -10,6 +10,12 @@
 #define IDD_UPDATE 21
 #define IDD_ABOUT 22
 
+// The Properties dialog and its pages, Frame(1) to Frame(3).
+#define IDD_PROPERTIES 30
+#define IDD_PAGE_GENERAL 31
+#define IDD_PAGE_SETTINGS 32
+#define IDD_PAGE_MARGINS 33
+
 // Controls; each dialog has its own.
 #define IDC_PROMPT 100
 #define IDC_ANSWER 101
@@ -30,6 +36,24 @@
 #define IDC_LBL_DESCRIPTION 213
 #define IDC_LBL_DISCLAIMER 214
 #define IDC_CMD_SYS_INFO 215
+
+// Command1(0) and Command1(1) of the Properties dialog are IDOK and IDCANCEL.
+#define IDC_APPLY 220
+#define IDC_TABSTRIP1 221
+#define IDC_TXT_SYSTEM 222
+#define IDC_TXT_PROGRAM_NAME 223
+#define IDC_TXT_HELP_FILE 224
+#define IDC_COMMAND2 225
+#define IDC_TXT_HEIGHT 226
+#define IDC_TXT_WIDTH 227
+#define IDC_CMB_ORIENTATION 228
+#define IDC_TXT_LINES 229
+#define IDC_TXT_COLUMNS 230
+#define IDC_TXT_FONT_SIZE 231
+#define IDC_TXT_SAVE_TO_AS_START 232
+// One for each margin: top, bottom, left, right.
+#define IDC_TXT_MARGIN 240
+#define IDC_SLD_MARGIN 250
 
 // Items of the menu bar.
 #define ID_BACKUP 300
@@ -53,3 +77,16 @@
 // mnuSystems(i) is ID_SYSTEMS + i; mnuSystems(99) is the template.
 #define ID_SYSTEMS 400
 #define ID_SYSTEMS_TEMPLATE 499
+
+// The defaults of a program's settings.
+#define IDS_HELP_FOLDER 102
+#define IDS_ORIENTATION 104
+#define IDS_HEIGHT 105
+#define IDS_WIDTH 106
+#define IDS_LINES 107
+#define IDS_COLUMNS 108
+#define IDS_FONT_SIZE 109
+#define IDS_TOP_MARGIN 110
+#define IDS_BOTTOM_MARGIN 111
+#define IDS_LEFT_MARGIN 112
+#define IDS_RIGHT_MARGIN 113

@@ -1,0 +1,317 @@
+#include "settings/Form2.h"
+
+#include "common/Numbers.h"
+#include "common/Text.h"
+#include "platform/Failure.h"
+#include "platform/File.h"
+#include "resources/Ids.h"
+#include "settings/Margins.h"
+#include "settings/SettingsStore.h"
+
+#include <uxtheme.h>
+
+namespace obrin {
+
+namespace {
+
+// Other programs of the installation may fill it; it is not where the menu remembers its own last system.
+constexpr const char* registryKey = "Software\\Obrin\\Menu";
+
+constexpr std::array<const char*, 3> tabCaptions{"General", "Page Settings", "Page Margins"};
+
+// As much as can be typed into a box. The platform takes half a minute to lay out the ten megabytes of a
+// damaged file.
+constexpr std::size_t longestText = 32767;
+
+// The element of a control array that an id names; out of the array's range for the id of another control.
+std::size_t ElementOf(int id, int firstId) {
+    return static_cast<std::size_t>(id - firstId);
+}
+
+} // namespace
+
+void Form2::Show(HWND frmMain) {
+    ShowModal(frmMain, IDD_PROPERTIES);
+}
+
+INT_PTR Form2::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_INITDIALOG:
+        Form_Load();
+        return FALSE; // the keyboard has been given to the tab strip
+    case WM_COMMAND:
+        OnCommand(LOWORD(wParam), HIWORD(wParam));
+        return TRUE;
+    case WM_HSCROLL: // of a slider, by mouse or keyboard
+        if (const auto index = ElementOf(GetDlgCtrlID(reinterpret_cast<HWND>(lParam)), IDC_SLD_MARGIN);
+            index < sldMargin.size())
+            sldMargin_Change(index);
+        return TRUE;
+    case WM_NOTIFY:
+        if (reinterpret_cast<const NMHDR*>(lParam)->code != static_cast<UINT>(TCN_SELCHANGE))
+            return FALSE;
+        TabStrip1_Click();
+        return TRUE;
+    default:
+        return FALSE;
+    }
+}
+
+void Form2::OnCommand(int id, int notification) {
+    if (id == IDOK || id == IDCANCEL || id == IDC_APPLY) {
+        Command1_Click(id);
+    } else if (id == IDC_COMMAND2) {
+        Command2_Click();
+    } else if (id == IDC_CMB_ORIENTATION) {
+        if (notification == CBN_DROPDOWN)
+            cmbOrientation_DropDown();
+        else if (notification == CBN_SELCHANGE)
+            cmbOrientation_Click();
+    } else if (const auto index = ElementOf(id, IDC_TXT_MARGIN); index < txtMargin.size()) {
+        if (notification == EN_CHANGE)
+            txtMargin_Change(index);
+        else if (notification == EN_KILLFOCUS)
+            txtMargin_LostFocus(index);
+    }
+}
+
+// --- Load and pages
+// ---------------------------------------------------------------------------------------
+
+void Form2::Form_Load() {
+    IniPath = SettingsPath(treeTag);
+    if (!FileExists(IniPath))
+        WriteDefaultSettings(IniPath, std::string(TrimBlanks(treeTag)));
+    CreatePages();
+    PrepareSliders();
+    LoadSettings();
+    SetFocus(TabStrip1);
+}
+
+// A page hands on what its controls say.
+INT_PTR CALLBACK Form2::PageProcedure(HWND page, UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_INITDIALOG:
+        EnableThemeDialogTexture(page, ETDT_ENABLETAB); // the background of the tab strip
+        return FALSE;
+    case WM_COMMAND:
+    case WM_HSCROLL:
+        SendMessageA(GetParent(page), message, wParam, lParam);
+        return TRUE;
+    default:
+        return FALSE;
+    }
+}
+
+void Form2::CreatePages() {
+    TabStrip1 = Control(IDC_TABSTRIP1);
+    for (std::size_t i = 0; i < tabCaptions.size(); ++i) {
+        std::string caption = tabCaptions[i];
+        TCITEMA tab{};
+        tab.mask = TCIF_TEXT;
+        tab.pszText = caption.data();
+        SendMessageA(TabStrip1, TCM_INSERTITEMA, i, reinterpret_cast<LPARAM>(&tab));
+    }
+
+    RECT inner;
+    GetWindowRect(TabStrip1, &inner);
+    MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&inner), 2);
+    SendMessageA(TabStrip1, TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&inner));
+    for (std::size_t i = 0; i < Frame.size(); ++i) {
+        Frame[i] = CreateDialogParamA(GetModuleHandleA(nullptr),
+                                      MAKEINTRESOURCEA(IDD_PAGE_GENERAL + static_cast<int>(i)), window,
+                                      PageProcedure, 0);
+        if (Frame[i] == nullptr)
+            ThrowLastError("Opening the Properties dialog");
+        // Visible behind the first page, and out of the keyboard's reach.
+        EnableWindow(Frame[i], FALSE);
+        SetWindowPos(Frame[i], HWND_BOTTOM, inner.left, inner.top, inner.right - inner.left,
+                     inner.bottom - inner.top, SWP_NOACTIVATE);
+    }
+    BringToFront(shownPage);
+
+    cmbOrientation = Item(IDC_CMB_ORIENTATION);
+    for (const char* item : {"Portrait", "Landscape"})
+        SendMessageA(cmbOrientation, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item));
+}
+
+void Form2::BringToFront(std::size_t page) {
+    EnableWindow(Frame[page], TRUE);
+    SetWindowPos(Frame[page], HWND_TOP, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
+}
+
+void Form2::TabStrip1_Click() {
+    const auto selected = static_cast<std::size_t>(SendMessageA(TabStrip1, TCM_GETCURSEL, 0, 0));
+    BringToFront(selected);
+    if (selected == shownPage)
+        return;
+    const HWND old = Frame[shownPage];
+    if (IsChild(old, GetFocus()))
+        SendMessageA(window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(TabStrip1), TRUE);
+    EnableWindow(old, FALSE);
+    ShowWindow(old, SW_HIDE);
+    shownPage = selected;
+}
+
+// --- Orientation
+// ---------------------------------------------------------------------------------------
+
+void Form2::cmbOrientation_DropDown() {
+    rememberedOrientation = WindowText(cmbOrientation);
+}
+
+void Form2::cmbOrientation_Click() {
+    // The list tells what was chosen; the text beside it is still the old one.
+    const LRESULT chosen = SendMessageA(cmbOrientation, CB_GETCURSEL, 0, 0);
+    if (chosen == CB_ERR)
+        return;
+    std::array<char, 16> text{}; // longer than any item
+    SendMessageA(cmbOrientation, CB_GETLBTEXT, static_cast<WPARAM>(chosen),
+                 reinterpret_cast<LPARAM>(text.data()));
+    if (text.data() == rememberedOrientation)
+        return;
+    const std::string height = WindowText(Item(IDC_TXT_HEIGHT));
+    SetWindowTextA(Item(IDC_TXT_HEIGHT), WindowText(Item(IDC_TXT_WIDTH)).c_str());
+    SetWindowTextA(Item(IDC_TXT_WIDTH), height.c_str());
+}
+
+// --- Margins
+// ---------------------------------------------------------------------------------------
+
+void Form2::PrepareSliders() {
+    constexpr int tick = 250; // a quarter of an inch; a click beside the slider's knob moves it that far too
+    constexpr int keyStep = 10; // a hundredth
+    sliderTips =
+        CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0,
+                        0, 0, 0, window, nullptr, nullptr, nullptr);
+    for (std::size_t i = 0; i < sldMargin.size(); ++i) {
+        txtMargin[i] = Item(IDC_TXT_MARGIN + static_cast<int>(i));
+        const HWND slider = sldMargin[i] = Item(IDC_SLD_MARGIN + static_cast<int>(i));
+        SendMessageA(slider, TBM_SETRANGEMIN, FALSE, smallestMargin);
+        SendMessageA(slider, TBM_SETRANGEMAX, FALSE, largestMargin);
+        SendMessageA(slider, TBM_SETTICFREQ, tick, 0);
+        SendMessageA(slider, TBM_SETPAGESIZE, 0, tick);
+        SendMessageA(slider, TBM_SETLINESIZE, 0, keyStep);
+
+        TOOLINFOA tip{};
+        tip.cbSize = sizeof tip;
+        tip.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+        tip.hwnd = window;
+        tip.uId = reinterpret_cast<UINT_PTR>(slider);
+        std::string none;
+        tip.lpszText = none.data();
+        SendMessageA(sliderTips, TTM_ADDTOOLA, 0, reinterpret_cast<LPARAM>(&tip));
+        sldMargin_Change(i);
+    }
+}
+
+int Form2::SliderValue(std::size_t index) const {
+    return static_cast<int>(SendMessageA(sldMargin[index], TBM_GETPOS, 0, 0));
+}
+
+void Form2::sldMargin_Change(std::size_t index) {
+    std::string text = ShortestThousandths(SliderValue(index));
+    TOOLINFOA tip{};
+    tip.cbSize = sizeof tip;
+    tip.hwnd = window;
+    tip.uId = reinterpret_cast<UINT_PTR>(sldMargin[index]);
+    tip.lpszText = text.data();
+    SendMessageA(sliderTips, TTM_UPDATETIPTEXTA, 0, reinterpret_cast<LPARAM>(&tip));
+    WriteMarginText(index);
+}
+
+void Form2::WriteMarginText(std::size_t index) {
+    const HWND box = txtMargin[index];
+    const std::string before = WindowText(box);
+    const std::string text = ShortestThousandths(SliderValue(index));
+    if (text == before)
+        return; // the caret stays, and what was typed can be undone
+    DWORD caret = 0;
+    SendMessageA(box, EM_GETSEL, 0, reinterpret_cast<LPARAM>(&caret));
+    SetWindowTextA(box, text.c_str());
+    const std::size_t kept = KeptCaret(before, caret, text);
+    SendMessageA(box, EM_SETSEL, kept, static_cast<LPARAM>(kept));
+}
+
+// Comes back here once when the slider's change writes the box; the slider has the box's value by then.
+void Form2::txtMargin_Change(std::size_t index) {
+    const auto margin = TypedMargin(WindowText(txtMargin[index]));
+    if (!margin || *margin == SliderValue(index))
+        return;
+    SendMessageA(sldMargin[index], TBM_SETPOS, TRUE, *margin);
+    sldMargin_Change(index);
+}
+
+void Form2::txtMargin_LostFocus(std::size_t index) {
+    if (ReadsAsMargin(WindowText(txtMargin[index]), SliderValue(index)))
+        WriteMarginText(index);
+}
+
+// --- Saving and loading
+// ---------------------------------------------------------------------------------------
+
+void Form2::Command1_Click(int id) {
+    if (id != IDCANCEL)
+        SaveSettings();
+    if (id != IDC_APPLY)
+        EndDialog(window, id);
+}
+
+void Form2::Command2_Click() {
+    // With the file's own path as the name: it tells a reset file from a new one.
+    WriteDefaultSettings(IniPath, IniPath);
+    LoadSettings();
+}
+
+void Form2::SaveSettings() const {
+    SettingValues values;
+    for (std::size_t i = 0; i < settings.size(); ++i)
+        values[i] = ValueOf(settings[i].control);
+    SaveSystemSettings(IniPath, values);
+}
+
+void Form2::LoadSettings() {
+    const std::string lastSystem = corvel.GetRegValue(HKEY_LOCAL_MACHINE, registryKey, "LastSystem");
+    SetWindowTextA(Item(IDC_TXT_SYSTEM), lastSystem.substr(0, 2).c_str());
+    const LoadedSettings loaded = LoadSystemSettings(IniPath);
+    for (std::size_t i = 0; i < settings.size(); ++i) {
+        if (loaded[i])
+            ShowValue(settings[i].control, *loaded[i]);
+    }
+}
+
+void Form2::ShowValue(int control, const std::string& value) {
+    if (const auto margin = ElementOf(control, IDC_SLD_MARGIN); margin < sldMargin.size()) {
+        SendMessageA(sldMargin[margin], TBM_SETPOS, TRUE, MarginOf(value));
+        // Also when the value was the same: the box may hold something else that was typed.
+        sldMargin_Change(margin);
+        return;
+    }
+    if (control == IDC_CMB_ORIENTATION) {
+        // So that the arrow keys go on from the item that is shown. The text below keeps its own case.
+        const LRESULT item = SendMessageA(cmbOrientation, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
+                                          reinterpret_cast<LPARAM>(value.c_str()));
+        SendMessageA(cmbOrientation, CB_SETCURSEL, static_cast<WPARAM>(item), 0);
+    }
+    SetWindowTextA(Item(control), value.substr(0, longestText).c_str());
+}
+
+std::string Form2::ValueOf(int control) const {
+    // The box can be edited, but the name in the file is always the tree's.
+    if (control == IDC_TXT_PROGRAM_NAME)
+        return treeTag;
+    if (const auto margin = ElementOf(control, IDC_SLD_MARGIN); margin < sldMargin.size())
+        return ShortestThousandths(SliderValue(margin));
+    return WindowText(Item(control));
+}
+
+HWND Form2::Item(int id) const {
+    for (const HWND page : Frame) {
+        if (const HWND item = GetDlgItem(page, id))
+            return item;
+    }
+    return nullptr;
+}
+
+} // namespace obrin

@@ -1,0 +1,64 @@
+// The Properties dialog: the settings of the program last right-clicked in the menu's tree, on three pages.
+#pragma once
+
+#include "platform/Dialog.h"
+#include "platform/SupportLibrary.h"
+#include "settings/ProgramSettings.h"
+
+#include <array>
+#include <cstddef>
+#include <string>
+
+namespace obrin {
+
+class Form2 final : public Dialog {
+public:
+    /// `programKey` is the tree's own: it is read when the dialog opens and again whenever it saves.
+    Form2(const SupportLibrary& supportLibrary, const std::string& programKey)
+        : corvel(supportLibrary)
+        , treeTag(programKey) {}
+
+    /// Shows the dialog modally; returns once it is closed, or gone with the menu window.
+    void Show(HWND frmMain);
+
+private:
+    static INT_PTR CALLBACK PageProcedure(HWND page, UINT message, WPARAM wParam, LPARAM lParam);
+    INT_PTR OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void OnCommand(int id, int notification);
+
+    void Form_Load();
+    void TabStrip1_Click();
+    void cmbOrientation_DropDown();
+    void cmbOrientation_Click();
+    void sldMargin_Change(std::size_t index);
+    void txtMargin_Change(std::size_t index);
+    void txtMargin_LostFocus(std::size_t index);
+    void Command1_Click(int id);
+    void Command2_Click();
+
+    void CreatePages();
+    void PrepareSliders();
+    void BringToFront(std::size_t page);
+    void SaveSettings() const;
+    void LoadSettings();
+    void ShowValue(int control, const std::string& value);
+    std::string ValueOf(int control) const;
+    HWND Item(int id) const;
+    int SliderValue(std::size_t index) const;
+    void WriteMarginText(std::size_t index);
+
+    const SupportLibrary& corvel;
+    const std::string& treeTag;
+    std::string IniPath;
+    std::string rememberedOrientation; // of when the list was last opened
+    std::size_t shownPage = 0;         // the tag of TabStrip1
+
+    HWND TabStrip1 = nullptr;
+    std::array<HWND, 3> Frame{};
+    HWND cmbOrientation = nullptr;
+    std::array<HWND, 4> txtMargin{};
+    std::array<HWND, 4> sldMargin{};
+    HWND sliderTips = nullptr;
+};
+
+} // namespace obrin

@@ -1,0 +1,43 @@
+#include "settings/FrameWork.h"
+
+#include "common/Text.h"
+
+namespace obrin {
+
+namespace {
+
+// From the "\" at `root` on, outermost folder first. What is in front of it, a drive or a server, is neither
+// looked at nor made.
+bool Walk(const std::string& path, std::size_t root, bool create, const FolderCalls& folders) {
+    if (root == std::string::npos)
+        return false;
+    for (auto end = path.find('\\', root + 1); end != std::string::npos; end = path.find('\\', end + 1)) {
+        const std::string folder = path.substr(0, end + 1);
+        if (folders.exists(folder))
+            continue;
+        if (!create)
+            return false;
+        folders.create(folder);
+    }
+    return true;
+}
+
+} // namespace
+
+bool EnsurePath(const std::string& path, bool create, const FolderCalls& folders) {
+    const auto lastComponent = path.rfind('\\') + 1; // 0 when there is no "\"
+    const bool namesFile = path.find('.', lastComponent) != std::string::npos;
+    const std::string folder = EnsureTrailingBackslash(namesFile ? path.substr(0, lastComponent) : path);
+    return folder.starts_with("\\\\") ? EnsurePathUnc(folder, create, folders)
+                                      : EnsurePathLocal(folder, create, folders);
+}
+
+bool EnsurePathUnc(const std::string& path, bool create, const FolderCalls& folders) {
+    return Walk(path, path.find('\\', 2), create, folders);
+}
+
+bool EnsurePathLocal(const std::string& path, bool create, const FolderCalls& folders) {
+    return Walk(path, path.find('\\'), create, folders);
+}
+
+} // namespace obrin

@@ -1,0 +1,12 @@
+#include "settings/FrameWorkFolders.h"
+
+#include "platform/Folder.h"
+#include "settings/FrameWork.h"
+
+namespace obrin {
+
+bool EnsurePath(const std::string& path, bool create) {
+    return EnsurePath(path, create, {.exists = FolderExists, .create = CreateFolder});
+}
+
+} // namespace obrin

@@ -1,0 +1,50 @@
+#include "settings/ProgramSettings.h"
+
+#include "common/RunTimeError.h"
+#include "settings/InifileManipulation.h"
+
+#include <gtest/gtest.h>
+
+namespace obrin {
+namespace {
+
+TEST(FormatIniLine, PutsTheValueBehindAColumnOf18) {
+    EXPECT_EQ(FormatIniLine("Program", "UB"), "Program           =     UB");
+    EXPECT_EQ(FormatIniLine("SaveToAsStart", ""), "SaveToAsStart     =     ");
+    EXPECT_EQ(FormatIniLine(std::string(18, 'K'), "v"), std::string(18, 'K') + "=     v");
+    EXPECT_THROW(FormatIniLine(std::string(19, 'K'), "v"), RunTimeError);
+}
+
+TEST(Settings, AreReadAsTheyWereWritten) {
+    SettingValues values;
+    for (std::size_t i = 0; i < values.size(); ++i)
+        values[i] = "  value\t" + std::to_string(i) + " ";
+    const LoadedSettings loaded = ParseSettings(FormatSettings(values), "a.ini");
+    for (std::size_t i = 0; i < values.size(); ++i)
+        EXPECT_EQ(loaded[i], "value\t" + std::to_string(i)) << settings[i].key;
+}
+
+TEST(Settings, AreReadLineByLine) {
+    const auto lines = [](std::string_view file) { return ParseSettings(file, "a.ini")[6]; };
+    EXPECT_EQ(lines("  Lines  =  7 8  \r\n"), "7 8");
+    EXPECT_EQ(lines("Lines = a=b=c\r\n"), "a") << "a value ends at the second =";
+    EXPECT_EQ(lines("Lines =\r\n"), "");
+    EXPECT_EQ(lines("Width=1\rLines=7\rHeight=2"), "7") << "a lone CR ends a line";
+    EXPECT_EQ(lines("Lines=7\r\nLines=8\r\n"), "8") << "the last one counts";
+    EXPECT_EQ(lines("lines=7\r\nLINES=8\r\nLine=9\r\n\tLines=1\r\n=\r\n===\r\n"), std::nullopt);
+    EXPECT_EQ(lines(""), std::nullopt);
+}
+
+TEST(Settings, RefuseALineWithoutEqualsSign) {
+    EXPECT_THROW(ParseSettings(std::string(1000, '\0'), "a.ini"), RunTimeError);
+    EXPECT_THROW(ParseSettings("Lines=7\r\n\r\nWidth=1\r\n", "a.ini"), RunTimeError);
+    try {
+        ParseSettings("Lines=7\r\nWidth\r\n", "a.ini");
+        FAIL();
+    } catch (const RunTimeError& error) {
+        EXPECT_STREQ(error.what(), "a.ini, line 2: there is no \"=\"");
+    }
+}
+
+} // namespace
+} // namespace obrin
