@@ -176,18 +176,17 @@ template <class BeforeStep>
 double MicrosecondsPerStep(HWND window, bool painted, BeforeStep beforeStep) {
     SetForegroundWindow(window); // neither is measured behind the other
     ProcessPendingEvents();
-    double seconds = 0;
+    std::vector<double> times;
     for (int step = 0; step < stepCount; ++step) {
         beforeStep(step);
-
-        seconds += Timed([=] {
+        times.push_back(Timed([=] {
             ResizeTo(window, step);
             if (painted)
                 RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
-        });
+        }));
     }
     ProcessPendingEvents();
-    return seconds / stepCount * 1e6;
+    return Median(times) * 1e6;
 }
 
 Row MeasureSteps(const char* what, HWND menu, BareWindow& bare, bool painted) {
@@ -208,13 +207,11 @@ std::vector<Row> MeasureResizing() {
     frmMain menu(corvel);
 
     menu.Show();
-
     const UniqueFile host = ProcessOf(FindWindowA(hostWindowClass, nullptr));
 
     std::vector<Row> rows;
     {
         BareWindow bare(menu.Window());
-
         for (int step = 0; step < stepCount; ++step) {
             ResizeTo(menu.Window(), step);
             bare.RecordStep(step);
