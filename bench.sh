@@ -1,0 +1,9 @@
+#!/bin/bash
+# Builds the 64-bit programs and runs the benchmarks; arguments go to the benchmark program.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")"
+source scripts/packages.sh
+
+install_packages "${build_packages[@]}" "${wine_packages[@]}" "${font_packages[@]}"
+build_preset x64
+scripts/run-windows-program.sh build/x64/bin/bench.exe "$@"

@@ -1,0 +1,162 @@
+#!/bin/bash
+# Shows the menu at work on the demonstration installation. See usage below.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")"
+source scripts/packages.sh
+source scripts/wine.sh
+
+usage() {
+  cat <<'TEXT'
+usage: ./demo.sh
+  Builds the 64-bit programs, makes a demonstration installation below build/demo and starts the menu in it, on
+  this desktop. What is done there is kept for the next time; remove build/demo to start over.
+usage: ./demo.sh --screenshot FILE [--dpi N] [--size WxH] [--do SCRIPT]
+  Does the same as a new user on a hidden desktop, takes a picture of what is on the screen and closes the menu.
+  --dpi N      the screen's resolution as Windows programs see it (96)
+  --size WxH   the menu window's size in pixels, without its frame
+  --do SCRIPT  bash script to run before the picture, to open a menu or a dialog; xdotool reaches the display, and
+               MENU_WINDOW is the menu's window
+TEXT
+}
+
+picture='' dpi=96 size='' script=''
+while (($# > 0)); do
+  case $1 in
+    --screenshot) picture=$(realpath -m "${2:?--screenshot needs a file}") ;;
+    --dpi) dpi=${2:?--dpi needs a number} ;;
+    --size) size=${2:?--size needs WxH} ;;
+    --do) script=$(realpath "${2:?--do needs a script}") ;;
+    --help) usage; exit 0 ;;
+    *) usage >&2; exit 64 ;;
+  esac
+  shift 2
+done
+if [[ ! $dpi =~ ^[1-9][0-9]*$ || ! $size =~ ^([1-9][0-9]*x[1-9][0-9]*)?$ ]]; then
+  usage >&2
+  exit 64
+fi
+if [[ -z $picture && (-n $size || -n $script || $dpi != 96) ]]; then
+  usage >&2
+  exit 64
+fi
+if [[ -z $picture && -z ${DISPLAY-} ]]; then
+  echo "There is no display to show the menu on (DISPLAY is not set)." >&2
+  echo "Run this in a desktop session, or take a picture: ./demo.sh --screenshot FILE" >&2
+  exit 1
+fi
+
+# Makes the installation below build/$1 and the environment of a workstation that uses it.
+make_installation() {
+  local folder=$obrin_root/build/$1
+  mkdir -p "$folder/workstation"/{Tessel,Temp}
+  Tessel=$(windows_path "$folder/workstation/Tessel")
+  TesselTemp=$(windows_path "$folder/workstation/Temp")
+  export Tessel TesselTemp
+  demo/make-installation.sh "$folder/host" build/x64/bin
+}
+
+show() {
+  make_installation demo
+  make_prefix demo
+  exec 9>"$WINEPREFIX.lock"
+  if ! flock -n 9; then
+    echo "The demonstration is running already" >&2
+    return 1
+  fi
+  trap end_prefix EXIT
+  (cd build/demo/host && run_wine ./ObrinMenu.exe) 9>&- || return
+  # The host that the menu started ends by itself.
+  timeout 10 "$WINESERVER" -w 9>&- || true
+}
+
+# The first visible window with this title.
+window_titled() {
+  xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | head -n 1 | grep .
+}
+
+question_is_gone() {
+  ! window_titled 'Please Select a WSID'
+}
+
+# Answers the question for a workstation number until the menu is up. The box is seen before it takes keys, so the
+# answer may have to be given again.
+reach_menu() {
+  local box
+  if box=$(window_titled 'Please Select a WSID'); then
+    xdotool windowactivate "$box" key --clearmodifiers ctrl+a type 5 || true
+    xdotool key Return
+    wait_until 2 question_is_gone || true
+  fi
+  window_titled 'Obrin System Menu'
+}
+
+menu_has_size() {
+  [[ $(xdotool getwindowgeometry --shell "$MENU_WINDOW") == *"WIDTH=${size%x*}"$'\n'"HEIGHT=${size#*x}"$'\n'* ]]
+}
+
+# Two looks at the screen, a moment apart, show the same.
+screen_is_still() {
+  local before
+  before=$(import -silent -window root rgb:- | sha256sum)
+  sleep 0.3
+  [[ $(import -silent -window root rgb:- | sha256sum) == "$before" ]]
+}
+
+menu_has_ended() {
+  ! kill -0 "$menu_process"
+}
+
+close_menu() {
+  # What the script left open takes the keys otherwise.
+  [[ -z $script ]] || xdotool key Escape key Escape key Escape
+  xdotool windowactivate "$MENU_WINDOW" key alt+F4
+  wait_until 5 menu_has_ended
+}
+
+# Says what is wrong and leaves the whole screen as a picture.
+give_up() {
+  import -silent -window root build/screenshot/failure.png
+  echo "$1: see build/screenshot/failure.png" >&2
+  return 1
+}
+
+take_picture() {
+  (cd build/screenshot/host && run_wine ./ObrinMenu.exe) </dev/null >/dev/null 2>&1 &
+  menu_process=$!
+  wait_until 40 reach_menu || give_up "The menu did not appear" || return
+  MENU_WINDOW=$(window_titled 'Obrin System Menu') || return
+  export MENU_WINDOW
+  if [[ -n $size ]]; then
+    xdotool windowsize "$MENU_WINDOW" "${size%x*}" "${size#*x}"
+    wait_until 10 menu_has_size || give_up "The menu did not take the size $size" || return
+  fi
+  if [[ -n $script ]]; then
+    bash "$script" || give_up "$script failed" || return
+  fi
+  wait_until 10 screen_is_still || echo "The screen does not come to rest; taking the picture all the same" >&2
+  # Menus are windows of their own and may stick out: everything on the empty screen belongs to the picture.
+  import -silent -window root -trim +repage "$picture" || return
+  wait_until 20 close_menu || give_up "The menu does not close" || return
+  wait "$menu_process" || {
+    echo "The menu ended with exit code $?" >&2
+    return 1
+  }
+}
+
+install_packages "${build_packages[@]}" "${wine_packages[@]}" "${font_packages[@]}"
+build_preset x64
+
+if [[ -z $picture ]]; then
+  show
+else
+  # A new user each time.
+  use_prefix screenshot
+  end_prefix
+  rm -rf build/screenshot "$wine_folder/screenshot"
+  make_installation screenshot
+  make_prefix screenshot
+  printf '\n[Control Panel\\\\Desktop]\n"LogPixels"=dword:%08x\n' "$dpi" >>"$WINEPREFIX/pristine/user.reg"
+  mkdir -p "$(dirname "$picture")"
+  in_session screenshot take_picture
+  echo "Took ${picture#"$obrin_root"/}"
+fi

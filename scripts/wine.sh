@@ -1,0 +1,243 @@
+# shellcheck shell=bash
+# Running Windows programs: the Wine prefixes below build/wine, the 32-bit Wine beside the system's 64-bit one,
+# and the hidden desktop. To be sourced.
+#
+# Prefixes: x64 for the 64-bit programs, x86 for the 32-bit ones (it runs both kinds); any other name is made as a
+# copy of x64.
+
+obrin_root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+wine_folder=$obrin_root/build/wine
+wine32_root=$wine_folder/root32
+
+# Exports what every Windows program in prefix $1 needs; run_wine then starts one.
+use_prefix() {
+  local programs=/usr/lib/wine
+  if [[ $1 == x86 ]]; then
+    programs=$wine32_root/usr/lib/wine
+    export LD_LIBRARY_PATH=$wine32_root/lib/i386-linux-gnu:$wine32_root/usr/lib/i386-linux-gnu
+  fi
+  export WINEPREFIX=$wine_folder/$1 WINEARCH=win64 WINEDEBUG=-all
+  # Named, so that all programs of a prefix use the one server that is ended at the end.
+  export WINELOADER=$programs/wine64 WINESERVER=$programs/wineserver64
+  # With the debugger a crash can end with exit code 0. The menu builder writes into the developer's own desktop
+  # menus. The other two offer to download things when a prefix is made.
+  export WINEDLLOVERRIDES='winedbg.exe=d;winemenubuilder.exe=d;mscoree=;mshtml='
+}
+
+run_wine() {
+  "$WINELOADER" "$@"
+}
+
+# The Windows form of an absolute path: drive Z is the root folder in every prefix.
+windows_path() {
+  printf '%s\n' "Z:${1//\//\\}"
+}
+
+# Ends everything that runs in the current prefix. These prefixes are this checkout's own.
+end_prefix() {
+  "$WINESERVER" -k || true
+  timeout 20 "$WINESERVER" -w || true
+} </dev/null >/dev/null 2>&1
+
+# Polls until the command succeeds; fails after $1 seconds.
+wait_until() {
+  local end=$((SECONDS + $1))
+  shift
+  until "$@" >/dev/null 2>&1; do
+    ((SECONDS < end)) || return 1
+    sleep 0.1
+  done
+}
+
+# Makes the 32-bit Wine. The distribution's package for it does not install beside the tools of the 64-bit
+# builds, so it is unpacked into a folder of its own and borrows the 64-bit half from the system.
+# Fails with a message when the packages cannot be had.
+make_wine32() {
+  local version stamp=$wine32_root/complete apt_folder=$wine_folder/apt32
+  version=$(dpkg-query -W -f '${Version}' wine64)
+  # Both halves must be of one version: a new one of the system's needs a new one here.
+  [[ ! -f $stamp || $(<"$stamp") != "$version" ]] || return 0
+
+  echo "Fetching the 32-bit Wine (once: about 145 MB, half a minute)" >&2
+  rm -rf "$wine32_root" "$apt_folder"
+  mkdir -p "$wine32_root" "$apt_folder"/{state/lists,cache/archives}/partial
+  : >"$apt_folder/status"
+  # The system's own package sources and keys, but lists, downloads and an empty package database apart from the
+  # system's: nothing is installed, no rights are needed.
+  local -a apt=(apt-get -q -o Dir::State="$apt_folder/state" -o Dir::State::status="$apt_folder/status"
+    -o Dir::Cache="$apt_folder/cache" -o APT::Architecture=i386 -o APT::Architectures=i386
+    -o APT::Sandbox::User="$(id -un)" -o Debug::NoLocking=1 -o Acquire::Retries=3)
+  if ! {
+    # One list that cannot be had, of a source that is not needed, must not stop the rest.
+    "${apt[@]}" update || true
+    "${apt[@]}" install -y --no-install-recommends --download-only "wine32=$version" "libwine=$version" \
+      libxrender1 libxcursor1 libxrandr2 libxfixes3 libxi6 libxcomposite1 libxinerama1 &&
+      unpack_wine32 "$apt_folder/cache/archives"
+  } </dev/null >"$wine_folder/root32.log" 2>&1; then
+    tail -n 5 "$wine_folder/root32.log" >&2
+    echo "The 32-bit Wine could not be had: 32-bit programs cannot run here" >&2
+    return 1
+  fi
+  rm -rf "$apt_folder"
+  printf '%s\n' "$version" >"$stamp"
+}
+
+unpack_wine32() {
+  local package
+  for package in "$1"/*.deb; do
+    # The C library comes with the loader of package libc6-i386, which it must match to the letter.
+    [[ ${package##*/} == libc6_* ]] || dpkg -x "$package" "$wine32_root" || return
+  done
+  mkdir -p "$wine32_root/usr/lib/x86_64-linux-gnu" &&
+    ln -s /usr/lib/x86_64-linux-gnu/wine "$wine32_root/usr/lib/x86_64-linux-gnu/wine" &&
+    cp /usr/lib/wine/{wine64,wineserver64} "$wine32_root/usr/lib/wine/" &&
+    # Made by an installation script of the package, which unpacking does not run.
+    cp /usr/lib/x86_64-linux-gnu/wine/i386-windows/zlib1.dll "$wine32_root/usr/lib/i386-linux-gnu/wine/i386-windows/"
+}
+
+# Makes prefix $1 ready and selects it.
+make_prefix() {
+  mkdir -p "$wine_folder"
+  (
+    # One at a time: two runs that meet here would take each other's halves away.
+    exec 9>"$wine_folder/making.lock"
+    flock 9
+    prepare_prefix "$1" 9>&-
+  ) || return
+  use_prefix "$1"
+}
+
+prepare_prefix() {
+  local stamp recipe=1 # count up when a prefix is to be made differently
+  if [[ $1 == x86 ]]; then
+    make_wine32 || return
+  elif [[ $1 != x64 ]]; then
+    prepare_prefix x64 || return
+  fi
+  use_prefix "$1"
+  stamp=$WINEPREFIX/complete
+  recipe+=" $(dpkg-query -W -f '${Version}' wine64)"
+  [[ ! -f $stamp || $(<"$stamp") != "$recipe" ]] || return 0
+
+  if [[ -d $WINEPREFIX ]]; then
+    end_prefix
+    rm -rf "$WINEPREFIX"
+  fi
+  if [[ $1 != x64 && $1 != x86 ]]; then
+    # The stamp comes last: a copy that is cut off is made again.
+    mkdir "$WINEPREFIX" &&
+      cp -a "$wine_folder"/x64/{.update-timestamp,dosdevices,drive_c,pristine} "$WINEPREFIX" &&
+      restore_registry || return
+  else
+    echo "Making the Wine prefix ${WINEPREFIX#"$obrin_root"/} (once, about ten seconds)" >&2
+    mkdir "$WINEPREFIX"
+    if ! fill_prefix </dev/null >"$wine_folder/$1.log" 2>&1; then
+      cat "$wine_folder/$1.log" >&2
+      end_prefix
+      echo "The Wine prefix ${WINEPREFIX#"$obrin_root"/} could not be made" >&2
+      return 1
+    fi
+  fi
+  printf '%s\n' "$recipe" >"$stamp"
+}
+
+# Puts the current prefix's registry back to what it was when the prefix was made. The server must not run.
+restore_registry() {
+  cp "$WINEPREFIX"/pristine/*.reg "$WINEPREFIX"
+}
+
+fill_prefix() {
+  # Without a display no window of Wine's appears on the developer's.
+  env -u DISPLAY "$WINELOADER" wineboot -i || return
+  # Without these in the prefix itself every dialog falls back to one wide font.
+  cp /usr/share/wine/fonts/*.{ttf,fon} "$WINEPREFIX/drive_c/windows/Fonts/" || return
+  # Fonts that Windows has, and the ones here that stand in for them.
+  cat >"$WINEPREFIX/drive_c/prefix.reg" <<'REG' || return
+REGEDIT4
+
+[HKEY_CURRENT_USER\Software\Wine\Fonts\Replacements]
+"Arial"="Liberation Sans"
+"Comic Sans MS"="Comic Neue"
+"Courier New"="Liberation Mono"
+"Georgia"="Liberation Serif"
+"Times New Roman"="Liberation Serif"
+
+[HKEY_CURRENT_USER\Control Panel\Colors]
+"HotTrackingColor"="0 102 204"
+REG
+  env -u DISPLAY "$WINELOADER" regedit /S 'C:\prefix.reg' || return
+  # Ending the server writes the registry to disk.
+  end_prefix
+  grep -q 'Comic Neue' "$WINEPREFIX/user.reg" || return
+  mkdir "$WINEPREFIX/pristine" && cp "$WINEPREFIX"/*.reg "$WINEPREFIX/pristine" || return
+  # Wine links Documents, Desktop and the like to the developer's home folder. No test is to write there.
+  local link
+  while IFS= read -r link; do
+    rm "$link" && mkdir "$link" || return
+  done < <(find "$WINEPREFIX/drive_c/users" -type l)
+}
+
+# Runs a command in prefix $1 on a hidden desktop, alone in that prefix and with the registry as new, and leaves no
+# process behind. Inside such a session the command simply runs.
+#
+# The display server is started here and not by xvfb-run, which leaves it running when it is ended by a signal.
+in_session() {
+  local prefix=$1
+  shift
+  if [[ ${OBRIN_SESSION-} == "$prefix" ]]; then
+    "$@"
+    return
+  fi
+  make_prefix "$prefix" || return
+  (
+    exec 9>"$WINEPREFIX.lock"
+    if ! flock -n 9; then
+      echo "Waiting for another run in ${WINEPREFIX#"$obrin_root"/} to end" >&2
+      flock 9
+    fi
+    trap end_session EXIT
+    export OBRIN_SESSION=$prefix
+    # Without the lock: what is started here may outlive this shell for a moment.
+    { start_session && "$@"; } 9>&-
+  )
+}
+
+session_processes=()
+
+end_session() {
+  end_prefix
+  ((${#session_processes[@]} == 0)) || kill "${session_processes[@]}" 2>/dev/null
+  wait
+}
+
+# The display, the window manager and the keeper. Their output goes nowhere: whoever reads this script's output
+# through a pipe would wait for them.
+start_session() {
+  local display number
+  # What a session that was cut off has left.
+  end_prefix
+  restore_registry || return
+
+  exec {display}< <(exec Xvfb -displayfd 1 -screen 0 1280x1024x24 -nolisten tcp </dev/null 2>/dev/null)
+  session_processes+=($!)
+  if ! read -r -t 20 -u "$display" number; then
+    echo "The display server did not start" >&2
+    return 1
+  fi
+  exec {display}<&-
+  export DISPLAY=:$number
+  unset XAUTHORITY
+
+  openbox --sm-disable </dev/null >/dev/null 2>&1 &
+  session_processes+=($!)
+  # Wine ends its desktop and service processes when the last program with a window ends, and starting them for
+  # each test costs seconds, with the test runner's pipe in their hands. So one minimised program stays.
+  if ! run_wine start /min winemine </dev/null >/dev/null 2>&1 || ! wait_until 20 window_manager_runs; then
+    echo "The hidden desktop did not start" >&2
+    return 1
+  fi
+}
+
+window_manager_runs() {
+  xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'
+}

@@ -1,0 +1,127 @@
+#!/bin/bash
+# Builds everything and runs the tests. See usage below.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")"
+source scripts/packages.sh
+source scripts/wine.sh
+
+usage() {
+  cat <<'TEXT'
+usage: ./test.sh [--all] [--fuzz SECONDS]
+  Builds the presets native, x64 and x86. Runs the tests of native (the rules, with sanitizers) and x64 (under Wine).
+  --all           also the tests of x86, and --fuzz 20
+  --fuzz SECONDS  run the fuzz targets, SECONDS in all
+Exit code: 0 everything passed, 1 something failed, 2 nothing failed but a layer could not be run.
+TEXT
+}
+
+all=false
+fuzz_seconds=0
+while (($# > 0)); do
+  case $1 in
+    --all) all=true ;;
+    --fuzz)
+      if [[ ! ${2-} =~ ^[1-9][0-9]*$ ]]; then
+        usage >&2
+        exit 64
+      fi
+      fuzz_seconds=$2
+      shift
+      ;;
+    --help) usage; exit 0 ;;
+    *) usage >&2; exit 64 ;;
+  esac
+  shift
+done
+if $all && ((fuzz_seconds == 0)); then
+  fuzz_seconds=20
+fi
+
+failed=()
+missing=()
+summary=()
+
+# Runs the tests of a preset: run_tests PRESET COMMAND-IN-FRONT...
+# Of ctest's lines only those of tests that passed are held back.
+run_tests() {
+  local preset=$1 log=build/log/test-$1.txt jobs=1 result=0
+  shift
+  # Windows tests share one desktop: one at a time.
+  [[ $preset != native ]] || jobs=$(nproc)
+  echo "Testing $preset"
+  rm -f "$log"
+  "$@" ctest --test-dir "build/$preset" --output-on-failure --no-tests=error --timeout 120 -j"$jobs" </dev/null 2>&1 |
+    tee "$log" | { grep --line-buffered -v -E '^ +Start +[0-9]+: | +Passed +[0-9.]+ sec$' || true; } || result=$?
+  ((result == 0)) || failed+=("tests of $preset")
+  summary+=("$preset:" "$(sed -n '/ tests passed, /,$p' "$log")")
+}
+
+# Runs every fuzz target for its share of the time, on a copy of its seeds that grows from run to run.
+run_fuzz_targets() {
+  local -a targets=()
+  local target name folder log share runs total=0
+  for target in build/native/bin/fuzz_*; do
+    [[ ! -f $target || ! -x $target ]] || targets+=("$target")
+  done
+  if ((${#targets[@]} == 0)); then
+    summary+=("fuzz: no fuzz targets in build/native/bin")
+    return
+  fi
+  share=$((fuzz_seconds / ${#targets[@]}))
+  ((share > 0)) || share=1
+  echo "Fuzzing ${#targets[@]} targets, $share s each"
+  for target in "${targets[@]}"; do
+    name=${target##*/fuzz_}
+    folder=build/fuzz/$name
+    log=$folder/log.txt
+    mkdir -p "$folder/corpus"
+    [[ ! -d fuzz/seeds/$name ]] || cp -r "fuzz/seeds/$name/." "$folder/corpus"
+    if ! "$target" -max_total_time="$share" -rss_limit_mb=2048 -timeout=10 -print_final_stats=1 \
+      -artifact_prefix="$folder/" "$folder/corpus" </dev/null >"$log" 2>&1; then
+      tail -n 60 "$log"
+      failed+=("fuzz target $name (its input is in $folder)")
+    fi
+    runs=$(sed -n 's/^stat::number_of_executed_units: *//p' "$log")
+    total=$((total + ${runs:-0}))
+  done
+  summary+=("fuzz: ${#targets[@]} targets, $total inputs")
+}
+
+install_packages "${build_packages[@]}" "${native_packages[@]}" "${wine_packages[@]}" "${font_packages[@]}"
+
+built=()
+for preset in native x64 x86; do
+  if build_preset "$preset"; then
+    built+=("$preset")
+  else
+    failed+=("build of $preset")
+  fi
+done
+
+for preset in "${built[@]}"; do
+  case $preset in
+    native) run_tests native ;;
+    x64) run_tests x64 in_session x64 ;;
+    x86)
+      if ! $all; then
+        continue
+      elif (make_prefix x86); then
+        run_tests x86 in_session x86
+      else
+        missing+=("x86: built, but its tests were NOT RUN, as the 32-bit Wine could not be had")
+      fi
+      ;;
+  esac
+done
+if ((fuzz_seconds > 0)) && [[ " ${built[*]} " == *' native '* ]]; then
+  run_fuzz_targets
+fi
+
+echo
+((${#summary[@]} == 0)) || printf '%s\n' "${summary[@]}"
+((${#missing[@]} == 0)) || printf '%s\n' "${missing[@]}"
+if ((${#failed[@]} > 0)); then
+  printf 'FAILED: %s\n' "${failed[@]}"
+  exit 1
+fi
+((${#missing[@]} == 0)) || exit 2
