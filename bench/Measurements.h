@@ -13,6 +13,7 @@ std::vector<Row> MeasureListing();
 std::vector<Row> MeasureStart();
 std::vector<Row> MeasureWaiting();
 std::vector<Row> MeasureResizing();
+std::vector<Row> MeasureSettings();
 std::vector<Row> MeasureSize();
 
 } // namespace obrin::bench

@@ -30,13 +30,14 @@ struct Measurement {
     std::vector<Row> (*measure)();
 };
 
-constexpr std::array<Measurement, 7> measurements{{
+constexpr std::array<Measurement, 8> measurements{{
     {"typing", MeasureTyping},
     {"tree", MeasureTree},
     {"listing", MeasureListing},
     {"start", MeasureStart},
     {"waiting", MeasureWaiting},
     {"resizing", MeasureResizing},
+    {"settings", MeasureSettings},
     {"size", MeasureSize},
 }};
 

@@ -33,7 +33,7 @@ EventPause::EventPause()
     : timer(CreateWaitableTimerExW(nullptr, nullptr, highResolution, TIMER_ALL_ACCESS)) {}
 
 void EventPause::Sleep() const {
-    constexpr DWORD longest = 10; // milliseconds
+    constexpr DWORD longest = 12; // milliseconds
     // A plain time-out ends with a tick of the clock, up to 16 ms later than asked for.
     LARGE_INTEGER due;
     due.QuadPart = -10'000LL * longest; // in units of 100 ns, from now

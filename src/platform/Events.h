@@ -17,7 +17,7 @@ int RunEvents(HWND window);
 class EventPause {
 public:
     EventPause();
-    /// Sleeps until an event arrives, at most 10 ms.
+    /// Sleeps until an event arrives, at most 12 ms.
     void Sleep() const;
 
 private:

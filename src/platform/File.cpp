@@ -125,6 +125,10 @@ void File::FlushAndClose() {
         if (error != ERROR_INVALID_FUNCTION && error != ERROR_NOT_SUPPORTED)
             Fail("Writing ");
     }
+    Close();
+}
+
+void File::Close() {
     if (!CloseHandle(handle.release()))
         Fail("Writing ");
 }
@@ -152,7 +156,7 @@ std::string ReadFirstLine(const std::string& path) {
 void WriteFileBytes(const std::string& path, std::string_view bytes) {
     File file(path, File::Use::Truncate);
     file.Write(bytes);
-    file.FlushAndClose();
+    file.Close();
 }
 
 void ReplaceFileBytes(const std::string& path, std::string_view bytes) {
@@ -162,7 +166,9 @@ void ReplaceFileBytes(const std::string& path, std::string_view bytes) {
         throw RunTimeError(ERROR_ACCESS_DENIED, "Writing " + path);
     const std::string beside = CreateFileBeside(path);
     try {
-        WriteFileBytes(beside, bytes);
+        File file(beside, File::Use::Truncate);
+        file.Write(bytes);
+        file.FlushAndClose();
         if (exists) {
             CopyRights(path, beside);
             SetFileAttributesA(beside.c_str(), attributes);

@@ -34,6 +34,8 @@ public:
     /// Waits until the written bytes are on disk and closes the file. Throws RunTimeError, which is where a
     /// share reports what it could not store.
     void FlushAndClose();
+    /// Closes the file, for contents that may get lost when the power does. Throws RunTimeError.
+    void Close();
 
 private:
     [[noreturn]] void Fail(const char* doing) const;

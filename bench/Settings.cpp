@@ -1,0 +1,126 @@
+// Saving and loading a settings file, against bare calls that write and read the same bytes as safely; and
+// opening the Properties dialog, against the same dialog and pages from the same resource with nothing behind
+// them.
+
+#include "Clock.h"
+#include "Measurements.h"
+#include "Scratch.h"
+
+#include "platform/Dialog.h"
+#include "platform/StringTable.h"
+#include "platform/SupportLibrary.h"
+#include "resources/Ids.h"
+#include "settings/Form2.h"
+#include "settings/SettingsStore.h"
+
+#include <array>
+#include <cstddef>
+
+namespace obrin::bench {
+
+namespace {
+
+// The folders of SettingsPath("Core\\Programs\\CSBackup"), outermost first.
+constexpr std::array folders{".\\Ini\\", ".\\Ini\\Core\\", ".\\Ini\\Core\\Programs\\"};
+constexpr const char* key = "Core\\Programs\\CSBackup";
+
+void SaveBare(const std::string& path, const std::string& bytes) {
+    for (const char* folder : folders)
+        GetFileAttributesA(folder);
+    const DWORD attributes = GetFileAttributesA(path.c_str());
+    std::array<char, MAX_PATH> beside{};
+    GetTempFileNameA(folders.back(), "Obr", 0, beside.data());
+    const HANDLE file = CreateFileA(beside.data(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+    DWORD count = 0;
+    WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &count, nullptr);
+    FlushFileBuffers(file);
+    CloseHandle(file);
+    std::array<std::byte, 4096> rights;
+    if (GetFileSecurityA(path.c_str(), DACL_SECURITY_INFORMATION, rights.data(), rights.size(), &count))
+        SetFileSecurityA(beside.data(), DACL_SECURITY_INFORMATION, rights.data());
+    SetFileAttributesA(beside.data(), attributes);
+    MoveFileExA(beside.data(), path.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
+}
+
+void LoadBare(const std::string& path) {
+    std::array<char, 4096> bytes;
+    DWORD count = 0;
+    const HANDLE file =
+        CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+    ReadFile(file, bytes.data(), bytes.size(), &count, nullptr);
+    CloseHandle(file);
+}
+
+// Three pages over the tab strip, as the Properties dialog has them.
+class BareDialog final : public Dialog {
+    static INT_PTR CALLBACK PageProcedure(HWND, UINT, WPARAM, LPARAM) { return FALSE; }
+
+    INT_PTR OnMessage(UINT message, WPARAM wParam, LPARAM) override {
+        if (message == WM_COMMAND && LOWORD(wParam) == IDCANCEL)
+            EndDialog(window, 0);
+        for (int page = 2; message == WM_INITDIALOG && page >= 0; --page) {
+            const HWND frame =
+                CreateDialogParamA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(IDD_PAGE_GENERAL + page),
+                                   window, PageProcedure, 0);
+            SetWindowPos(frame, HWND_TOP, 20, 40, 500, 380, SWP_NOACTIVATE);
+        }
+        return message == WM_INITDIALOG;
+    }
+};
+
+LONGLONG shown; // when the dialog at hand had nothing more to do
+
+// A modal dialog tells its owner when its queue is empty for the first time: it is shown and painted.
+LRESULT CALLBACK OwnerProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message != WM_ENTERIDLE || shown != 0)
+        return DefWindowProcA(window, message, wParam, lParam);
+    shown = Now();
+    PostMessageA(reinterpret_cast<HWND>(lParam), WM_COMMAND, IDCANCEL, 0);
+    return 0;
+}
+
+template <class Open>
+double MillisecondsToShown(Open&& open) {
+    shown = 0;
+    const LONGLONG start = Now();
+    open();
+    return 1e3 * Seconds(shown - start);
+}
+
+} // namespace
+
+std::vector<Row> MeasureSettings() {
+    const ScratchFolder scratch;
+    SetEnvironmentVariableA("TesselTemp", ".");
+    const std::string path = SettingsPath(key);
+    WriteDefaultSettings(path, key);
+    const SettingValues values = DefaultSettings(key, StringOfTable);
+    const std::string bytes = FormatSettings(values);
+    const auto microseconds = [](auto&& work) { return 1e6 * Timed(work); };
+    const Medians saving = Alternate(
+        101, [&] { return microseconds([&] { SaveSystemSettings(path, values); }); },
+        [&] { return microseconds([&] { SaveBare(path, bytes); }); });
+    const Medians loading = Alternate(
+        301, [&] { return microseconds([&] { LoadSystemSettings(path); }); },
+        [&] { return microseconds([&] { LoadBare(path); }); });
+
+    WNDCLASSA windowClass{};
+    windowClass.lpfnWndProc = OwnerProcedure;
+    windowClass.lpszClassName = "ObrinBench.Owner";
+    RegisterClassA(&windowClass);
+    const HWND owner = CreateWindowA(windowClass.lpszClassName, "", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0,
+                                     700, 500, nullptr, nullptr, nullptr, nullptr);
+    const SupportLibrary corvel;
+    const std::string programKey = key;
+    const Medians opening = Alternate(
+        21, [&] { return MillisecondsToShown([&] { Form2(corvel, programKey).Show(owner); }); },
+        [&] { return MillisecondsToShown([&] { BareDialog().ShowModal(owner, IDD_PROPERTIES); }); });
+    DestroyWindow(owner);
+    return {
+        WithinRatio("saving a settings file", "us", saving.product, saving.floor, 1.25),
+        WithinRatio("loading a settings file", "us", loading.product, loading.floor, 1.25),
+        WithinRatio("opening the Properties dialog", "ms", opening.product, opening.floor, 1.5),
+    };
+}
+
+} // namespace obrin::bench
