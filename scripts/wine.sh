@@ -108,7 +108,7 @@ make_prefix() {
 }
 
 prepare_prefix() {
-  local stamp recipe=1 # count up when a prefix is to be made differently
+  local stamp recipe=2 # count up when a prefix is to be made differently
   if [[ $1 == x86 ]]; then
     make_wine32 || return
   elif [[ $1 != x64 ]]; then
