@@ -37,15 +37,16 @@ bool StartProgram(const std::string& path) {
     window.dwFlags = STARTF_USESHOWWINDOW;
     window.wShowWindow = SW_SHOWNORMAL;
     PROCESS_INFORMATION process;
-    if (!CreateProcessA(path.c_str(), nullptr, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &window,
-                        &process))
+    std::string commandLine = '"' + path + '"';
+    if (!CreateProcessA(path.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                        &window, &process))
         return false;
     CloseHandle(process.hThread);
     CloseHandle(process.hProcess);
     return true;
 }
 
-bool StartTool() {
+bool StartTool() try {
     std::string path;
     if (QueryRegistryString(HKEY_LOCAL_MACHINE, "SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", "PATH", path))
         return StartProgram(path); // and if it cannot be started, the other place is not asked
@@ -54,6 +55,8 @@ bool StartTool() {
         return false;
     path += "\\MSINFO32.EXE";
     return FileExists(path) && StartProgram(path);
+} catch (const RunTimeError&) {
+    return false;
 }
 
 } // namespace

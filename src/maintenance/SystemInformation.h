@@ -8,7 +8,7 @@
 namespace obrin {
 
 /// Reads a registry value as text. Returns false, with an empty text, when the key cannot be opened for full
-/// access, as a standard user cannot under HKEY_LOCAL_MACHINE, or when the value cannot be read.
+/// access, as a standard user may not under HKEY_LOCAL_MACHINE, or when the value cannot be read.
 bool QueryRegistryString(HKEY root, const char* keyName, const char* valueName, std::string& value);
 
 /// Starts the tool, or tells the user that there is none.

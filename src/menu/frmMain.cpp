@@ -134,7 +134,8 @@ LRESULT frmMain::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         }
         break;
     case runSelected:
-        RunSelectedProgram();
+        if (!IsEndingWithError()) // whose box lets posted messages through
+            RunSelectedProgram();
         return 0;
     case WM_CLOSE:
         Form_Unload();
@@ -261,6 +262,10 @@ void frmMain::Form_Resize() {
     constexpr UINT quiet = SWP_NOACTIVATE | SWP_NOZORDER;
     // The frame comes to the front first and the link labels last.
     HDWP positions = BeginDeferWindowPos(7);
+    const auto apply = [&] {
+        if (!EndDeferWindowPos(positions))
+            ThrowLastError("Laying out the menu window");
+    };
     positions = DeferWindowPos(positions, Frame1, HWND_TOP, px(frame.left), px(frame.top), px(frame.width),
                                px(frame.height), SWP_NOACTIVATE);
     const auto move = [&](HWND control, double left, double top) {
@@ -276,7 +281,7 @@ void frmMain::Form_Resize() {
     };
     raise(Label4, layout.label4);
     raise(Label5, layout.label5);
-    EndDeferWindowPos(positions);
+    apply();
 
     positions = BeginDeferWindowPos(2); // the controls of another parent
     positions = DeferWindowPos(positions, TreeView1.Window(), nullptr, px(tree.left), px(tree.top),
@@ -284,7 +289,7 @@ void frmMain::Form_Resize() {
     positions =
         DeferWindowPos(positions, Command1, nullptr, px(layout.command1.left), px(layout.command1.top),
                        px(design::command1.width), px(design::command1.height), quiet);
-    EndDeferWindowPos(positions);
+    apply();
 }
 
 void frmMain::Form_DpiChanged(const RECT& suggested) {

@@ -48,8 +48,13 @@ void CopyRights(const std::string& from, const std::string& to) {
     DWORD size = 0;
     GetFileSecurityA(from.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
     std::vector<std::byte> rights(size);
-    if (GetFileSecurityA(from.c_str(), DACL_SECURITY_INFORMATION, rights.data(), size, &size))
-        SetFileSecurityA(to.c_str(), DACL_SECURITY_INFORMATION, rights.data());
+    if (!GetFileSecurityA(from.c_str(), DACL_SECURITY_INFORMATION, rights.data(), size, &size))
+        return;
+    // What the file inherits from its folder stays inherited.
+    auto* description = reinterpret_cast<SECURITY_DESCRIPTOR_RELATIVE*>(rights.data());
+    if ((description->Control & SE_DACL_AUTO_INHERITED) != 0)
+        description->Control |= SE_DACL_AUTO_INHERIT_REQ;
+    SetFileSecurityA(to.c_str(), DACL_SECURITY_INFORMATION, rights.data());
 }
 
 // Another workstation may be reading the file at this instant, which refuses its replacement.
@@ -183,6 +188,10 @@ void ReplaceFileBytes(const std::string& path, std::string_view bytes) {
 
 bool FileExists(const std::string& path) {
     const DWORD attributes = GetFileAttributesA(path.c_str());
+    if (const DWORD error = GetLastError(); attributes == INVALID_FILE_ATTRIBUTES &&
+                                            error != ERROR_FILE_NOT_FOUND && error != ERROR_PATH_NOT_FOUND &&
+                                            error != ERROR_INVALID_NAME && error != ERROR_BAD_PATHNAME)
+        throw RunTimeError(error, "Looking for " + path); // it may well be there
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
 }
 

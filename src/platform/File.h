@@ -59,7 +59,8 @@ void WriteFileBytes(const std::string& path, std::string_view bytes);
 /// RunTimeError and leaves the file alone.
 void ReplaceFileBytes(const std::string& path, std::string_view bytes);
 
-/// Whether a file (no folder) of that name exists. A name with wildcards names no file.
+/// Whether a file (no folder) of that name exists. A name with wildcards names no file. Throws RunTimeError
+/// when that cannot be told, as on a share that is not reached.
 bool FileExists(const std::string& path);
 
 /// Whether a folder listing of normal files shows that name: no folder, not hidden, no system file.

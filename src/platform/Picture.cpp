@@ -26,6 +26,8 @@ UniqueBitmap ScalePicture(HBITMAP picture, UINT dpi) {
     const UniqueDc from(CreateCompatibleDC(screen));
     const UniqueDc to(CreateCompatibleDC(screen));
     ReleaseDC(nullptr, screen);
+    if (!scaled)
+        throw RunTimeError(ERROR_NOT_ENOUGH_MEMORY, "Scaling the picture");
 
     const HGDIOBJ oldFrom = SelectObject(from.get(), picture);
     const HGDIOBJ oldTo = SelectObject(to.get(), scaled.get());

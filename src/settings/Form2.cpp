@@ -23,6 +23,8 @@ constexpr std::array<const char*, 3> tabCaptions{"General", "Page Settings", "Pa
 // damaged file.
 constexpr std::size_t longestText = 32767;
 
+constexpr UINT pagesDue = WM_APP;
+
 // The element of a control array that an id names; out of the array's range for the id of another control.
 std::size_t ElementOf(int id, int firstId) {
     return static_cast<std::size_t>(id - firstId);
@@ -44,13 +46,20 @@ INT_PTR Form2::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         return TRUE;
     case WM_HSCROLL: // of a slider, by mouse or keyboard
         if (const auto index = ElementOf(GetDlgCtrlID(reinterpret_cast<HWND>(lParam)), IDC_SLD_MARGIN);
-            index < sldMargin.size())
-            sldMargin_Change(index);
+            index < sldMargin.size() && SliderValue(index) != shownMargin[index])
+            sldMargin_Change(index); // the slider also says so when it is only let go of
         return TRUE;
     case WM_NOTIFY:
-        if (reinterpret_cast<const NMHDR*>(lParam)->code != static_cast<UINT>(TCN_SELCHANGE))
+        if (const auto* from = reinterpret_cast<const NMHDR*>(lParam);
+            from->hwndFrom != TabStrip1 || from->code != static_cast<UINT>(TCN_SELCHANGE))
             return FALSE;
         TabStrip1_Click();
+        return TRUE;
+    case WM_DPICHANGED:
+        PostMessageA(window, pagesDue, 0, 0); // once the dialog manager has resized the tab strip
+        return FALSE;
+    case pagesDue:
+        LayPages();
         return TRUE;
     default:
         return FALSE;
@@ -113,10 +122,6 @@ void Form2::CreatePages() {
         SendMessageA(TabStrip1, TCM_INSERTITEMA, i, reinterpret_cast<LPARAM>(&tab));
     }
 
-    RECT inner;
-    GetWindowRect(TabStrip1, &inner);
-    MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&inner), 2);
-    SendMessageA(TabStrip1, TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&inner));
     for (std::size_t i = 0; i < Frame.size(); ++i) {
         Frame[i] = CreateDialogParamA(GetModuleHandleA(nullptr),
                                       MAKEINTRESOURCEA(IDD_PAGE_GENERAL + static_cast<int>(i)), window,
@@ -125,14 +130,25 @@ void Form2::CreatePages() {
             ThrowLastError("Opening the Properties dialog");
         // Visible behind the first page, and out of the keyboard's reach.
         EnableWindow(Frame[i], FALSE);
-        SetWindowPos(Frame[i], HWND_BOTTOM, inner.left, inner.top, inner.right - inner.left,
-                     inner.bottom - inner.top, SWP_NOACTIVATE);
+        SetWindowPos(Frame[i], HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     }
+    LayPages();
     BringToFront(shownPage);
 
     cmbOrientation = Item(IDC_CMB_ORIENTATION);
     for (const char* item : {"Portrait", "Landscape"})
         SendMessageA(cmbOrientation, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item));
+}
+
+// Over the tab strip's client area.
+void Form2::LayPages() {
+    RECT inner;
+    GetWindowRect(TabStrip1, &inner);
+    MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&inner), 2);
+    SendMessageA(TabStrip1, TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&inner));
+    for (const HWND page : Frame)
+        SetWindowPos(page, nullptr, inner.left, inner.top, inner.right - inner.left, inner.bottom - inner.top,
+                     SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void Form2::BringToFront(std::size_t page) {
@@ -143,6 +159,8 @@ void Form2::BringToFront(std::size_t page) {
 
 void Form2::TabStrip1_Click() {
     const auto selected = static_cast<std::size_t>(SendMessageA(TabStrip1, TCM_GETCURSEL, 0, 0));
+    if (selected >= Frame.size())
+        return;
     BringToFront(selected);
     if (selected == shownPage)
         return;
@@ -185,6 +203,8 @@ void Form2::PrepareSliders() {
     sliderTips =
         CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0,
                         0, 0, 0, window, nullptr, nullptr, nullptr);
+    if (sliderTips == nullptr)
+        ThrowLastError("Opening the Properties dialog");
     for (std::size_t i = 0; i < sldMargin.size(); ++i) {
         txtMargin[i] = Item(IDC_TXT_MARGIN + static_cast<int>(i));
         const HWND slider = sldMargin[i] = Item(IDC_SLD_MARGIN + static_cast<int>(i));
@@ -211,6 +231,7 @@ int Form2::SliderValue(std::size_t index) const {
 }
 
 void Form2::sldMargin_Change(std::size_t index) {
+    shownMargin[index] = SliderValue(index);
     std::string text = ShortestThousandths(SliderValue(index));
     TOOLINFOA tip{};
     tip.cbSize = sizeof tip;

@@ -38,6 +38,7 @@ private:
 
     void CreatePages();
     void PrepareSliders();
+    void LayPages();
     void BringToFront(std::size_t page);
     void SaveSettings() const;
     void LoadSettings();
@@ -58,6 +59,7 @@ private:
     HWND cmbOrientation = nullptr;
     std::array<HWND, 4> txtMargin{};
     std::array<HWND, 4> sldMargin{};
+    std::array<int, 4> shownMargin{}; // slider values that boxes and tips show
     HWND sliderTips = nullptr;
 };
 
