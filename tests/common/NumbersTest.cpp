@@ -5,7 +5,6 @@
 #include <limits>
 
 namespace obrin {
-namespace {
 
 TEST(Numbers, AreWrittenInThreeWays) {
     struct {
@@ -52,5 +51,4 @@ TEST(Numbers, AreRead) {
     }
 }
 
-} // namespace
 } // namespace obrin

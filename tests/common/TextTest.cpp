@@ -1,9 +1,14 @@
 #include "common/Text.h"
 
+#include "common/Lines.h"
+
 #include <gtest/gtest.h>
 
+#include <vector>
+
+using namespace std::string_literals;
+
 namespace obrin {
-namespace {
 
 TEST(Text, BlanksAreSpacesOnly) {
     EXPECT_EQ(TrimBlanks("  a b  "), "a b");
@@ -12,10 +17,29 @@ TEST(Text, BlanksAreSpacesOnly) {
 }
 
 TEST(Text, TrailingBackslashIsAddedOnce) {
-    EXPECT_EQ(EnsureTrailingBackslash("C:\\Tessel"), "C:\\Tessel\\");
-    EXPECT_EQ(EnsureTrailingBackslash("C:\\Tessel\\"), "C:\\Tessel\\");
+    for (const char* path : {"C:\\Tessel", "C:\\Tessel\\"})
+        EXPECT_EQ(EnsureTrailingBackslash(path), "C:\\Tessel\\");
     EXPECT_EQ(EnsureTrailingBackslash(""), "\\");
 }
 
-} // namespace
+TEST(LineReader, EndsLinesAtCarriageReturnsOnly) {
+    const std::pair<std::string, std::vector<std::string>> cases[] = {
+        {"", {}},
+        {"a", {"a"}},
+        {"a\r\nb\r\n", {"a", "b"}},
+        {"a\rb\r", {"a", "b"}},
+        {"a\nb\r\n\nc", {"a\nb", "\nc"}}, // a lone LF is text
+        {"\r\n\r\r\na", {"", "", "", "a"}},
+        {"\0\x1A\xFF\r\n\x80"s, {"\0\x1A\xFF"s, "\x80"}},
+    };
+    for (const auto& [text, expected] : cases) {
+        std::vector<std::string> lines;
+        LineReader reader(text);
+        while (const auto line = reader.Next())
+            lines.emplace_back(*line);
+        EXPECT_EQ(lines, expected);
+        EXPECT_FALSE(reader.Next()) << "the end stays the end";
+    }
+}
+
 } // namespace obrin

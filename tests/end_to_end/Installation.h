@@ -2,17 +2,18 @@
 // real keys and the real mouse. Everything waits with a deadline and nothing sleeps blindly.
 #pragma once
 
-#include "platform/WindowsApi.h"
+#include "platform/ScratchFolder.h"
 
-#include <chrono>
 #include <functional>
 #include <string>
 #include <vector>
 
 namespace obrin::test {
 
+using Lines = std::vector<std::string>;
+
 /// Polls until the condition holds; false when it never did.
-bool Eventually(const std::function<bool()>& condition, std::chrono::seconds most = std::chrono::seconds(20));
+bool Eventually(const std::function<bool()>& condition);
 
 /// The text of a window of another process, controls included.
 std::string TextOf(HWND window);
@@ -22,26 +23,19 @@ std::string TextOf(HWND window);
 /// are as new.
 class Installation {
 public:
-    Installation();
-    Installation(const Installation&) = delete;
-    Installation& operator=(const Installation&) = delete;
-    ~Installation();
+    /// The current user gets this number without being asked; 0 for a user who is asked.
+    explicit Installation(int wsid);
+    ~Installation() { EndHost(); }
 
-    /// The current user gets this number without being asked.
-    void KnowUser(int wsid) const;
-
-    /// Lines of the stand-in host's log: "line LOAD CORE\STARTSYS", "down 76".
-    std::vector<std::string> HostLog() const;
-    /// Only the typed lines, without "line ".
-    std::vector<std::string> TypedLines() const;
-    /// Only the key messages: "down 76".
-    std::vector<std::string> Keys() const;
-    bool HostHasTyped(const std::string& lastLine) const;
-    /// The process id of the host that the log names last; 0 without one.
-    DWORD HostProcess() const;
+    /// What stands behind this word in the lines of the stand-in host's log that begin with it.
+    Lines Logged(const std::string& word) const;
+    /// Whether the host gets to type these lines and no others.
+    bool HostTypes(const Lines& lines) const;
+    bool HostTypesLast(const std::string& line) const;
     void EndHost() const;
 
-    std::string folder;
+private:
+    ScratchFolder folder;
 };
 
 /// A running launcher; ended with the object when it still runs.
@@ -52,32 +46,23 @@ public:
     Launcher& operator=(const Launcher&) = delete;
     ~Launcher();
 
-    /// The shown window of this caption; 0 when there is none within the deadline.
+    /// The shown window of this caption; 0 when there is none now, or within the deadline.
+    HWND Shown(const std::string& caption) const;
     HWND Window(const std::string& caption) const;
-    bool Shows(const std::string& caption) const;
-    /// The menu window, shown or not.
-    HWND HiddenMenu() const;
     HWND Menu() const { return Window("Obrin System Menu"); }
     HWND Tree() const;
-    /// All texts of a shown window's controls, one a line.
+    /// The texts of a shown window's controls, one a line.
     std::string Texts(const std::string& caption) const;
 
     /// Presses a button of a shown window.
     void Press(const std::string& caption, int button) const;
-    /// Answers the question for a workstation number.
-    void AnswerWsid(const std::string& answer) const;
-    /// Exit code after its end; -1 when it does not end.
+    /// Sends a command or the like to the menu window.
+    void Send(UINT message, WPARAM wParam) const { SendMessageA(Menu(), message, wParam, 0); }
+    /// Exit code after its end; STILL_ACTIVE when it does not end.
     int ExitCode() const;
 
 private:
-    HWND Find(const std::function<bool(HWND)>& wanted) const;
-
     PROCESS_INFORMATION process{};
 };
-
-/// A key of the real keyboard, down and up.
-void Key(WORD key);
-/// Real mouse clicks on a row of the tree's visible rows, counted from 0; `depth` is the node's.
-void ClickRow(HWND tree, int row, int depth, DWORD downAndUp, int times = 1);
 
 } // namespace obrin::test

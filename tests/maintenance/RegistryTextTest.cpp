@@ -2,52 +2,36 @@
 
 #include <gtest/gtest.h>
 
+using namespace std::string_literals;
+
 namespace obrin {
-namespace {
 
-struct Case {
-    const char* name;
-    std::uint32_t type;
-    std::string bytes;
-    std::string text;
-};
-
-class Value : public testing::TestWithParam<Case> {};
-
-TEST_P(Value, BecomesText) {
-    EXPECT_EQ(RegistryText(GetParam().type, GetParam().bytes), GetParam().text);
-}
-
-std::string Bytes(std::initializer_list<int> codes) {
-    std::string bytes;
-    for (const int code : codes)
-        bytes += static_cast<char>(code);
-    return bytes;
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    , Value,
-    testing::Values(
-        Case{"StringWithItsNul", 1, Bytes({'C', ':', 0}), "C:"},
-        Case{"StringWithoutNul", 1, "C:\\Tools", "C:\\Tools"},
-        Case{"StringLosesOneNul", 1, Bytes({'a', 0, 0}), Bytes({'a', 0})},
-        Case{"EmptyString", 1, Bytes({0}), ""}, Case{"NoBytes", 1, "", ""},
-        Case{"ExpandableString", 2, Bytes({'a', 0}), ""}, Case{"Binary", 3, "abc", ""},
-        Case{"BigEndianNumber", 5, "abcd", ""},
+TEST(RegistryText, IsTheStringOrTheNumberOfAValue) {
+    struct {
+        std::uint32_t type;
+        std::string bytes, text;
+    } const cases[] = {
+        {1, "C:\0"s, "C:"},
+        {1, "C:\\Tools", "C:\\Tools"}, // stored without its NUL
+        {1, "a\0\0"s, "a\0"s},
+        {1, "", ""},
+        {2, "a\0"s, ""},
+        {3, "abc", ""},
         // As stored: the low byte first. The last byte is cut when it is zero, as a string's NUL is.
-        Case{"SmallNumber", 4, Bytes({5, 0, 0, 0}), "5"}, Case{"Zero", 4, Bytes({0, 0, 0, 0}), "0"},
-        Case{"TwoDigitCodes", 4, Bytes({0x34, 0x12, 0, 0}), "4660"},
-        Case{"LosesZerosWithinTheNumber", 4, Bytes({5, 1, 0, 0}), "21"}, // 105 in hexadecimal, read as 15
-        Case{"LosesAWholeZeroByte", 4, Bytes({0, 0x10, 0, 0}), "256"},   // 1000, read as 100
-        Case{"LargestOfSixteenBits", 4, Bytes({0xFF, 0x7F, 0, 0}), "32767"},
-        Case{"SignedInSixteenBits", 4, Bytes({0xFF, 0xFF, 0, 0}), "-1"},
-        Case{"NegativeInSixteenBits", 4, Bytes({0x10, 0x80, 0, 0}), "-32752"},
-        Case{"AboveSixteenBits", 4, Bytes({0x10, 0x32, 0x54, 0}), "5517840"},
-        Case{"LargestOfThirtyTwoBits", 4, Bytes({0xFF, 0xFF, 0xFF, 0x7F}), "2147483647"},
-        Case{"SignedInThirtyTwoBits", 4, Bytes({0xFE, 0xFF, 0xFF, 0xFF}), "-2"},
-        Case{"TooLongForANumber", 4, Bytes({0x10, 0xBC, 0x10, 0x10, 0x1A}), "&h1A1010BC10"},
-        Case{"NoNumberAtAll", 4, "", "&h"}),
-    [](const auto& test) { return test.param.name; });
+        {4, "\x05\0\0\0"s, "5"},
+        {4, "\0\0\0\0"s, "0"},
+        {4, "\x34\x12\0\0"s, "4660"},
+        {4, "\x05\x01\0\0"s, "21"},     // 105 in hexadecimal, read as 15
+        {4, "\0\x10\0\0"s, "256"},      // 1000, read as 100
+        {4, "\x10\x80\0\0"s, "-32752"}, // signed in sixteen bits
+        {4, "\x10\x32\x54\0"s, "5517840"},
+        {4, "\xFF\xFF\xFF\x7F"s, "2147483647"},
+        {4, "\xFE\xFF\xFF\xFF"s, "-2"},
+        {4, "\x10\xBC\x10\x10\x1A", "&h1A1010BC10"}, // too long for a number
+        {4, "", "&h"},
+    };
+    for (const auto& [type, bytes, text] : cases)
+        EXPECT_EQ(RegistryText(type, bytes), text);
+}
 
-} // namespace
 } // namespace obrin

@@ -1,133 +1,96 @@
 #include "maintenance/frmUpdate.h"
 
 #include "platform/File.h"
+#include "platform/Folder.h"
+#include "platform/ModalTest.h"
 #include "platform/ScratchFolder.h"
 #include "resources/Ids.h"
-
-#include <gtest/gtest.h>
 
 namespace obrin {
 namespace {
 
-// What happens to the update window while it is modal: hooks see its messages without the window's knowing.
-struct Script {
-    std::vector<std::string> captions; // of the progress text, in order
-    int resizesLeft = 0;
-    int closeAtCaption = -1;
-    bool destroyOwner = false;
-    bool hidden = false;         // while a file was copied
-    bool ownerWasUsable = false; // while a file was copied
-};
-Script* script;
+constexpr const char* names[] = {"Tessel.exe", "Sweeper.exe", "Notebox.exe", "ShowAllFenns.exe", "Glass.exe"};
 
-void Act(HWND dialog) {
-    script->hidden |= !IsWindowVisible(dialog);
-    script->ownerWasUsable |= IsWindowEnabled(GetWindow(dialog, GW_OWNER)) != FALSE;
-    const auto shown = static_cast<int>(script->captions.size());
-    if (shown == script->closeAtCaption) {
-        if (script->destroyOwner)
-            DestroyWindow(GetWindow(dialog, GW_OWNER));
-        else
-            PostMessageA(dialog, WM_CLOSE, 0, 0);
-        return;
-    }
-    if (script->captions.back() != "Updating:\r\nComplete")
-        return;
-    if (script->resizesLeft-- > 0) {
-        RECT place;
-        GetWindowRect(dialog, &place);
-        SetWindowPos(dialog, nullptr, 0, 0, place.right - place.left + 10, place.bottom - place.top + 10,
-                     SWP_NOMOVE);
-    } else if (script->closeAtCaption < 0) {
-        PostMessageA(dialog, WM_COMMAND, IDOK, 0);
-    }
-}
-
-LRESULT CALLBACK Watch(int code, WPARAM wParam, LPARAM lParam) {
-    const auto& message = *reinterpret_cast<const CWPRETSTRUCT*>(lParam);
-    if (code == HC_ACTION && message.message == WM_SETTEXT && GetDlgCtrlID(message.hwnd) == IDC_LABEL1) {
-        script->captions.emplace_back(reinterpret_cast<const char*>(message.lParam));
-        Act(GetParent(message.hwnd));
-    }
-    return CallNextHookEx(nullptr, code, wParam, lParam);
-}
-
-class UpdateWindow : public testing::Test {
+class UpdateWindow : public test::ModalTest {
 protected:
     UpdateWindow() {
-        script = &played;
         SetEnvironmentVariableA("Tessel", "Local");
-        CreateDirectoryA("Local", nullptr);
-        CreateDirectoryA("Tessel", nullptr);
-        CreateDirectoryA("Tessel\\Exe", nullptr);
+        for (const char* path : {"Local", "Tessel", "Tessel\\Exe"})
+            CreateFolder(path);
         for (const char* name : names)
             WriteFileBytes(std::string("Tessel\\Exe\\") + name, name);
-        owner = CreateWindowExA(0, "STATIC", "", WS_OVERLAPPEDWINDOW, 0, 0, 700, 500, nullptr, nullptr,
-                                nullptr, nullptr);
-        hook = SetWindowsHookExA(WH_CALLWNDPROCRET, Watch, nullptr, GetCurrentThreadId());
     }
-    ~UpdateWindow() override {
+
+    /// The update of a workstation. After each caption of the progress text `act` is called, with the window
+    /// and how many captions there were: hooks see messages without the window's knowing.
+    void Update(int wsid, std::function<void(HWND, std::size_t)> act) {
+        captions.clear();
+        onCaption = std::move(act);
+        const HHOOK hook = SetWindowsHookExA(WH_CALLWNDPROCRET, Watch, nullptr, GetCurrentThreadId());
+        CheckWorkstationUpdate(owner, wsid);
         UnhookWindowsHookEx(hook);
-        DestroyWindow(owner);
     }
 
-    static constexpr const char* names[] = {"Tessel.exe", "Sweeper.exe", "Notebox.exe", "ShowAllFenns.exe",
-                                            "Glass.exe"};
+    static void Okay(HWND window, std::size_t) {
+        if (captions.back() == "Complete")
+            PostMessageA(window, WM_COMMAND, IDOK, 0);
+    }
 
-    std::vector<std::string> Captions(int rounds) const {
-        std::vector<std::string> captions;
-        for (int i = 0; i < rounds; ++i) {
-            for (const char* name : names)
-                captions.push_back(std::string("Updating:\r\n") + name);
-            captions.emplace_back("Updating:\r\nComplete");
+    static inline std::vector<std::string> captions; // in order, without their first line
+
+private:
+    static LRESULT CALLBACK Watch(int code, WPARAM wParam, LPARAM lParam) {
+        const auto& message = *reinterpret_cast<const CWPRETSTRUCT*>(lParam);
+        if (code == HC_ACTION && message.message == WM_SETTEXT && GetDlgCtrlID(message.hwnd) == IDC_LABEL1) {
+            const std::string caption = reinterpret_cast<const char*>(message.lParam);
+            EXPECT_TRUE(caption.starts_with("Updating:\r\n"));
+            captions.push_back(caption.substr(11));
+            onCaption(GetParent(message.hwnd), captions.size());
         }
-        return captions;
+        return CallNextHookEx(nullptr, code, wParam, lParam);
     }
 
-    test::ScratchFolder folder;
-    Script played;
-    HWND owner;
-    HHOOK hook;
+    static inline std::function<void(HWND, std::size_t)> onCaption;
+    const test::ScratchFolder folder;
 };
 
-TEST_F(UpdateWindow, CopiesOnceAndEntersTheWorkstation) {
-    CheckWorkstationUpdate(owner, 5);
-    EXPECT_EQ(played.captions, Captions(1));
-    EXPECT_FALSE(played.hidden);
+TEST_F(UpdateWindow, CopiesOnceAndAgainOnEveryResizeAndEntersTheWorkstation) {
+    Update(5, [](HWND window, std::size_t shown) {
+        EXPECT_TRUE(IsWindowVisible(window));
+        if (captions.back() == "Complete" && shown < 18) {
+            RECT place;
+            GetWindowRect(window, &place);
+            SetWindowPos(window, nullptr, 0, 0, place.right - place.left + 10, place.bottom - place.top + 10,
+                         SWP_NOMOVE);
+        } else {
+            Okay(window, shown);
+        }
+    });
+    ASSERT_EQ(captions.size(), 18U);
+    for (std::size_t i = 0; i < captions.size(); ++i)
+        EXPECT_EQ(captions[i], i % 6 == 5 ? "Complete" : names[i % 6]);
     for (const char* name : names)
         EXPECT_EQ(ReadFileBytes(std::string("Local\\") + name), name);
     EXPECT_EQ(ReadFileBytes("Updated.txt"), "005");
-    CheckWorkstationUpdate(owner, 5);
-    EXPECT_EQ(played.captions.size(), 6U) << "no second window";
-}
-
-TEST_F(UpdateWindow, CopiesAgainOnEveryResize) {
-    played.resizesLeft = 2;
-    CheckWorkstationUpdate(owner, 5);
-    EXPECT_EQ(played.captions, Captions(3));
-}
-
-TEST_F(UpdateWindow, MissingSourcesAreNobodysBusiness) {
-    for (const char* name : names)
-        DeleteFileA((std::string("Tessel\\Exe\\") + name).c_str());
-    WriteFileBytes("Updated.txt", "001002X");
-    CheckWorkstationUpdate(owner, 9);
-    EXPECT_EQ(played.captions, Captions(1));
-    EXPECT_EQ(ReadFileBytes("Updated.txt"), "001002009");
+    Update(5, Okay);
+    EXPECT_EQ(captions.size(), 0U) << "no second window";
 }
 
 TEST_F(UpdateWindow, ClosedWhileCopyingStillCopiesTheRest) {
-    played.closeAtCaption = 2;
-    CheckWorkstationUpdate(owner, 5);
-    EXPECT_FALSE(played.ownerWasUsable) << "until they are copied";
+    Update(5, [this](HWND window, std::size_t shown) {
+        EXPECT_FALSE(IsWindowEnabled(owner)) << "until they are copied";
+        if (shown == 2)
+            PostMessageA(window, WM_CLOSE, 0, 0);
+    });
     EXPECT_TRUE(FileExists("Local\\Glass.exe"));
     EXPECT_EQ(ReadFileBytes("Updated.txt"), "005");
 }
 
 TEST_F(UpdateWindow, EndOfTheMenuWhileCopyingEntersNothing) {
-    played.closeAtCaption = 2;
-    played.destroyOwner = true;
-    CheckWorkstationUpdate(owner, 5);
+    Update(5, [this](HWND, std::size_t shown) {
+        if (shown == 2)
+            DestroyWindow(owner);
+    });
     EXPECT_EQ(ReadFileBytes("Updated.txt"), "");
 }
 

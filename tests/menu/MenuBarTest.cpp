@@ -1,75 +1,61 @@
+#include "menu/MenuCommands.h"
 #include "platform/WindowsApi.h"
 #include "resources/Ids.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
-#include <string>
-#include <vector>
 
 namespace obrin {
 namespace {
 
-using Lines = std::vector<std::string>;
-
-// One line for each item, indented below its menu: its caption and its number. "-" is a separator.
-void List(HMENU menu, const std::string& indent, Lines& lines) {
-    for (UINT i = 0; i < static_cast<UINT>(GetMenuItemCount(menu)); ++i) {
+// A line for each item: its caption, and what it does while UB.mnu is shown or else its number.
+std::string Listed(HMENU menu) {
+    std::string lines;
+    for (int i = 0; i < GetMenuItemCount(menu); ++i) {
         std::array<char, 100> caption{};
-        GetMenuStringA(menu, i, caption.data(), caption.size(), MF_BYPOSITION);
-        const HMENU popup = GetSubMenu(menu, static_cast<int>(i));
-        if (popup != nullptr) {
-            lines.push_back(indent + caption.data());
-            List(popup, indent + "  ", lines);
-        } else if ((GetMenuState(menu, i, MF_BYPOSITION) & MF_SEPARATOR) != 0) {
-            lines.push_back(indent + "-");
-        } else {
-            lines.push_back(indent + caption.data() + " " +
-                            std::to_string(GetMenuItemID(menu, static_cast<int>(i))));
-        }
+        GetMenuStringA(menu, static_cast<UINT>(i), caption.data(), caption.size(), MF_BYPOSITION);
+        const auto id = static_cast<int>(GetMenuItemID(menu, i));
+        lines.append(caption.data()).append(" = ");
+        if (const HMENU popup = GetSubMenu(menu, i))
+            lines += "\n" + Listed(popup);
+        else if (const auto program = HostProgramOf(id))
+            lines.append(*program).append("\n");
+        else
+            lines.append(DocumentOf(id, "UB").value_or(std::to_string(id))).append("\n");
     }
-}
-
-Lines Listed(int resource) {
-    const HMENU menu = LoadMenuA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(resource));
-    Lines lines;
-    List(menu, "", lines);
-    DestroyMenu(menu);
     return lines;
 }
 
-std::string Item(const char* caption, int id) {
-    return "  " + std::string(caption) + " " + std::to_string(id);
+std::string Listed(int resource) {
+    return Listed(LoadMenuA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(resource)));
 }
 
-TEST(MenuBar, HasItsMenusInOrder) {
-    EXPECT_EQ(Listed(IDR_MENU_BAR), (Lines{
-                                        "System List",
-                                        Item("Dummy for Load", ID_SYSTEMS_TEMPLATE),
-                                        "&Core Programs",
-                                        Item("&Backup", ID_BACKUP),
-                                        Item("&Restore", ID_RESTORE),
-                                        "  -",
-                                        Item("&Select Company", ID_SELECT_CO),
-                                        Item("&Copy Company", ID_COPY_CO),
-                                        Item("&Erase Company", ID_ERASE_CO),
-                                        "  -",
-                                        Item("Redirected &Print", ID_REDIRECT_PRINT),
-                                        Item("Apply Obrin &Updates", ID_UPDATE),
-                                        Item("Print &Test", ID_PRINT_TEST),
-                                        "&Help",
-                                        Item("Core &Help", ID_CORE_HELP),
-                                        Item("System &Help", ID_SYSTEM_HELP),
-                                        "  -",
-                                        Item("Obrin &Website", ID_WEBSITE),
-                                        Item("Obrin &User Website", ID_USER_SITE),
-                                        Item("A&bout Obrin", ID_ABOUT),
-                                    }));
-}
-
-TEST(MenuBar, TreeHasItsPopup) {
-    EXPECT_EQ(Listed(IDR_TREE_POPUP), (Lines{"TreeView Stuff", Item("&Properties", ID_TREE_PROPERTIES),
-                                             Item("&Help", ID_TREE_HELP)}));
+TEST(MenuBar, HasItsItemsInOrderAndEachDoesItsWork) {
+    EXPECT_EQ(Listed(IDR_MENU_BAR), R"(System List = 
+Dummy for Load = 499
+&Core Programs = 
+&Backup = Core\Programs\CSBackup
+&Restore = Core\Programs\CSRestore
+ = 0
+&Select Company = Core\Programs\SelCNo
+&Copy Company = Core\Programs\CopyCNo
+&Erase Company = Core\Programs\EraseCNo
+ = 0
+Redirected &Print = Core\Programs\RePrint
+Apply Obrin &Updates = Core\Programs\Update\File
+Print &Test = Core\Programs\PrintTest
+&Help = 
+Core &Help = Help\Index.html
+System &Help = Help\UB\Index.html
+ = 0
+Obrin &Website = Help\Obrin-Web.url
+Obrin &User Website = Obrin-User.url
+A&bout Obrin = 314
+)");
+    EXPECT_EQ(Listed(IDR_TREE_POPUP), "TreeView Stuff = \n&Properties = 321\n&Help = 322\n");
+    EXPECT_EQ(DocumentOf(IDC_LABEL5, "UB"), "Help\\BetterIdea.url");
+    EXPECT_EQ(DocumentOf(ID_SYSTEM_HELP, "*"), "Help\\*\\Index.html");
 }
 
 } // namespace

@@ -9,23 +9,20 @@
 #include <algorithm>
 
 namespace obrin {
-namespace {
-
-std::vector<std::string> Sorted(std::vector<std::string> names) {
-    std::ranges::sort(names);
-    return names;
-}
 
 TEST(File, FirstLineIsReadInFewSteps) {
     const test::ScratchFolder folder;
     const std::string longLine(10'000'000, 'x');
     const std::string edge(4095, 'x'); // its line end stands on either side of the first step's end
-    for (const auto& [bytes, line] : {std::pair<std::string, std::string>{"a\nb\r\nc", "a\nb"},
-                                      {"a", "a"},
-                                      {"\r\n", ""},
-                                      {edge + "\r\nb", edge},
-                                      {edge + "x\r\nb", edge + "x"},
-                                      {longLine + "\rb", longLine}}) {
+    const std::pair<std::string, std::string> cases[] = {
+        {"a\nb\r\nc", "a\nb"},
+        {"a", "a"},
+        {"\r\n", ""},
+        {edge + "\r\nb", edge},
+        {edge + "x\r\nb", edge + "x"},
+        {longLine + "\rb", longLine},
+    };
+    for (const auto& [bytes, line] : cases) {
         WriteFileBytes("f", bytes);
         EXPECT_EQ(ReadFirstLine("f"), line);
     }
@@ -48,36 +45,30 @@ TEST(File, ReplacingKeepsTheOldContentsUntilTheNewAreComplete) {
     const test::ScratchFolder folder;
     ReplaceFileBytes("f", "first");
     ReplaceFileBytes("f", "second");
-    EXPECT_EQ(ReadFileBytes("f"), "second");
-    EXPECT_EQ(Sorted(ListNormalFiles(".")), std::vector<std::string>{"f"}) << "nothing else is left behind";
-
-    // What cannot be replaced stays, with nothing beside it.
     {
         const UniqueFile reader(
             CreateFileA("f", GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
         EXPECT_THROW(ReplaceFileBytes("f", "third"), RunTimeError);
     }
-    CreateDirectoryA("d", nullptr);
+    CreateFolder("d");
     EXPECT_THROW(ReplaceFileBytes("d", "x"), RunTimeError);
     EXPECT_THROW(ReplaceFileBytes("missing\\f", "x"), RunTimeError);
     EXPECT_EQ(ReadFileBytes("f"), "second");
-    EXPECT_EQ(ListNormalFiles("."), std::vector<std::string>{"f"});
+    EXPECT_EQ(ListNormalFiles("."), std::vector<std::string>{"f"}) << "nothing beside it";
 }
 
 TEST(File, ListingsShowNormalFilesOnly) {
     const test::ScratchFolder folder;
-    for (const auto& [name, attributes] : {std::pair<const char*, DWORD>{"normal", FILE_ATTRIBUTE_NORMAL},
-                                           {"readonly", FILE_ATTRIBUTE_READONLY},
-                                           {"archived", FILE_ATTRIBUTE_ARCHIVE},
-                                           {"hidden", FILE_ATTRIBUTE_HIDDEN},
-                                           {"system", FILE_ATTRIBUTE_SYSTEM}}) {
+    for (const char* name : {"readonly", "archived", "hidden", "system"})
         WriteFileBytes(name, "");
-        SetFileAttributesA(name, attributes);
-    }
-    CreateDirectoryA("folder", nullptr);
-    const auto names = Sorted(ListNormalFiles(CurrentFolder()));
-    EXPECT_EQ(names, (std::vector<std::string>{"archived", "normal", "readonly"}));
-    for (const char* name : {"normal", "readonly", "hidden", "folder", "*", "missing"}) {
+    SetFileAttributesA("readonly", FILE_ATTRIBUTE_READONLY);
+    SetFileAttributesA("hidden", FILE_ATTRIBUTE_HIDDEN);
+    SetFileAttributesA("system", FILE_ATTRIBUTE_SYSTEM);
+    CreateFolder("folder");
+    auto names = ListNormalFiles(CurrentFolder());
+    std::ranges::sort(names);
+    EXPECT_EQ(names, (std::vector<std::string>{"archived", "readonly"}));
+    for (const char* name : {"readonly", "hidden", "folder", "*", "missing"}) {
         const bool listed = std::ranges::binary_search(names, name);
         EXPECT_EQ(NormalFileExists(name), listed) << name;
         EXPECT_EQ(FileExists(name), listed || name == std::string("hidden")) << name;
@@ -88,16 +79,12 @@ TEST(File, ListingsShowNormalFilesOnly) {
 
 TEST(File, ShortPathIsEmptyWhenItDoesNotFit) {
     const test::ScratchFolder folder;
-    EXPECT_EQ(ShortPath(CurrentFolder()).size() > 2, true);
+    EXPECT_GT(ShortPath(CurrentFolder()).size(), 2U);
     EXPECT_EQ(ShortPath("C:\\missing\\folder"), "");
     std::string deep = CurrentFolder();
-    while (deep.size() < 170) {
-        deep += "\\abcdefgh";
-        ASSERT_TRUE(CreateDirectoryA(deep.c_str(), nullptr));
-    }
-    const std::string shortened = ShortPath(deep);
-    EXPECT_TRUE(shortened.empty() || shortened.size() < 164);
+    while (deep.size() < 170)
+        CreateFolder(deep += "\\abcdefgh");
+    EXPECT_LT(ShortPath(deep).size(), 164U);
 }
 
-} // namespace
 } // namespace obrin

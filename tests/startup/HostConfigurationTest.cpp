@@ -2,21 +2,20 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cctype>
 
 namespace obrin {
 namespace {
 
 std::string Upper(std::string text) {
-    for (char& c : text)
-        c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+    std::ranges::transform(text, text.begin(),
+                           [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
     return text;
 }
 
 TEST(HostConfiguration, FirstPassBlanksDriveLinesAndKeepsTheOthers) {
-    struct {
-        const char *before, *after;
-    } const cases[] = {
+    const std::pair<const char*, const char*> cases[] = {
         {"DRIVE A\r\nx\r\ndrive\r\nDrive S,C:\\OLD,X,\\\r\n", "\r\nx\r\n\r\n\r\n"},
         {"Drivers=3\r\nMyDrive\r\nDriv\r\n Drive\r\n", "\r\nMyDrive\r\nDriv\r\n Drive\r\n"},
         {"\x80\xFF\tx\r\n  \r\nlast", "\x80\xFF\tx\r\n  \r\nlast\r\n"},
