@@ -26,11 +26,12 @@ namespace {
 
 constexpr int stepCount = 12;
 
-// The window's sizes, one a step: wider and higher, then back.
+// The window's sizes, one a step: wider and higher, then back. Two such windows stand one below the other.
 SIZE SizeOfStep(int step) {
     const int away = step < stepCount / 2 ? step : stepCount - step;
-    return {760 + 12 * away, 560 + 9 * away};
+    return {760 + 12 * away, 430 + 9 * away};
 }
+constexpr int topOfBare = 510;
 
 std::vector<HWND> ChildrenOf(HWND parent) {
     std::vector<HWND> children;
@@ -97,8 +98,8 @@ BareWindow::BareWindow(HWND menu) {
     windowClass.lpszClassName = className;
     RegisterClassExA(&windowClass);
     window = CreateWindowExA(WS_EX_CONTROLPARENT, className, "Obrin bench",
-                             WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, 0, 0, SizeOfStep(0).cx, SizeOfStep(0).cy,
-                             nullptr, nullptr, windowClass.hInstance, nullptr);
+                             WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, 0, topOfBare, SizeOfStep(0).cx,
+                             SizeOfStep(0).cy, nullptr, nullptr, windowClass.hInstance, nullptr);
     SetWindowLongPtrA(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
 
     controls = CopyChildren(menu, window);
@@ -172,28 +173,27 @@ void ResizeTo(HWND window, int step) {
     SetWindowPos(window, nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-template <class BeforeStep>
-double MicrosecondsPerStep(HWND window, bool painted, BeforeStep beforeStep) {
-    SetForegroundWindow(window); // neither is measured behind the other
-    ProcessPendingEvents();
-    std::vector<double> times;
-    for (int step = 0; step < stepCount; ++step) {
-        beforeStep(step);
-        times.push_back(Timed([=] {
+// In turn step by step, not window by window: the machine's speed changes every few tenths of a second.
+Row MeasureSteps(const char* what, HWND menu, BareWindow& bare, bool painted) {
+    constexpr int runs = 25 * stepCount;
+    const auto microseconds = [=](HWND window, int step) {
+        const double seconds = Timed([=] {
             ResizeTo(window, step);
             if (painted)
                 RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
-        }));
-    }
-    ProcessPendingEvents();
-    return Median(times) * 1e6;
-}
-
-Row MeasureSteps(const char* what, HWND menu, BareWindow& bare, bool painted) {
-    constexpr int runs = 9;
+        });
+        ProcessPendingEvents();
+        return seconds * 1e6;
+    };
+    int menuStep = 0;
+    int bareStep = 0;
     const Medians medians = Alternate(
-        runs, [&] { return MicrosecondsPerStep(menu, painted, [](int) {}); },
-        [&] { return MicrosecondsPerStep(bare.Window(), painted, [&](int step) { bare.SetStep(step); }); });
+        runs, [&] { return microseconds(menu, menuStep++ % stepCount); },
+        [&] {
+            const int step = bareStep++ % stepCount;
+            bare.SetStep(step);
+            return microseconds(bare.Window(), step);
+        });
     return WithinRatio(what, "us", medians.product, medians.floor, 1.25);
 }
 
@@ -208,6 +208,8 @@ std::vector<Row> MeasureResizing() {
 
     menu.Show();
     const UniqueFile host = ProcessOf(FindWindowA(hostWindowClass, nullptr));
+
+    SetWindowPos(menu.Window(), nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
 
     std::vector<Row> rows;
     {

@@ -16,7 +16,7 @@ namespace {
 
 // Per cent of a core while the host's window is there and never gets its caption.
 double WaitingShare(const std::string& commandLine, const char* windowClass) {
-    constexpr DWORD watched = 3000; // milliseconds
+    constexpr DWORD watched = 6000; // milliseconds; the machine counts a process's time in steps of 10
     RefuseOpenHost();
     const Program program(commandLine);
     HWND host = nullptr;

@@ -1,5 +1,10 @@
 #include "platform/Events.h"
 
+#include "platform/Failure.h"
+#include "platform/Handle.h"
+
+#include <array>
+
 namespace obrin {
 
 void ProcessPendingEvents() {
@@ -26,21 +31,87 @@ int RunEvents(HWND window) {
 }
 
 namespace {
+
 constexpr DWORD highResolution = 2; // CREATE_WAITABLE_TIMER_HIGH_RESOLUTION, which MinGW's headers lack
+constexpr LONG pause = 13;          // milliseconds: short enough not to be noticed, and no load for a core
+
+// Tries in a thread of its own, so that the window's thread sleeps until it has an event: waiting for events
+// and for the next try at once costs a third more of the machine.
+class Tries {
+public:
+    explicit Tries(const std::function<bool()>& condition);
+    Tries(const Tries&) = delete;
+    Tries& operator=(const Tries&) = delete;
+    ~Tries();
+
+    /// Signalled once the condition holds.
+    HANDLE Success() const { return thread.get(); }
+
+private:
+    static DWORD WINAPI Run(void* self);
+    /// Returns false when there is to be no other try.
+    bool Pause() const;
+
+    const std::function<bool()>& condition;
+    UniqueFile stop, timer; // no timer on a Windows that has none finer than its clock's ticks
+    UniqueFile thread;
+};
+
+Tries::Tries(const std::function<bool()>& tried)
+    : condition(tried)
+    , stop(CreateEventA(nullptr, TRUE, FALSE, nullptr))
+    , timer(CreateWaitableTimerExW(nullptr, nullptr, highResolution, TIMER_ALL_ACCESS)) {
+    LARGE_INTEGER first;
+    first.QuadPart = -10'000LL * pause; // in units of 100 ns, from now
+    if (timer && !SetWaitableTimer(timer.get(), &first, pause, nullptr, nullptr, FALSE))
+        timer.reset();
+    if (stop)
+        thread.reset(CreateThread(nullptr, 0, Run, this, 0, nullptr));
+    if (!thread)
+        ThrowLastError("Waiting for the host");
+}
+
+Tries::~Tries() {
+    SetEvent(stop.get());
+    WaitForSingleObject(thread.get(), INFINITE);
+}
+
+DWORD WINAPI Tries::Run(void* self) {
+    const auto& tries = *static_cast<const Tries*>(self);
+    while (!tries.condition() && tries.Pause()) {
+    }
+    return 0;
+}
+
+bool Tries::Pause() const {
+    const std::array<HANDLE, 2> handles{stop.get(), timer.get()};
+    // A plain time-out ends with a tick of the clock, up to 16 ms later than asked for.
+    return WaitForMultipleObjects(timer ? 2 : 1, handles.data(), FALSE, timer ? INFINITE : pause) !=
+           WAIT_OBJECT_0;
+}
+
+// Processes events until `success`, if there is one, is signalled. Returns false when `window` was closed
+// first.
+bool ProcessEventsUntil(HWND window, HANDLE success) {
+    const DWORD handles = success != nullptr ? 1 : 0;
+    while (IsWindow(window)) {
+        if (MsgWaitForMultipleObjectsEx(handles, &success, INFINITE, QS_ALLINPUT, MWMO_INPUTAVAILABLE) !=
+            WAIT_OBJECT_0 + handles)
+            return true;
+        ProcessPendingEvents();
+    }
+    return false;
+}
+
 } // namespace
 
-EventPause::EventPause()
-    : timer(CreateWaitableTimerExW(nullptr, nullptr, highResolution, TIMER_ALL_ACCESS)) {}
+bool WaitUntil(HWND window, const std::function<bool()>& condition) {
+    const Tries tries(condition);
+    return ProcessEventsUntil(window, tries.Success());
+}
 
-void EventPause::Sleep() const {
-    constexpr DWORD longest = 12; // milliseconds
-    // A plain time-out ends with a tick of the clock, up to 16 ms later than asked for.
-    LARGE_INTEGER due;
-    due.QuadPart = -10'000LL * longest; // in units of 100 ns, from now
-    const HANDLE handle = timer.get();
-    const bool timed = handle != nullptr && SetWaitableTimer(handle, &due, 0, nullptr, nullptr, FALSE);
-    MsgWaitForMultipleObjectsEx(timed ? 1 : 0, &handle, timed ? 2 * longest : longest, QS_ALLINPUT,
-                                MWMO_INPUTAVAILABLE);
+void WaitUntilClosed(HWND window) {
+    ProcessEventsUntil(window, nullptr);
 }
 
 } // namespace obrin

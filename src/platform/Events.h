@@ -1,7 +1,9 @@
 // Window events while a handler of ours is at work.
 #pragma once
 
-#include "platform/Handle.h"
+#include "platform/WindowsApi.h"
+
+#include <functional>
 
 namespace obrin {
 
@@ -13,29 +15,12 @@ void ProcessPendingEvents();
 /// Returns the exit code.
 int RunEvents(HWND window);
 
-/// A pause between two tries: short enough not to be noticed, long enough not to load a core.
-class EventPause {
-public:
-    EventPause();
-    /// Sleeps until an event arrives, at most 12 ms.
-    void Sleep() const;
+/// Tries until `condition` holds, without a time limit, and processes the events that arrive meanwhile.
+/// The tries are 13 ms apart and run beside the window's thread: the condition looks at nothing that this
+/// thread changes. Returns false when `window` was closed first.
+bool WaitUntil(HWND window, const std::function<bool()>& condition);
 
-private:
-    UniqueFile timer; // none on a Windows that has no timers finer than its clock's ticks
-};
-
-/// Tries until `condition` holds, without a time limit, and processes events after each unsuccessful try.
-/// Returns false when `window` was closed meanwhile.
-template <class Condition>
-bool WaitUntil(HWND window, Condition condition) {
-    const EventPause pause;
-    while (IsWindow(window)) {
-        if (condition())
-            return true;
-        ProcessPendingEvents();
-        pause.Sleep();
-    }
-    return false;
-}
+/// Processes events until `window` is closed.
+void WaitUntilClosed(HWND window);
 
 } // namespace obrin

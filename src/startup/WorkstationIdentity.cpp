@@ -39,7 +39,8 @@ std::int16_t EstablishIdentity(HWND menu, const std::string& loginName) {
     }
     // A damaged record's negative number is neither asked about nor accepted: the menu waits here until it
     // is closed.
-    WaitUntil(menu, [&] { return wsid > 0; });
+    if (wsid < 0)
+        WaitUntilClosed(menu);
     return wsid;
 }
 
