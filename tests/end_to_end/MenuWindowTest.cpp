@@ -50,6 +50,7 @@ TEST_F(MenuWindow, KeepsItsMarginsAtEverySize) {
     const std::string designed = margins();
     EXPECT_TRUE(designed.ends_with(" E-Mail us! Got a better idea? Utility Billing")) << designed;
     for (const SIZE size : {SIZE{1200, 900}, {1, 1}, {760, 560}}) {
+        SetWindowPos(Control(IDC_FRAME1), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
         SetWindowPos(menu, nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
         if (size.cx > 1) {
             EXPECT_EQ(margins(), designed);

@@ -11,9 +11,12 @@ class ScratchFolder {
 public:
     ScratchFolder()
         : before(std::filesystem::current_path()) {
-        path =
-            std::filesystem::temp_directory_path() / ("obrin-test-" + std::to_string(GetCurrentProcessId()));
-        std::filesystem::create_directories(path);
+        // Another folder than any before: process numbers come again, and a program that is just ending may
+        // have kept its file from being removed.
+        do {
+            path = std::filesystem::temp_directory_path() /
+                   ("obrin-test-" + std::to_string(GetCurrentProcessId()) + "-" + std::to_string(++number));
+        } while (!std::filesystem::create_directory(path));
         std::filesystem::current_path(path);
     }
     ScratchFolder(const ScratchFolder&) = delete;
@@ -27,6 +30,7 @@ public:
     std::filesystem::path path;
 
 private:
+    int number = 0;
     std::filesystem::path before;
 };
 
