@@ -57,14 +57,11 @@ private:
 TEST_F(UpdateWindow, CopiesOnceAndAgainOnEveryResizeAndEntersTheWorkstation) {
     Update(5, [](HWND window, std::size_t shown) {
         EXPECT_TRUE(IsWindowVisible(window));
-        if (captions.back() == "Complete" && shown < 18) {
-            RECT place;
-            GetWindowRect(window, &place);
-            SetWindowPos(window, nullptr, 0, 0, place.right - place.left + 10, place.bottom - place.top + 10,
-                         SWP_NOMOVE);
-        } else {
+        // The notification alone: how often a display tells of a real resize is its own affair.
+        if (captions.back() == "Complete" && shown < 18)
+            SendMessageA(window, WM_SIZE, SIZE_RESTORED, 0);
+        else
             Okay(window, shown);
-        }
     });
     ASSERT_EQ(captions.size(), 18U);
     for (std::size_t i = 0; i < captions.size(); ++i)
