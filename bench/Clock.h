@@ -25,6 +25,7 @@ double Timed(Work&& work) {
 
 struct Medians {
     double product, floor;
+    double ratio; ///< of each two runs side by side: the machine's speed changes from moment to moment
 };
 
 /// Runs both alternately, `runs` times each after one run that does not count. Either returns what it
@@ -33,6 +34,7 @@ template <class Product, class Floor>
 Medians Alternate(int runs, Product&& product, Floor&& floor) {
     std::vector<double> products;
     std::vector<double> floors;
+    std::vector<double> ratios;
     product();
     floor();
     for (int run = 0; run < runs; ++run) {
@@ -44,8 +46,9 @@ Medians Alternate(int runs, Product&& product, Floor&& floor) {
             floors.push_back(floor());
             products.push_back(product());
         }
+        ratios.push_back(products.back() / floors.back());
     }
-    return {Median(products), Median(floors)};
+    return {Median(products), Median(floors), Median(ratios)};
 }
 
 } // namespace obrin::bench

@@ -12,7 +12,7 @@ std::vector<Row> MeasureSize() {
     WIN32_FILE_ATTRIBUTE_DATA data;
     if (!GetFileAttributesExA(file.c_str(), GetFileExInfoStandard, &data))
         ThrowLastError("Reading the size of " + file);
-    return {Within("size of ObrinMenu.exe", "bytes", data.nFileSizeLow, std::nullopt, 300 * 1024)};
+    return {Within("size of ObrinMenu.exe", "bytes", data.nFileSizeLow, 300 * 1024)};
 }
 
 } // namespace obrin::bench

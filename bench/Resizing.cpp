@@ -194,7 +194,7 @@ Row MeasureSteps(const char* what, HWND menu, BareWindow& bare, bool painted) {
             bare.SetStep(step);
             return microseconds(bare.Window(), step);
         });
-    return WithinRatio(what, "us", medians.product, medians.floor, 1.25);
+    return WithinRatio(what, "us", medians, 1.25);
 }
 
 } // namespace

@@ -117,9 +117,9 @@ std::vector<Row> MeasureSettings() {
         [&] { return MillisecondsToShown([&] { BareDialog().ShowModal(owner, IDD_PROPERTIES); }); });
     DestroyWindow(owner);
     return {
-        WithinRatio("saving a settings file", "us", saving.product, saving.floor, 1.25),
-        WithinRatio("loading a settings file", "us", loading.product, loading.floor, 1.25),
-        WithinRatio("opening the Properties dialog", "ms", opening.product, opening.floor, 1.5),
+        WithinRatio("saving a settings file", "us", saving, 1.25),
+        WithinRatio("loading a settings file", "us", loading, 1.25),
+        WithinRatio("opening the Properties dialog", "ms", opening, 1.5),
     };
 }
 

@@ -41,7 +41,7 @@ Row MeasureShare() {
         runs, [] { return WaitingShare("ObrinMenu.exe", "ObrinMenu.frmMain"); },
         [] { return WaitingShare(std::string("bare.exe ") + Installation::system, "ObrinBench.Bare"); });
     SetEnvironmentVariableA("FENN_NEVER", nullptr);
-    return Within("waiting for the host, of a core", "%", medians.product, medians.floor, 1);
+    return Within("waiting for the host, of a core", "%", medians, 1);
 }
 
 // In these starts the host is this program, which sets its caption at a known moment.
@@ -61,10 +61,9 @@ std::vector<Row> MeasureDelay() {
     }
     constexpr double target = 15;
     return {
-        Within("from the host's caption to its hiding, median of 21", "ms", Median(delays), std::nullopt,
-               target),
+        Within("from the host's caption to its hiding, median of 21", "ms", Median(delays), target),
         Within("from the host's caption to its hiding, longest", "ms", *std::ranges::max_element(delays),
-               std::nullopt, target),
+               target),
     };
 }
 

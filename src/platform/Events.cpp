@@ -33,7 +33,7 @@ int RunEvents(HWND window) {
 namespace {
 
 constexpr DWORD highResolution = 2; // CREATE_WAITABLE_TIMER_HIGH_RESOLUTION, which MinGW's headers lack
-constexpr LONG pause = 13;          // milliseconds: short enough not to be noticed, and no load for a core
+constexpr LONG pause = 12;          // milliseconds: short enough not to be noticed, and no load for a core
 
 // Tries in a thread of its own, so that the window's thread sleeps until it has an event: waiting for events
 // and for the next try at once costs a third more of the machine.
