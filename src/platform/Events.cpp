@@ -33,10 +33,10 @@ int RunEvents(HWND window) {
 namespace {
 
 constexpr DWORD highResolution = 2; // CREATE_WAITABLE_TIMER_HIGH_RESOLUTION, which MinGW's headers lack
-constexpr LONG pause = 12;          // milliseconds: short enough not to be noticed, and no load for a core
+constexpr LONG pause = 13;          // milliseconds: short enough not to be noticed, and no load for a core
 
-// Tries in a thread of its own, so that the window's thread sleeps until it has an event: waiting for events
-// and for the next try at once costs a third more of the machine.
+// Tries in a thread of its own, so that the window's thread sleeps until it has an event: to look for events
+// after each try costs the machine more than the try.
 class Tries {
 public:
     explicit Tries(const std::function<bool()>& condition);
@@ -95,8 +95,11 @@ bool Tries::Pause() const {
 bool ProcessEventsUntil(HWND window, HANDLE success) {
     const DWORD handles = success != nullptr ? 1 : 0;
     while (IsWindow(window)) {
-        if (MsgWaitForMultipleObjectsEx(handles, &success, INFINITE, QS_ALLINPUT, MWMO_INPUTAVAILABLE) !=
-            WAIT_OBJECT_0 + handles)
+        const DWORD woken =
+            MsgWaitForMultipleObjectsEx(handles, &success, INFINITE, QS_ALLINPUT, MWMO_INPUTAVAILABLE);
+        if (woken == WAIT_FAILED)
+            ThrowLastError("Waiting for the host");
+        if (woken < handles)
             return true;
         ProcessPendingEvents();
     }

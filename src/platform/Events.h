@@ -16,7 +16,7 @@ void ProcessPendingEvents();
 int RunEvents(HWND window);
 
 /// Tries until `condition` holds, without a time limit, and processes the events that arrive meanwhile.
-/// The tries are 12 ms apart and run beside the window's thread: the condition looks at nothing that this
+/// The tries are 13 ms apart and run beside the window's thread: the condition looks at nothing that this
 /// thread changes. Returns false when `window` was closed first.
 bool WaitUntil(HWND window, const std::function<bool()>& condition);
 
