@@ -268,6 +268,18 @@ TEST(Launcher, WaitsForASlowHostAndCanBeClosedMeanwhile) {
     }
 }
 
+TEST(Launcher, WaitsWithADamagedNumberUntilItIsClosed) {
+    const Installation installation(-7);
+    const Launcher launcher;
+    HWND menu = nullptr;
+    ASSERT_TRUE(Eventually([&] { return (menu = FindWindowA("ObrinMenu.frmMain", nullptr)) != nullptr; }));
+    Sleep(300); // in which it must neither ask nor start the host
+    EXPECT_TRUE(IsWindowEnabled(menu));
+    EXPECT_EQ(installation.Logged("start"), Lines{});
+    PostMessageA(menu, WM_CLOSE, 0, 0);
+    EXPECT_EQ(launcher.ExitCode(), 0);
+}
+
 void MakeSystems(int count) {
     for (int i = 0; i < count; ++i)
         WriteFileBytes(std::to_string(i) + ".mnu", "T\r\n");
