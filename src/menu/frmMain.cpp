@@ -259,27 +259,29 @@ void frmMain::Form_Resize() {
     const auto px = [this](double value) { return ToPixels(value, dpi); };
     const Box& frame = layout.frame1;
     const Box& tree = layout.treeView1;
-    // The frame comes to the front first and the link labels last. Where they are there already, a move that
-    // leaves the order alone is quicker, and nobody who looks at the window's controls sees them change
-    // places.
-    const UINT front = SWP_NOACTIVATE | (LinksAndFrameInFront() ? SWP_NOZORDER : 0U);
     constexpr UINT quiet = SWP_NOACTIVATE | SWP_NOZORDER;
     HDWP positions = BeginDeferWindowPos(7);
     const auto apply = [&] {
         if (!EndDeferWindowPos(positions))
             ThrowLastError("Laying out the menu window");
     };
-    positions = DeferWindowPos(positions, Frame1, HWND_TOP, px(frame.left), px(frame.top), px(frame.width),
-                               px(frame.height), front);
-    const auto move = [&](HWND control, double left, double top, UINT order) {
-        positions = DeferWindowPos(positions, control, HWND_TOP, px(left), px(top), 0, 0, order | SWP_NOSIZE);
+    const auto move = [&](HWND control, double left, double top) {
+        positions = DeferWindowPos(positions, control, nullptr, px(left), px(top), 0, 0, quiet | SWP_NOSIZE);
     };
-    move(Label1, layout.label1Left, design::label1Top, quiet);
-    move(Image1, layout.image1Left, design::image1Top, quiet);
-    move(Label2, layout.label2Left, design::label2Top, quiet);
-    move(Label3, layout.label3Left, design::label3Top, quiet);
-    move(Label4, layout.label4.left, layout.label4.top, front);
-    move(Label5, layout.label5.left, layout.label5.top, front);
+    move(Label1, layout.label1Left, design::label1Top);
+    move(Image1, layout.image1Left, design::image1Top);
+    move(Label2, layout.label2Left, design::label2Top);
+    move(Label3, layout.label3Left, design::label3Top);
+    // The frame comes to the front, then the one link label, then the other. Told from the front, each behind
+    // the one before, an order that stands already is left alone: nobody sees the controls change places.
+    const auto stack = [&](HWND control, HWND behind, Point place) {
+        positions = DeferWindowPos(positions, control, behind, px(place.left), px(place.top), 0, 0,
+                                   SWP_NOACTIVATE | SWP_NOSIZE);
+    };
+    stack(Label5, HWND_TOP, layout.label5);
+    stack(Label4, Label5, layout.label4);
+    positions = DeferWindowPos(positions, Frame1, Label4, px(frame.left), px(frame.top), px(frame.width),
+                               px(frame.height), SWP_NOACTIVATE);
     apply();
 
     positions = BeginDeferWindowPos(2); // the controls of another parent
@@ -289,11 +291,6 @@ void frmMain::Form_Resize() {
         DeferWindowPos(positions, Command1, nullptr, px(layout.command1.left), px(layout.command1.top),
                        px(design::command1.width), px(design::command1.height), quiet);
     apply();
-}
-
-bool frmMain::LinksAndFrameInFront() const {
-    return GetWindow(window, GW_CHILD) == Label5 && GetWindow(Label5, GW_HWNDNEXT) == Label4 &&
-           GetWindow(Label4, GW_HWNDNEXT) == Frame1;
 }
 
 void frmMain::Form_DpiChanged(const RECT& suggested) {

@@ -62,7 +62,6 @@ private:
     void FillSystemList();
     void SetLabel(HWND label, const std::string& text);
     Size OwnSize(HWND control) const;
-    bool LinksAndFrameInFront() const;
     void PopUp(int x, int y);
 
     void LoadSystem(const std::string& fileName);

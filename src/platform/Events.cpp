@@ -53,27 +53,32 @@ private:
     bool Pause() const;
 
     const std::function<bool()>& condition;
-    UniqueFile stop, timer; // no timer on a Windows that has none finer than its clock's ticks
-    UniqueFile thread;
+    UniqueFile timer; // none on a Windows that has none finer than its clock's ticks
+    UniqueFile stop, thread;
 };
 
 Tries::Tries(const std::function<bool()>& tried)
     : condition(tried)
-    , stop(CreateEventA(nullptr, TRUE, FALSE, nullptr))
     , timer(CreateWaitableTimerExW(nullptr, nullptr, highResolution, TIMER_ALL_ACCESS)) {
     LARGE_INTEGER first;
     first.QuadPart = -10'000LL * pause; // in units of 100 ns, from now
     if (timer && !SetWaitableTimer(timer.get(), &first, pause, nullptr, nullptr, FALSE))
         timer.reset();
+    stop.reset(CreateEventA(nullptr, TRUE, FALSE, nullptr));
     if (stop)
         thread.reset(CreateThread(nullptr, 0, Run, this, 0, nullptr));
     if (!thread)
-        ThrowLastError("Waiting for the host");
+        ThrowLastError("Waiting");
 }
 
 Tries::~Tries() {
     SetEvent(stop.get());
-    WaitForSingleObject(thread.get(), INFINITE);
+    // The last try may be asking a window of this thread for its caption: that much is still answered.
+    const HANDLE ended = thread.get();
+    MSG message;
+    while (MsgWaitForMultipleObjectsEx(1, &ended, INFINITE, QS_SENDMESSAGE, MWMO_INPUTAVAILABLE) ==
+           WAIT_OBJECT_0 + 1)
+        PeekMessageA(&message, nullptr, 0, 0, PM_NOREMOVE | PM_QS_SENDMESSAGE);
 }
 
 DWORD WINAPI Tries::Run(void* self) {
@@ -98,7 +103,7 @@ bool ProcessEventsUntil(HWND window, HANDLE success) {
         const DWORD woken =
             MsgWaitForMultipleObjectsEx(handles, &success, INFINITE, QS_ALLINPUT, MWMO_INPUTAVAILABLE);
         if (woken == WAIT_FAILED)
-            ThrowLastError("Waiting for the host");
+            ThrowLastError("Waiting");
         if (woken < handles)
             return true;
         ProcessPendingEvents();

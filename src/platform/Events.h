@@ -16,8 +16,8 @@ void ProcessPendingEvents();
 int RunEvents(HWND window);
 
 /// Tries until `condition` holds, without a time limit, and processes the events that arrive meanwhile.
-/// The tries are 13 ms apart and run beside the window's thread: the condition looks at nothing that this
-/// thread changes. Returns false when `window` was closed first.
+/// The tries are about 13 ms apart and run beside the window's thread: the condition throws nothing and looks
+/// at nothing that this thread changes. Returns false when `window` was closed first.
 bool WaitUntil(HWND window, const std::function<bool()>& condition);
 
 /// Processes events until `window` is closed.

@@ -8,7 +8,7 @@
 
 namespace obrin {
 
-/// Closes a file handle; INVALID_HANDLE_VALUE never gets this far.
+/// Closes the handle of a file, a process or another kernel object; INVALID_HANDLE_VALUE never gets this far.
 struct CloseFile {
     void operator()(HANDLE handle) const { CloseHandle(handle); }
 };

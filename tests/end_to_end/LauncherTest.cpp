@@ -53,7 +53,7 @@ void ClickRow(HWND tree, int row, int depth, DWORD downAndUp, int times = 1) {
     EXPECT_TRUE(Eventually([&, arrived = 0]() mutable {
         POINT pointer;
         GetCursorPos(&pointer);
-        if (pointer.x == place.x && pointer.y == place.y)
+        if (pointer.x == place.x && pointer.y == place.y && WindowFromPoint(place) == tree)
             return ++arrived > 3;
         SetCursorPos(place.x, place.y);
         arrived = 0;
@@ -133,6 +133,7 @@ TEST(Launcher, RunsProgramsAndUpdatesTheWorkstationOnce) {
         return IsWindowVisible(program = FindWindowA("FennProgram", "CORE\\PROGRAMS\\CSBACKUP"));
     })) << "the operator sees the program";
     PostMessageA(program, WM_CLOSE, 0, 0);
+    EXPECT_TRUE(Eventually([&] { return !IsWindow(program); }));
 
     EXPECT_TRUE(Eventually([&] { return installation.Logged("up") == installation.Logged("down"); }))
         << "each key is let go";
@@ -208,6 +209,8 @@ TEST(Launcher, RightClickSelectsAndOffersThePopup) {
     chooseHelp();
     ClickRow(tree, 0, 0, rightClick); // a heading: selected, without a popup
     EXPECT_TRUE(Eventually([&] { return TreeView_GetSelection(tree) == TreeView_GetRoot(tree); }));
+    Key(VK_DOWN); // would go to a popup
+    EXPECT_TRUE(Eventually([&] { return TreeView_GetSelection(tree) != TreeView_GetRoot(tree); }));
     EXPECT_FALSE(popupIsShown());
 }
 
