@@ -14,6 +14,7 @@
 #include "platform/Failure.h"
 #include "platform/File.h"
 #include "platform/SupportLibrary.h"
+#include "platform/Workstation.h"
 #include "resources/Ids.h"
 #include "startup/HostLink.h"
 
@@ -109,7 +110,9 @@ BareWindow::BareWindow(HWND menu) {
     }
     MenuTree tree;
     tree.Attach(GetDlgItem(GetDlgItem(window, IDC_FRAME1), IDC_TREEVIEW1));
-    tree.Fill(ParseMenuDefinition(ReadFileBytes(Installation::system), Installation::system).entries);
+    tree.Fill(
+        ParseMenuDefinition(ReadFileBytes(Installation::system), Installation::system, CodePageLeadByteTest())
+            .entries);
     ShowWindow(window, SW_SHOWNORMAL);
 }
 

@@ -64,7 +64,7 @@ ScratchFolder::ScratchFolder()
     : before(CurrentFolder()) {
     std::array<char, MAX_PATH> temporary;
     GetTempPathA(temporary.size(), temporary.data());
-    folder = EnsureTrailingBackslash(temporary.data()) + "ObrinBench" +
+    folder = EnsureTrailingBackslash(temporary.data(), CodePageLeadByteTest()) + "ObrinBench" +
              std::to_string(GetCurrentProcessId()) + "-" + std::to_string(GetTickCount());
     if (!CreateDirectoryA(folder.c_str(), nullptr) || !SetCurrentDirectoryA(folder.c_str()))
         ThrowLastError("Making the folder " + folder);

@@ -10,6 +10,7 @@
 #include "platform/Events.h"
 #include "platform/Failure.h"
 #include "platform/File.h"
+#include "platform/Workstation.h"
 
 #include <algorithm>
 #include <array>
@@ -47,7 +48,8 @@ HWND CreateTree(HWND frame, int left) {
 double ShowByProduct(MenuTree& tree, const char* fileName) {
     return 1e3 * Timed([&] {
                tree.Clear();
-               MenuDefinition definition = ParseMenuDefinition(ReadFileBytes(fileName), fileName);
+               MenuDefinition definition =
+                   ParseMenuDefinition(ReadFileBytes(fileName), fileName, CodePageLeadByteTest());
                tree.Fill(std::move(definition.entries));
                UpdateWindow(tree.Window());
            });
@@ -111,7 +113,8 @@ Row MeasureShape(const char* what, int programs) {
     constexpr int runs = 21;
     constexpr const char* fileName = "UB.mnu";
     WriteFileBytes(fileName, MenuFileText("Utility Billing", entryCount, programs));
-    const std::vector<MenuEntry> entries = ParseMenuDefinition(ReadFileBytes(fileName), fileName).entries;
+    const std::vector<MenuEntry> entries =
+        ParseMenuDefinition(ReadFileBytes(fileName), fileName, CodePageLeadByteTest()).entries;
 
     const UniqueWindow frame = ShowFrame();
     MenuTree tree;

@@ -16,7 +16,7 @@ namespace obrin::bench {
 std::vector<Row> MeasureTyping() {
     constexpr int runs = 201;
     const std::string command = LoadAndRun("Core\\Programs\\CSBackup");
-    const std::vector<std::uint8_t> keys = HostKeyCodes(command, UpperCase);
+    const std::vector<std::uint8_t> keys = HostKeyCodes(command, UpperCase, CodePageLeadByteTest());
 
     const ScratchFolder folder;
     if (!CopyFileA(OwnFile().c_str(), "sink.exe", FALSE))

@@ -1,6 +1,45 @@
 #include "common/Text.h"
 
+#include <algorithm>
+
 namespace obrin {
+
+namespace {
+
+// Behind the character at `place`. A lead byte that ends the text is a character of its own.
+std::size_t NextCharacter(std::string_view text, std::size_t place, LeadByteTest isLeadByte) {
+    return std::min(place + (isLeadByte != nullptr && isLeadByte(text[place]) ? 2 : 1), text.size());
+}
+
+} // namespace
+
+std::size_t FindCharacter(std::string_view text, char character, LeadByteTest isLeadByte, std::size_t start) {
+    if (isLeadByte == nullptr)
+        return text.find(character, start);
+    for (auto place = start; place < text.size(); place = NextCharacter(text, place, isLeadByte)) {
+        if (text[place] == character)
+            return place;
+    }
+    return std::string_view::npos;
+}
+
+std::size_t FindLastCharacter(std::string_view text, char character, LeadByteTest isLeadByte) {
+    if (isLeadByte == nullptr)
+        return text.rfind(character);
+    // From the start: backwards nothing tells a second byte from a first.
+    auto last = std::string_view::npos;
+    for (std::size_t place = 0; (place = FindCharacter(text, character, isLeadByte, place)) < text.size();
+         ++place)
+        last = place;
+    return last;
+}
+
+std::string_view FirstCharacters(std::string_view text, std::size_t count, LeadByteTest isLeadByte) {
+    std::size_t end = 0;
+    for (; count > 0 && end < text.size(); --count)
+        end = NextCharacter(text, end, isLeadByte);
+    return text.substr(0, end);
+}
 
 std::string_view TrimBlanks(std::string_view text) {
     const auto first = text.find_first_not_of(' ');
@@ -9,8 +48,8 @@ std::string_view TrimBlanks(std::string_view text) {
     return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
-std::string EnsureTrailingBackslash(std::string path) {
-    if (path.empty() || path.back() != '\\')
+std::string EnsureTrailingBackslash(std::string path, LeadByteTest isLeadByte) {
+    if (path.empty() || FindLastCharacter(path, '\\', isLeadByte) != path.size() - 1)
         path += '\\';
     return path;
 }

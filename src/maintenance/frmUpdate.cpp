@@ -127,9 +127,11 @@ void frmUpdate::CopyFiles() {
     const auto show = [this](const char* what) {
         SetWindowTextA(Label1, (std::string("Updating:\r\n") + what).c_str());
     };
+    const LeadByteTest isLeadByte = CodePageLeadByteTest();
     for (const auto& [source, destination] : updateFiles) {
         show(destination);
-        CopyUnexamined(source, EnsureTrailingBackslash(EnvironmentVariable("Tessel")) + destination);
+        CopyUnexamined(source,
+                       EnsureTrailingBackslash(EnvironmentVariable("Tessel"), isLeadByte) + destination);
         // The end of the Windows session may destroy the window in here; texts set on it then go nowhere.
         ProcessPendingEvents();
     }

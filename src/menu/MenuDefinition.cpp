@@ -12,18 +12,25 @@ namespace obrin {
 
 namespace {
 
+constexpr char fieldEnd = '^';
+
+std::string_view FirstField(std::string_view line, LeadByteTest isLeadByte) {
+    return line.substr(0, FindCharacter(line, fieldEnd, isLeadByte));
+}
+
 class Parser {
 public:
-    Parser(std::string_view file, std::string_view name)
+    Parser(std::string_view file, std::string_view name, LeadByteTest leadByteTest)
         : lines(file)
         , lineEnds(static_cast<std::size_t>(std::ranges::count(file, '\r')))
-        , fileName(name) {}
+        , fileName(name)
+        , isLeadByte(leadByteTest) {}
 
     MenuDefinition Parse() {
         const auto header = NextLine();
         if (!header)
             Fail(PlatformError::EndOfFile, "the file has no header line");
-        MenuDefinition definition{.title = std::string(HeaderTitle(*header)), .entries = {}};
+        MenuDefinition definition{.title = std::string(HeaderTitle(*header, isLeadByte)), .entries = {}};
         // All the room at once: the set of keys refers to the keys in the entries.
         definition.entries.reserve(std::min(lineEnds + 1, mostEntries));
         keys.reserve(definition.entries.capacity());
@@ -47,20 +54,15 @@ private:
         const auto depth = std::min(line.find_first_not_of('>'), line.size());
         line.remove_prefix(depth);
         const auto parent = ParentAt(depth);
-        if (line.find('^') != std::string_view::npos)
-            return ProgramEntry(line, parent);
+        if (const auto separator = FindCharacter(line, fieldEnd, isLeadByte);
+            separator != std::string_view::npos) {
+            const auto key = FirstField(line.substr(separator + 1), isLeadByte); // more fields mean nothing
+            return {
+                .text = WithoutMarks(line.substr(0, separator)), .key = WithoutMarks(key), .parent = parent};
+        }
         headings.resize(depth + 1); // headings deeper than this one are closed
         headings[depth] = counter;
         return {.text = std::string(line), .key = {}, .parent = parent};
-    }
-
-    // Further fields behind the key mean nothing.
-    static MenuEntry ProgramEntry(std::string_view line, std::int16_t parent) {
-        const auto separator = line.find('^');
-        const auto behind = line.substr(separator + 1);
-        return {.text = WithoutMarks(line.substr(0, separator)),
-                .key = WithoutMarks(behind.substr(0, behind.find('^'))),
-                .parent = parent};
     }
 
     static std::string WithoutMarks(std::string_view field) {
@@ -97,6 +99,7 @@ private:
     LineReader lines;
     std::size_t lineEnds; // at least as many as there are lines, but for a last one without
     std::string_view fileName;
+    LeadByteTest isLeadByte;
     int lineNumber = 0;
     std::int16_t counter = 0;                 // of entry lines; the tree index of the entry at hand
     std::vector<std::int16_t> headings = {0}; // per depth the last heading's tree index, 0 for none
@@ -109,16 +112,17 @@ bool IsMenuFileName(std::string_view name) {
     return name.size() > 4 && name.ends_with(".mnu");
 }
 
-std::string_view HeaderTitle(std::string_view headerLine) {
-    return headerLine.substr(0, headerLine.find('^'));
+std::string_view HeaderTitle(std::string_view headerLine, LeadByteTest isLeadByte) {
+    return FirstField(headerLine, isLeadByte);
 }
 
-std::string_view SystemCode(std::string_view menuFileName) {
-    return menuFileName.substr(0, 2);
+std::string_view SystemCode(std::string_view menuFileName, LeadByteTest isLeadByte) {
+    return FirstCharacters(menuFileName, 2, isLeadByte);
 }
 
-MenuDefinition ParseMenuDefinition(std::string_view file, std::string_view fileName) {
-    return Parser(file, fileName).Parse();
+MenuDefinition ParseMenuDefinition(std::string_view file, std::string_view fileName,
+                                   LeadByteTest isLeadByte) {
+    return Parser(file, fileName, isLeadByte).Parse();
 }
 
 } // namespace obrin

@@ -4,11 +4,13 @@
 #include "menu/MenuDefinition.h"
 #include "platform/File.h"
 #include "platform/Folder.h"
+#include "platform/Workstation.h"
 
 namespace obrin {
 
 std::vector<MenuFile> EnumerateMenuFiles() {
     constexpr std::size_t most = 99;
+    const LeadByteTest isLeadByte = CodePageLeadByteTest();
     std::vector<MenuFile> files;
     for (const std::string& name : ListNormalFiles(CurrentFolder())) {
         if (!IsMenuFileName(name))
@@ -17,7 +19,7 @@ std::vector<MenuFile> EnumerateMenuFiles() {
         if (files.size() == most)
             throw RunTimeError(PlatformError::AlreadyExists,
                                "Adding " + name + " to the system list as item 99");
-        files.push_back({.name = name, .title = std::string(HeaderTitle(header))});
+        files.push_back({.name = name, .title = std::string(HeaderTitle(header, isLeadByte))});
     }
     return files;
 }

@@ -167,7 +167,7 @@ void frmMain::OnCommand(int id, int notification) {
         return;
     else if (const auto program = HostProgramOf(id))
         RunHostProgram(*program);
-    else if (const auto document = DocumentOf(id, SystemCode(currentSystem)))
+    else if (const auto document = DocumentOf(id, SystemCode(currentSystem, CodePageLeadByteTest())))
         OpenUnexamined(window, document->c_str());
 }
 
@@ -537,9 +537,10 @@ void frmMain::mnuSystems_Click(std::size_t index) {
 void frmMain::LoadSystem(const std::string& fileName) {
     currentSystem = fileName;
     TreeView1.Clear();
-    MenuDefinition definition = ParseMenuDefinition(ReadFileBytes(fileName), fileName);
+    const LeadByteTest isLeadByte = CodePageLeadByteTest();
+    MenuDefinition definition = ParseMenuDefinition(ReadFileBytes(fileName), fileName, isLeadByte);
     // With its folder: the platform looks for a bare name in other folders too.
-    const std::string pictureFile = EnsureTrailingBackslash(CurrentFolder()) + "Startup.bmp";
+    const std::string pictureFile = EnsureTrailingBackslash(CurrentFolder(), isLeadByte) + "Startup.bmp";
     if (NormalFileExists(pictureFile)) {
         picture = LoadPicture(pictureFile);
         ShowPicture();
@@ -550,7 +551,7 @@ void frmMain::LoadSystem(const std::string& fileName) {
     SetLabel(Label1, title);
     Form_Resize(); // title and picture are centred by their own widths
     TreeView1.Fill(std::move(definition.entries));
-    hostLink.SendHostCommand(StartSystem(SystemCode(fileName)));
+    hostLink.SendHostCommand(StartSystem(SystemCode(fileName, isLeadByte)));
 }
 
 void frmMain::RunSelectedProgram() {

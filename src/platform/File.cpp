@@ -2,6 +2,7 @@
 
 #include "common/Lines.h"
 #include "platform/Failure.h"
+#include "platform/Workstation.h"
 
 #include <algorithm>
 #include <array>
@@ -35,7 +36,7 @@ HANDLE Open(const std::string& path, File::Use use) {
 
 // An empty file with a name of its own in the folder of `path`: other workstations save at the same moment.
 std::string CreateFileBeside(const std::string& path) {
-    const auto nameStart = path.rfind('\\') + 1;
+    const auto nameStart = FindLastCharacter(path, '\\', CodePageLeadByteTest()) + 1;
     const std::string folder = nameStart == 0 ? "." : path.substr(0, nameStart);
     std::array<char, MAX_PATH> name;
     if (GetTempFileNameA(folder.c_str(), "Obr", 0, name.data()) == 0)

@@ -1,8 +1,8 @@
 #include "platform/Folder.h"
 
-#include "common/Text.h"
 #include "platform/Failure.h"
 #include "platform/Handle.h"
+#include "platform/Workstation.h"
 
 #include <array>
 
@@ -34,7 +34,8 @@ std::vector<std::string> ListNormalFiles(const std::string& folder) {
     constexpr DWORD unlisted = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
     std::vector<std::string> names;
     WIN32_FIND_DATAA entry;
-    const HANDLE found = FindFirstFileA((EnsureTrailingBackslash(folder) + "*").c_str(), &entry);
+    const HANDLE found =
+        FindFirstFileA((EnsureTrailingBackslash(folder, CodePageLeadByteTest()) + "*").c_str(), &entry);
     if (found == INVALID_HANDLE_VALUE) {
         if (GetLastError() == ERROR_FILE_NOT_FOUND) // an empty drive root
             return names;

@@ -11,6 +11,14 @@ std::string UpperCase(std::string text) {
     return text;
 }
 
+LeadByteTest CodePageLeadByteTest() {
+    CPINFO page{};
+    GetCPInfo(CP_ACP, &page);
+    if (page.LeadByte[0] == 0)
+        return nullptr;
+    return [](char byte) { return IsDBCSLeadByte(static_cast<BYTE>(byte)) != FALSE; };
+}
+
 std::string LoginName() {
     std::array<char, 100> buffer{};
     DWORD size = buffer.size();

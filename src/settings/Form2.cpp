@@ -4,6 +4,7 @@
 #include "common/Text.h"
 #include "platform/Failure.h"
 #include "platform/File.h"
+#include "platform/Workstation.h"
 #include "resources/Ids.h"
 #include "settings/Margins.h"
 #include "settings/SettingsStore.h"
@@ -294,7 +295,8 @@ void Form2::SaveSettings() const {
 
 void Form2::LoadSettings() {
     const std::string lastSystem = corvel.GetRegValue(HKEY_LOCAL_MACHINE, registryKey, "LastSystem");
-    SetWindowTextA(Item(IDC_TXT_SYSTEM), lastSystem.substr(0, 2).c_str());
+    SetWindowTextA(Item(IDC_TXT_SYSTEM),
+                   std::string(FirstCharacters(lastSystem, 2, CodePageLeadByteTest())).c_str());
     const LoadedSettings loaded = LoadSystemSettings(IniPath);
     for (std::size_t i = 0; i < settings.size(); ++i) {
         if (loaded[i])

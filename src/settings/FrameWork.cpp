@@ -1,7 +1,5 @@
 #include "settings/FrameWork.h"
 
-#include "common/Text.h"
-
 namespace obrin {
 
 namespace {
@@ -11,7 +9,8 @@ namespace {
 bool Walk(const std::string& path, std::size_t root, bool create, const FolderCalls& folders) {
     if (root == std::string::npos)
         return false;
-    for (auto end = path.find('\\', root + 1); end != std::string::npos; end = path.find('\\', end + 1)) {
+    const auto next = [&](std::size_t start) { return FindCharacter(path, '\\', folders.isLeadByte, start); };
+    for (auto end = next(root + 1); end != std::string::npos; end = next(end + 1)) {
         const std::string folder = path.substr(0, end + 1);
         if (folders.exists(folder))
             continue;
@@ -25,19 +24,21 @@ bool Walk(const std::string& path, std::size_t root, bool create, const FolderCa
 } // namespace
 
 bool EnsurePath(const std::string& path, bool create, const FolderCalls& folders) {
-    const auto lastComponent = path.rfind('\\') + 1; // 0 when there is no "\"
+    const auto lastComponent =
+        FindLastCharacter(path, '\\', folders.isLeadByte) + 1; // 0 when there is no "\"
     const bool namesFile = path.find('.', lastComponent) != std::string::npos;
-    const std::string folder = EnsureTrailingBackslash(namesFile ? path.substr(0, lastComponent) : path);
+    const std::string folder =
+        EnsureTrailingBackslash(namesFile ? path.substr(0, lastComponent) : path, folders.isLeadByte);
     return folder.starts_with("\\\\") ? EnsurePathUnc(folder, create, folders)
                                       : EnsurePathLocal(folder, create, folders);
 }
 
 bool EnsurePathUnc(const std::string& path, bool create, const FolderCalls& folders) {
-    return Walk(path, path.find('\\', 2), create, folders);
+    return Walk(path, FindCharacter(path, '\\', folders.isLeadByte, 2), create, folders);
 }
 
 bool EnsurePathLocal(const std::string& path, bool create, const FolderCalls& folders) {
-    return Walk(path, path.find('\\'), create, folders);
+    return Walk(path, FindCharacter(path, '\\', folders.isLeadByte), create, folders);
 }
 
 } // namespace obrin

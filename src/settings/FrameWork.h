@@ -2,6 +2,8 @@
 // separator.
 #pragma once
 
+#include "common/Text.h"
+
 #include <functional>
 #include <string>
 
@@ -11,6 +13,7 @@ namespace obrin {
 struct FolderCalls {
     std::function<bool(const std::string& folder)> exists;
     std::function<void(const std::string& folder)> create; ///< one level; throws when it cannot
+    LeadByteTest isLeadByte = nullptr;                     ///< in the names of folders
 };
 
 /// Whether every folder of the path exists afterwards; missing ones are made when `create` is set. The path

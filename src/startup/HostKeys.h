@@ -11,8 +11,9 @@
 namespace obrin {
 
 /// The key codes of a command, in order. A "\" is the key 220, CR LF is one Enter key (13) like a lone CR,
-/// every other character is its own upper-case ANSI code, 0 to 255.
-std::vector<std::uint8_t> HostKeyCodes(std::string command, UpperCaser upperCase);
+/// every other character is its own upper-case ANSI code, 0 to 255; one of two bytes is two codes, as windows
+/// are told of it.
+std::vector<std::uint8_t> HostKeyCodes(std::string command, UpperCaser upperCase, LeadByteTest isLeadByte);
 
 /// The lines that load a program of the host and run it.
 std::string LoadAndRun(std::string_view program);

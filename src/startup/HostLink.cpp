@@ -24,7 +24,7 @@ void HostLink::StartHost(HWND menu, std::int16_t wsid) {
 }
 
 void HostLink::SendHostCommand(std::string command) {
-    for (const WPARAM code : HostKeyCodes(std::move(command), UpperCase)) {
+    for (const WPARAM code : HostKeyCodes(std::move(command), UpperCase, CodePageLeadByteTest())) {
         pending.push_back({WM_KEYDOWN, code});
         pending.push_back({WM_KEYUP, code});
     }

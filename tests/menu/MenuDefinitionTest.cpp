@@ -5,13 +5,24 @@
 #include <gtest/gtest.h>
 
 namespace obrin {
+namespace {
+
+// Of a made-up code page.
+bool IsLeadByte(char byte) {
+    return byte == '\x81';
+}
 
 TEST(MenuDefinition, TakesTheTitleFromTheHeaderLine) {
-    EXPECT_EQ(ParseMenuDefinition("Utility Billing^x^y\r\n", "UB.mnu").title, "Utility Billing");
-    EXPECT_EQ(ParseMenuDefinition("  Payroll \r\n", "PR.mnu").title, "  Payroll ");
-    EXPECT_EQ(ParseMenuDefinition("\r\n", "XX.mnu").title, "");
-    EXPECT_EQ(SystemCode("UB.mnu"), "UB");
-    EXPECT_EQ(SystemCode("U"), "U");
+    const std::pair<const char*, const char*> cases[] = {{"Utility Billing^x^y", "Utility Billing"},
+                                                         {"  Payroll ", "  Payroll "},
+                                                         {"", ""},
+                                                         {"\x81^T^x", "\x81^T"}}; // a character of two bytes
+    for (const auto& [line, title] : cases) {
+        EXPECT_EQ(HeaderTitle(line, IsLeadByte), title);
+        EXPECT_EQ(ParseMenuDefinition(std::string(line) + "\r\n", "UB.mnu", IsLeadByte).title, title);
+    }
+    EXPECT_EQ(SystemCode("UB.mnu", nullptr), "UB");
+    EXPECT_EQ(SystemCode("U\x81\x81.mnu", IsLeadByte), "U\x81\x81");
     EXPECT_TRUE(IsMenuFileName("A.mnu"));
     for (const char* name : {".mnu", "C.MNU", "A.Mnu", "b.txt", "mnu", "A.mnu.bak", ""})
         EXPECT_FALSE(IsMenuFileName(name)) << name;
@@ -31,11 +42,12 @@ TEST(MenuDefinition, LinesBecomeNodes) {
         {"A\r\n>B\r\nC\r\n>D\r\n>>E^K\r\n", "A||0 B||1 C||0 D||3 E|K|4 "},
         {"A^k\r\nB^K", "A|k|0 B|K|0 "},
         {"A\nB\rC", "A\nB||0 C||0 "},
+        {"\x81^\r\n>\x81^^UB\\\x81\x5C^x", "\x81^||0 \x81^|UB\\\x81\x5C|1 "},
     };
     for (const auto& [lines, expected] : cases) {
         std::string nodes;
         for (const auto& [text, key, parent] :
-             ParseMenuDefinition(std::string("T\r\n") + lines, "UB.mnu").entries)
+             ParseMenuDefinition(std::string("T\r\n") + lines, "UB.mnu", IsLeadByte).entries)
             nodes += text + "|" + key + "|" + std::to_string(parent) + " ";
         EXPECT_EQ(nodes, expected);
     }
@@ -45,7 +57,7 @@ TEST(MenuDefinition, IsRefusedWithFileAndLine) {
     std::string most = "T\r";
     for (int i = 0; i < 32767; ++i)
         most += "A\r";
-    EXPECT_EQ(ParseMenuDefinition(most, "UB.mnu").entries.size(), 32767U);
+    EXPECT_EQ(ParseMenuDefinition(most, "UB.mnu", IsLeadByte).entries.size(), 32767U);
     const std::string level = "there is no heading one level above this entry";
     struct {
         std::string file;
@@ -63,7 +75,7 @@ TEST(MenuDefinition, IsRefusedWithFileAndLine) {
     };
     for (const auto& [file, error, doing] : cases) {
         try {
-            ParseMenuDefinition(file, "UB.mnu");
+            ParseMenuDefinition(file, "UB.mnu", nullptr);
             ADD_FAILURE() << doing;
         } catch (const RunTimeError& raised) {
             EXPECT_EQ(raised.Code(), static_cast<std::uint32_t>(error));
@@ -72,4 +84,5 @@ TEST(MenuDefinition, IsRefusedWithFileAndLine) {
     }
 }
 
+} // namespace
 } // namespace obrin

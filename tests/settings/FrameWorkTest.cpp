@@ -16,7 +16,8 @@ std::string Walk(const std::string& path, bool create, bool allThere) {
                                            record += " ?" + folder;
                                            return allThere;
                                        },
-                                   .create = [&](const std::string& folder) { record += " +" + folder; }});
+                                   .create = [&](const std::string& folder) { record += " +" + folder; },
+                                   .isLeadByte = [](char byte) { return byte == '\x81'; }});
     return record + (there ? " there" : " missing");
 }
 
@@ -34,6 +35,8 @@ TEST(EnsurePath, LooksAtEachFolderOutermostFirstAndMakesWhatIsMissing) {
         {R"(\\server\share\Ini\a.ini)", {R"(\\server\share\)", R"(\\server\share\Ini\)"}},
         {R"(\\server\share)", {R"(\\server\share\)"}},
         {R"(\\server)", {}},
+        {"C:\\\x81\\\\b\x81\\.c", {"C:\\\x81\\\\"}}, // characters of two bytes, which separate nothing
+        {"\\\\\x81\\\\\x81\\", {"\\\\\x81\\\\\x81\\\\"}},
     };
     for (const auto& [path, probed] : cases) {
         std::string looked, made;

@@ -19,10 +19,13 @@ std::string GreekUpper(std::string text) {
 }
 
 TEST(HostKeys, AreUnsignedUpperCaseCodes) {
-    EXPECT_EQ(HostKeyCodes("aZ9 .\xFF", GreekUpper), (Codes{'A', 'Z', '9', ' ', '.', 0xFF}));
-    EXPECT_EQ(HostKeyCodes("\xDC\\b\\", GreekUpper), (Codes{0xA2, 220, 'B', 220}));
-    EXPECT_EQ(HostKeyCodes("a\r\nb\rc\nd\r\r\n", GreekUpper),
+    EXPECT_EQ(HostKeyCodes("aZ9 .\xFF", GreekUpper, nullptr), (Codes{'A', 'Z', '9', ' ', '.', 0xFF}));
+    EXPECT_EQ(HostKeyCodes("\xDC\\b\\", GreekUpper, nullptr), (Codes{0xA2, 220, 'B', 220}));
+    EXPECT_EQ(HostKeyCodes("a\r\nb\rc\nd\r\r\n", GreekUpper, nullptr),
               (Codes{'A', 13, 'B', 13, 'C', 10, 'D', 13, 13}));
+    EXPECT_EQ(HostKeyCodes("\x81\\\\\x81\r\\", GreekUpper, [](char byte) { return byte == '\x81'; }),
+              (Codes{0x81, 0x5C, 220, 0x81, 13, 220}))
+        << "a character of two bytes is typed as they are";
 }
 
 TEST(HostKeys, NumberIsPlainPaddedOrBehindABlank) {
