@@ -8,7 +8,8 @@ if(WIN32)
   # Windows 10: the calls for windows of different DPI.
   add_compile_definitions(_WIN32_WINNT=0x0A00 NOMINMAX WIN32_LEAN_AND_MEAN)
   # Static: MinGW's three run-time DLLs are on no workstation. Stripped: symbols double the size.
-  add_link_options(-fstack-protector-strong -static -s -Wl,--gc-sections -Wl,--no-insert-timestamp)
+  add_link_options(-fstack-protector-strong -static -s -Wl,--gc-sections -Wl,--no-insert-timestamp
+    -Wl,--major-subsystem-version,10,--minor-subsystem-version,0) # no older Windows starts it
 
   find_program(GENPEIMG genpeimg REQUIRED)
 

@@ -9,6 +9,9 @@
 #include <objbase.h>
 
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
+    // Whatever is loaded from here on comes from the system's folder: this one is open to every operator. The
+    // suite's own library is asked for by its place.
+    SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
     return obrin::AtBoundary([] {
         const obrin::SupportLibrary corvel;
         // The shell opens documents and shortcuts through components that need it.

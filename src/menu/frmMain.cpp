@@ -13,6 +13,7 @@
 #include "platform/Font.h"
 #include "platform/Picture.h"
 #include "platform/Shell.h"
+#include "platform/Theme.h"
 #include "platform/Workstation.h"
 #include "resources/Ids.h"
 #include "settings/Form2.h"
@@ -54,12 +55,10 @@ void PaintFrame(HWND frame) {
     const HDC screen = BeginPaint(frame, &paint);
     RECT inner;
     GetClientRect(frame, &inner);
-    HDC buffer = nullptr;
-    const HPAINTBUFFER painting = BeginBufferedPaint(screen, &inner, BPBF_COMPATIBLEBITMAP, nullptr, &buffer);
-    const HDC target = painting != nullptr ? buffer : screen;
-    FillRect(target, &inner, GetSysColorBrush(COLOR_BTNFACE));
-    DefSubclassProc(frame, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(target), PRF_CLIENT);
-    EndBufferedPaint(painting, TRUE);
+    PaintBuffered(screen, inner, [&](HDC target) {
+        FillRect(target, &inner, GetSysColorBrush(COLOR_BTNFACE));
+        DefSubclassProc(frame, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(target), PRF_CLIENT);
+    });
     EndPaint(frame, &paint);
 }
 

@@ -4,12 +4,11 @@
 #include "common/Text.h"
 #include "platform/Failure.h"
 #include "platform/File.h"
+#include "platform/Theme.h"
 #include "platform/Workstation.h"
 #include "resources/Ids.h"
 #include "settings/Margins.h"
 #include "settings/SettingsStore.h"
-
-#include <uxtheme.h>
 
 namespace obrin {
 
@@ -102,7 +101,7 @@ void Form2::Form_Load() {
 INT_PTR CALLBACK Form2::PageProcedure(HWND page, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_INITDIALOG:
-        EnableThemeDialogTexture(page, ETDT_ENABLETAB); // the background of the tab strip
+        UseTabBackground(page);
         return FALSE;
     case WM_COMMAND:
     case WM_HSCROLL:

@@ -4,8 +4,12 @@
 #include "platform/Picture.h"
 #include "platform/ScratchFolder.h"
 #include "platform/SupportLibrary.h"
+#include "platform/Workstation.h"
 
 #include <gtest/gtest.h>
+
+#include <array>
+#include <set>
 
 namespace obrin {
 
@@ -22,6 +26,35 @@ TEST(SupportLibrary, KeepsTextsInTheRegistry) {
     EXPECT_EQ(corvel.GetRegValue(HKEY_LOCAL_MACHINE, key, "Number"), "") << "no text";
     machine.Set(key, "Open", REG_SZ, "abc"); // stored without its NUL
     EXPECT_EQ(corvel.GetRegValue(HKEY_LOCAL_MACHINE, key, "Open"), "abc");
+}
+
+TEST(Images, AreForWindows10AndTakeNothingFromTheirOwnFolder) {
+    // Loaded by Windows from the system's folder, whatever lies in the program's; the last one by the
+    // manifest.
+    const std::set<std::string> known{"ADVAPI32.DLL", "GDI32.DLL",    "KERNEL32.DLL", "MSVCRT.DLL",
+                                      "OLE32.DLL",    "OLEAUT32.DLL", "SHELL32.DLL",  "SHLWAPI.DLL",
+                                      "USER32.DLL",   "COMCTL32.DLL"};
+    for (const char* name : {"ObrinMenu.exe", "Corvel.dll"}) {
+        std::array<char, MAX_PATH> own;
+        GetModuleFileNameA(nullptr, own.data(), own.size());
+        const auto file = std::filesystem::path(own.data()).replace_filename(name).string();
+        const auto* base =
+            reinterpret_cast<const char*>(LoadLibraryExA(file.c_str(), nullptr, DONT_RESOLVE_DLL_REFERENCES));
+        ASSERT_NE(base, nullptr) << file;
+        const auto* dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(base);
+        const auto* headers = reinterpret_cast<const IMAGE_NT_HEADERS*>(base + dos->e_lfanew);
+        const IMAGE_OPTIONAL_HEADER& optional = headers->OptionalHeader;
+        EXPECT_EQ(optional.MajorSubsystemVersion, 10);
+        EXPECT_EQ(optional.MinorSubsystemVersion, 0);
+        EXPECT_EQ(optional.DllCharacteristics,
+                  IMAGE_DLLCHARACTERISTICS_DYNAMIC_BASE | IMAGE_DLLCHARACTERISTICS_NX_COMPAT |
+                      (sizeof(void*) == 8 ? IMAGE_DLLCHARACTERISTICS_HIGH_ENTROPY_VA : 0));
+        EXPECT_TRUE(headers->FileHeader.Characteristics & IMAGE_FILE_NET_RUN_FROM_SWAP);
+        for (const auto* import = reinterpret_cast<const IMAGE_IMPORT_DESCRIPTOR*>(
+                 base + optional.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT].VirtualAddress);
+             import->Name != 0; ++import)
+            EXPECT_TRUE(known.contains(UpperCase(base + import->Name))) << base + import->Name;
+    }
 }
 
 TEST(Picture, IsScaledWithTheScreen) {
