@@ -126,13 +126,17 @@ void frmUpdate::Form_Resize() {
 void frmUpdate::CopyFiles() {
     const auto show = [this](const char* what) {
         SetWindowTextA(Label1, (std::string("Updating:\r\n") + what).c_str());
+        // Now: a copy can take minutes, and nothing is painted meanwhile.
+        RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
     };
     const LeadByteTest isLeadByte = CodePageLeadByteTest();
     for (const auto& [source, destination] : updateFiles) {
+        // Gone at the end of the Windows session, in the events below: the update is made at the next start.
+        if (!IsWindow(window))
+            return;
         show(destination);
         CopyUnexamined(source,
                        EnsureTrailingBackslash(EnvironmentVariable("Tessel"), isLeadByte) + destination);
-        // The end of the Windows session may destroy the window in here; texts set on it then go nowhere.
         ProcessPendingEvents();
     }
     show("Complete");

@@ -37,6 +37,7 @@ protected:
     }
 
     static inline std::vector<std::string> captions; // in order, without their first line
+    static inline bool paintedBeforeCopy = false;
 
 private:
     static LRESULT CALLBACK Watch(int code, WPARAM wParam, LPARAM lParam) {
@@ -47,6 +48,9 @@ private:
             captions.push_back(caption.substr(11));
             onCaption(GetParent(message.hwnd), captions.size());
         }
+        // Later captions are drawn by the label itself, when it gets them.
+        if (code == HC_ACTION && message.message == WM_PAINT && captions.size() == 1)
+            paintedBeforeCopy = paintedBeforeCopy || !FileExists("Local\\Tessel.exe");
         return CallNextHookEx(nullptr, code, wParam, lParam);
     }
 
@@ -64,6 +68,7 @@ TEST_F(UpdateWindow, CopiesOnceAndAgainOnEveryResizeAndEntersTheWorkstation) {
             Okay(window, shown);
     });
     ASSERT_EQ(captions.size(), 18U);
+    EXPECT_TRUE(paintedBeforeCopy) << "a copy may take minutes";
     for (std::size_t i = 0; i < captions.size(); ++i)
         EXPECT_EQ(captions[i], i % 6 == 5 ? "Complete" : names[i % 6]);
     for (const char* name : names)
@@ -89,6 +94,8 @@ TEST_F(UpdateWindow, EndOfTheMenuWhileCopyingEntersNothing) {
             DestroyWindow(owner);
     });
     EXPECT_EQ(ReadFileBytes("Updated.txt"), "");
+    EXPECT_TRUE(FileExists("Local\\Sweeper.exe"));
+    EXPECT_FALSE(FileExists("Local\\Notebox.exe")) << "not begun";
 }
 
 } // namespace
