@@ -10,18 +10,24 @@ usage() {
 usage: ./demo.sh
   Builds the 64-bit programs, makes a demonstration installation below build/demo and starts the menu in it, on
   this desktop. What is done there is kept for the next time; remove build/demo to start over.
-usage: ./demo.sh --screenshot FILE [--dpi N] [--size WxH] [--do SCRIPT]
+usage: ./demo.sh --screenshot FILE [--dpi N] [--size WxH] [--do SCRIPT] [--without-host]
   Does the same as a new user on a hidden desktop, takes a picture of what is on the screen and closes the menu.
   --dpi N      the screen's resolution as Windows programs see it (96)
   --size WxH   the menu window's size in pixels, without its frame
   --do SCRIPT  bash script to run before the picture, to open a menu or a dialog; xdotool reaches the display, and
                MENU_WINDOW is the menu's window
+  --without-host  in an installation whose host is missing: the notice that the menu waits for it
 TEXT
 }
 
-picture='' dpi=96 size='' script=''
+picture='' dpi=96 size='' script='' without_host=false
 while (($# > 0)); do
   case $1 in
+    --without-host)
+      without_host=true
+      shift
+      continue
+      ;;
     --screenshot) picture=$(realpath -m "${2:?--screenshot needs a file}") ;;
     --dpi) dpi=${2:?--dpi needs a number} ;;
     --size) size=${2:?--size needs WxH} ;;
@@ -35,7 +41,7 @@ if [[ ! $dpi =~ ^[1-9][0-9]*$ || ! $size =~ ^([1-9][0-9]*x[1-9][0-9]*)?$ ]]; the
   usage >&2
   exit 64
 fi
-if [[ -z $picture && (-n $size || -n $script || $dpi != 96) ]]; then
+if [[ -z $picture && (-n $size || -n $script || $dpi != 96 || $without_host == true) ]]; then
   usage >&2
   exit 64
 fi
@@ -87,7 +93,7 @@ reach_menu() {
     xdotool key Return
     wait_until 2 question_is_gone || true
   fi
-  window_titled 'Obrin System Menu'
+  window_titled "$first_window"
 }
 
 menu_has_size() {
@@ -124,7 +130,7 @@ take_picture() {
   (cd build/screenshot/host && run_wine ./ObrinMenu.exe) </dev/null >/dev/null 2>&1 &
   menu_process=$!
   wait_until 40 reach_menu || give_up "The menu did not appear" || return
-  MENU_WINDOW=$(window_titled 'Obrin System Menu') || return
+  MENU_WINDOW=$(window_titled "$first_window") || return
   export MENU_WINDOW
   if [[ -n $size ]]; then
     xdotool windowsize "$MENU_WINDOW" "${size%x*}" "${size#*x}"
@@ -154,6 +160,11 @@ else
   end_prefix
   rm -rf build/screenshot "$wine_folder/screenshot"
   make_installation screenshot
+  first_window='Obrin System Menu'
+  if $without_host; then
+    rm build/screenshot/host/Fenn.exe
+    first_window='Waiting for Fenn'
+  fi
   make_prefix screenshot
   printf '\n[Control Panel\\\\Desktop]\n"LogPixels"=dword:%08x\n' "$dpi" >>"$WINEPREFIX/pristine/user.reg"
   mkdir -p "$(dirname "$picture")"

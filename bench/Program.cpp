@@ -1,5 +1,6 @@
 #include "Program.h"
 
+#include "menu/frmMain.h"
 #include "platform/Failure.h"
 #include "startup/HostLink.h"
 

@@ -13,7 +13,6 @@
 #include "platform/Events.h"
 #include "platform/Failure.h"
 #include "platform/File.h"
-#include "platform/SupportLibrary.h"
 #include "platform/Workstation.h"
 #include "resources/Ids.h"
 #include "startup/HostLink.h"
@@ -206,8 +205,7 @@ std::vector<Row> MeasureResizing() {
     RefuseOpenHost();
     const Installation installation(OwnFolder() + "Fenn.exe");
     SetEnvironmentVariableA("FENN_START_DELAY_MS", "0");
-    const SupportLibrary corvel;
-    frmMain menu(corvel);
+    frmMain menu;
 
     menu.Show();
     const UniqueFile host = ProcessOf(FindWindowA(hostWindowClass, nullptr));

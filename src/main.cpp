@@ -3,7 +3,6 @@
 #include "menu/frmMain.h"
 #include "platform/Events.h"
 #include "platform/Failure.h"
-#include "platform/SupportLibrary.h"
 #include "startup/StartUp.h"
 
 #include <objbase.h>
@@ -13,18 +12,17 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
     // suite's own library is asked for by its place.
     SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
     return obrin::AtBoundary([] {
-        const obrin::SupportLibrary corvel;
         // The shell opens documents and shortcuts through components that need it.
         CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE);
         const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_WIN95_CLASSES};
         InitCommonControlsEx(&controls);
 
-        obrin::frmMain menu(corvel);
+        obrin::frmMain menu;
         bool shown = false;
-        obrin::Main([&] {
-            menu.Show();
-            shown = true;
-        });
-        return shown ? obrin::RunEvents(menu.Window()) : 0;
+        obrin::Main({.windowClass = obrin::menuWindowClass, .caption = obrin::menuCaption, .show = [&] {
+                         menu.Show();
+                         shown = true;
+                     }});
+        return shown ? obrin::RunEvents() : 0;
     });
 }

@@ -69,6 +69,9 @@ void MenuTree::Fill(std::vector<MenuEntry> entries) {
                 throw RunTimeError(ERROR_NOT_ENOUGH_MEMORY, "Adding " + entry.text + " to the tree");
         }
     }
+    // A tree view selects its first node when it gets the keyboard; without a selection its keys do nothing.
+    if (!nodes.empty() && GetFocus() == window)
+        Send(window, TVM_SELECTITEM, TVGN_CARET, items[1]);
 }
 
 HTREEITEM MenuTree::Selected() const {

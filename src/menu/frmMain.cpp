@@ -26,7 +26,6 @@ namespace obrin {
 
 namespace {
 
-constexpr const char* className = "ObrinMenu.frmMain";
 constexpr const char* registryKey = "Software\\Obrin";
 constexpr const char* lastSystemValue = "LastSystem";
 // Runs the selected program once the tree has finished with the event that asks for it: the update and the
@@ -73,11 +72,11 @@ void frmMain::Show() {
     windowClass.hCursor = nullptr; // OnSetCursor answers for the whole window
     windowClass.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
     windowClass.lpszMenuName = MAKEINTRESOURCEA(IDR_MENU_BAR);
-    windowClass.lpszClassName = className;
+    windowClass.lpszClassName = menuWindowClass;
     RegisterClassExA(&windowClass);
     // Without a caption until a system is shown: a second menu that is started meanwhile must not find and
     // show an empty window.
-    if (CreateWindowExA(WS_EX_CONTROLPARENT, className, "", windowStyle, CW_USEDEFAULT, CW_USEDEFAULT,
+    if (CreateWindowExA(WS_EX_CONTROLPARENT, menuWindowClass, "", windowStyle, CW_USEDEFAULT, CW_USEDEFAULT,
                         CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr, Instance(), this) == nullptr)
         ThrowLastError("Creating the menu window");
     CreateControls();
@@ -133,7 +132,8 @@ LRESULT frmMain::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         }
         break;
     case runSelected:
-        if (!IsEndingWithError()) // whose box lets posted messages through
+        // A second one may have been queued behind the one at work, whose dialog or error lets it through.
+        if (IsWindowEnabled(window))
             RunSelectedProgram();
         return 0;
     case WM_CLOSE:
@@ -215,6 +215,8 @@ bool frmMain::Form_Load() {
             return false;
         SetLabel(Label2, UserCaption(loginName));
         SetLabel(Label3, WsidCaption(wsid));
+        // Ahead of the host: it would stay behind, hidden, when the library is missing.
+        corvel.emplace();
         hostLink.StartHost(window, wsid);
         if (!IsWindow(window))
             return false;
@@ -223,7 +225,7 @@ bool frmMain::Form_Load() {
     WriteFileBytes(MarkerFileName(wsid), "");
 
     const std::string lastSystem(
-        TrimBlanks(corvel.GetRegValue(HKEY_LOCAL_MACHINE, registryKey, lastSystemValue)));
+        TrimBlanks(corvel->GetRegValue(HKEY_LOCAL_MACHINE, registryKey, lastSystemValue)));
     if (!lastSystem.empty() && FileExists(lastSystem)) {
         LoadSystem(lastSystem);
     } else {
@@ -310,7 +312,7 @@ void frmMain::Form_Unload() {
     hostLink.SendHostCommand("Run Core\\Exit\r");
     // Closed before any system was shown, there is none to remember: the earlier one stays remembered.
     if (!currentSystem.empty())
-        corvel.SetRegValue(HKEY_LOCAL_MACHINE, registryKey, lastSystemValue, currentSystem);
+        corvel->SetRegValue(HKEY_LOCAL_MACHINE, registryKey, lastSystemValue, currentSystem);
     DeleteFileA(MarkerFileName(wsid).c_str());
     DestroyWindow(window);
 }
@@ -476,21 +478,30 @@ void frmMain::Command1_Click() {
 }
 
 void frmMain::TreeView1_RightMouseDown() {
-    if (!rightClickLatch) {
-        // A left click selects the node under the pointer; the right click behind it comes back here.
-        constexpr DWORD left = MOUSEEVENTF_LEFTDOWN | MOUSEEVENTF_LEFTUP;
-        constexpr DWORD right = MOUSEEVENTF_RIGHTDOWN | MOUSEEVENTF_RIGHTUP;
-        // The flags name the buttons of the mouse, which a left-handed user has swapped.
-        const bool swapped = GetSystemMetrics(SM_SWAPBUTTON) != 0;
-        mouse_event(swapped ? right : left, 0, 0, 0, 0);
-        mouse_event(swapped ? left : right, 0, 0, 0, 0);
-        rightClickLatch = true;
-        return;
-    }
-    rightClickLatch = false;
     POINT pointer;
     GetCursorPos(&pointer);
-    PopUp(pointer.x, pointer.y);
+    if (rightClickLatch) {
+        // By the click's own time: it may be handled late.
+        const auto age = static_cast<LONG>(static_cast<DWORD>(GetMessageTime()) - *rightClickLatch);
+        if (age < 0)
+            return; // made before the latch was set: the clicks put in then are still to come
+        rightClickLatch.reset();
+        if (static_cast<DWORD>(age) <= GetDoubleClickTime()) {
+            PopUp(pointer.x, pointer.y);
+            return;
+        }
+    }
+    // Clicks land where the pointer is by now, and this one may be handled late.
+    if (WindowFromPoint(pointer) != TreeView1.Window())
+        return;
+    rightClickLatch = GetTickCount();
+    // A left click selects the node under the pointer; the right click behind it comes back here.
+    constexpr DWORD left = MOUSEEVENTF_LEFTDOWN | MOUSEEVENTF_LEFTUP;
+    constexpr DWORD right = MOUSEEVENTF_RIGHTDOWN | MOUSEEVENTF_RIGHTUP;
+    // The flags name the buttons of the mouse, which a left-handed user has swapped.
+    const bool swapped = GetSystemMetrics(SM_SWAPBUTTON) != 0;
+    mouse_event(swapped ? right : left, 0, 0, 0, 0);
+    mouse_event(swapped ? left : right, 0, 0, 0, 0);
 }
 
 void frmMain::TreeView1_MenuKey() {
@@ -518,7 +529,7 @@ void frmMain::PopUp(int x, int y) {
 
 void frmMain::mnuTreeView_Click(int item) {
     if (item == ID_TREE_PROPERTIES)
-        Form2(corvel, propertiesKey).Show(window);
+        Form2(*corvel, propertiesKey).Show(window);
     else
         MessageBoxA(window, "Option not available. In Developement.", "Warning", MB_OK);
 }

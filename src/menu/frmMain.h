@@ -15,10 +15,13 @@
 
 namespace obrin {
 
+/// The menu window's class, and its caption from the first shown system on. A second menu finds it by them.
+constexpr const char* menuWindowClass = "ObrinMenu.frmMain";
+constexpr const char* menuCaption = "Obrin System Menu";
+
 class frmMain {
 public:
-    explicit frmMain(const SupportLibrary& supportLibrary)
-        : corvel(supportLibrary) {}
+    frmMain() = default;
     frmMain(const frmMain&) = delete;
     frmMain& operator=(const frmMain&) = delete;
 
@@ -69,7 +72,7 @@ private:
     void RunHostProgram(std::string_view program);
     void AfterHostCommand();
 
-    const SupportLibrary& corvel;
+    std::optional<SupportLibrary> corvel; // from the load on
     HWND window = nullptr;
     HWND Frame1 = nullptr;
     MenuTree TreeView1;
@@ -93,9 +96,9 @@ private:
     std::int16_t wsid = 0;
     HostLink hostLink;
     std::vector<MenuFile> MnuFiles;
-    std::string currentSystem; // the tag of mnuSystems(99): the menu file shown
-    std::string propertiesKey; // the tag of TreeView1: the program last right-clicked
-    bool rightClickLatch = false;
+    std::string currentSystem;            // the tag of mnuSystems(99): the menu file shown
+    std::string propertiesKey;            // the tag of TreeView1: the program last right-clicked
+    std::optional<DWORD> rightClickLatch; // set while clicks put in by the menu are to come: since when, ms
     bool unloading = false;
 };
 

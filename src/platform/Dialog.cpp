@@ -14,6 +14,14 @@ INT_PTR Dialog::ShowModal(HWND owner, int resource) {
     return result;
 }
 
+void Dialog::ShowModeless(HWND owner, int resource) {
+    const HWND opened = CreateDialogParamA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(resource), owner,
+                                           Procedure, reinterpret_cast<LPARAM>(this));
+    if (opened == nullptr)
+        ThrowLastError("Opening a dialog");
+    ShowWindow(opened, SW_SHOWNOACTIVATE);
+}
+
 INT_PTR CALLBACK Dialog::Procedure(HWND dialogWindow, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_INITDIALOG) {
         SetWindowLongPtrA(dialogWindow, DWLP_USER, lParam);

@@ -17,6 +17,10 @@ public:
     /// because its owner was destroyed: callers check. Throws RunTimeError when it cannot be opened.
     INT_PTR ShowModal(HWND owner, int resource);
 
+    /// Opens the dialog beside whatever else goes on, shown without taking the keyboard; it closes with its
+    /// owner. Throws RunTimeError.
+    void ShowModeless(HWND owner, int resource);
+
 protected:
     ~Dialog() = default;
 

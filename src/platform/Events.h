@@ -11,13 +11,12 @@ namespace obrin {
 /// window: callers check.
 void ProcessPendingEvents();
 
-/// Runs the program's events until it ends; the keyboard moves between the controls of `window`.
-/// Returns the exit code.
-int RunEvents(HWND window);
+/// Runs the program's events until it ends; the keyboard moves between the controls of each window. Returns
+/// the exit code.
+int RunEvents();
 
-/// Tries until `condition` holds, without a time limit, and processes the events that arrive meanwhile.
-/// The tries are about 13 ms apart and run beside the window's thread: the condition throws nothing and looks
-/// at nothing that this thread changes. Returns false when `window` was closed first.
+/// Tries about every 13 ms until `condition` holds, without a time limit, and processes the events that
+/// arrive in between. Returns false when `window` was closed first. Throws RunTimeError.
 bool WaitUntil(HWND window, const std::function<bool()>& condition);
 
 /// Processes events until `window` is closed.

@@ -6,15 +6,6 @@ namespace obrin {
 
 namespace {
 
-std::string PlatformText(DWORD code) {
-    char text[512];
-    const DWORD length = FormatMessageA(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
-                                        code, 0, text, sizeof text, nullptr);
-    std::string result(text, length);
-    result.erase(result.find_last_not_of("\r\n ") + 1);
-    return result.empty() ? "Error " + std::to_string(code) : result;
-}
-
 bool ending = false;
 
 [[noreturn]] void End(DWORD code, const char* doing) noexcept {
@@ -26,6 +17,15 @@ bool ending = false;
 }
 
 } // namespace
+
+std::string PlatformText(DWORD code) {
+    char text[512];
+    const DWORD length = FormatMessageA(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
+                                        code, 0, text, sizeof text, nullptr);
+    std::string result(text, length);
+    result.erase(result.find_last_not_of("\r\n ") + 1);
+    return result.empty() ? "Error " + std::to_string(code) : result;
+}
 
 void ThrowLastError(const std::string& doing) {
     throw RunTimeError(GetLastError(), doing);

@@ -11,6 +11,9 @@ namespace obrin {
 /// The title of message boxes that have none of their own.
 constexpr const char* applicationTitle = "ObrinMenu";
 
+/// The platform's sentence for an error code.
+std::string PlatformText(DWORD code);
+
 /// Throws the calling thread's last error with what was being done.
 [[noreturn]] void ThrowLastError(const std::string& doing);
 

@@ -8,8 +8,9 @@
 
 namespace obrin {
 
-/// Closes the handle of a file, a process or another kernel object; INVALID_HANDLE_VALUE never gets this far.
-struct CloseFile {
+/// Closes the handle of a file, a timer, a process or another kernel object; INVALID_HANDLE_VALUE never gets
+/// this far.
+struct CloseKernelObject {
     void operator()(HANDLE handle) const { CloseHandle(handle); }
 };
 struct CloseSearch {
@@ -25,7 +26,8 @@ struct DeleteMemoryDc {
     void operator()(HDC context) const { DeleteDC(context); }
 };
 
-using UniqueFile = std::unique_ptr<void, CloseFile>;
+using UniqueHandle = std::unique_ptr<void, CloseKernelObject>; // of what is no file
+using UniqueFile = UniqueHandle;
 using UniqueSearch = std::unique_ptr<void, CloseSearch>;
 using UniqueFont = std::unique_ptr<std::remove_pointer_t<HFONT>, DeleteGdiObject>;
 using UniqueBitmap = std::unique_ptr<std::remove_pointer_t<HBITMAP>, DeleteGdiObject>;

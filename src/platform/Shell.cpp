@@ -2,8 +2,19 @@
 
 namespace obrin {
 
-void OpenUnexamined(HWND owner, const char* file, const char* parameters) {
-    ShellExecuteA(owner, "open", file, parameters, nullptr, SW_SHOWNORMAL);
+DWORD Open(HWND owner, const char* file, const char* parameters) {
+    SetLastError(0);
+    const auto result =
+        reinterpret_cast<INT_PTR>(ShellExecuteA(owner, "open", file, parameters, nullptr, SW_SHOWNORMAL));
+    constexpr INT_PTR lastRefusal = 32;
+    if (result > lastRefusal)
+        return 0;
+    const DWORD error = GetLastError();
+    return error != 0 ? error : ERROR_GEN_FAILURE;
+}
+
+void OpenUnexamined(HWND owner, const char* file) {
+    Open(owner, file);
 }
 
 } // namespace obrin

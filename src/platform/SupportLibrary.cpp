@@ -13,9 +13,14 @@ constexpr const char* libraryName = "Corvel.dll";
 HMODULE Load() {
     const HMODULE module = LoadLibraryExA(libraryName, nullptr,
                                           LOAD_LIBRARY_SEARCH_APPLICATION_DIR | LOAD_LIBRARY_SEARCH_SYSTEM32);
-    if (module == nullptr)
-        ThrowLastError(std::string("Loading ") + libraryName);
-    return module;
+    if (module != nullptr)
+        return module;
+    if (GetLastError() == ERROR_BAD_EXE_FORMAT) // whose text has a gap in the place of the name
+        throw RunTimeError(PlatformError::InvalidData,
+                           std::string(libraryName) + " is no library for a program of " +
+                               std::to_string(8 * sizeof(void*)) +
+                               " bits. Beside ObrinMenu.exe belongs the one that was delivered with it");
+    ThrowLastError(std::string("Loading ") + libraryName);
 }
 
 template <class Routine>

@@ -9,6 +9,7 @@
 #define IDD_INPUT_BOX 20
 #define IDD_UPDATE 21
 #define IDD_ABOUT 22
+#define IDD_HOST_NOTICE 23
 
 // The Properties dialog and its pages, Frame(1) to Frame(3).
 #define IDD_PROPERTIES 30
@@ -19,6 +20,11 @@
 // Controls; each dialog has its own.
 #define IDC_PROMPT 100
 #define IDC_ANSWER 101
+
+#define IDC_WAITED_FOR 110
+#define IDC_FOLDER 111
+#define IDC_REASON 112
+#define IDC_PROGRESS 113
 
 #define IDC_FRAME1 200
 #define IDC_TREEVIEW1 201

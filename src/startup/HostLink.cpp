@@ -4,26 +4,39 @@
 #include "platform/Shell.h"
 #include "platform/Workstation.h"
 #include "startup/HostKeys.h"
+#include "startup/HostNotice.h"
 
 namespace obrin {
 
 void HostLink::StartHost(HWND menu, std::int16_t wsid) {
-    OpenUnexamined(menu, "Fenn.exe", HostStartArguments(wsid).c_str());
-
-    // Any window of the host will do here, one of another instance too; the caption below is this one's.
-    // The children of this first window tell nothing that is needed, so they are not looked up.
-    if (!WaitUntil(menu, [] { return FindWindowA(hostWindowClass, nullptr) != nullptr; }))
-        return;
-
+    // Waited for all the same when the start is refused: somebody may start it by hand.
+    const DWORD refusal = Open(menu, hostProgram, HostStartArguments(wsid).c_str());
     const std::string caption = StationCaption(wsid);
-    HWND station = nullptr;
-    if (!WaitUntil(menu, [&] { return (station = FindWindowA(nullptr, caption.c_str())) != nullptr; }))
+    HostNotice notice(menu, caption, refusal);
+    HWND found = nullptr;
+    const auto waitFor = [&](const char* windowClass, const char* windowCaption) {
+        return WaitUntil(menu, [&] {
+            found = FindWindowA(windowClass, windowCaption);
+            if (found == nullptr)
+                notice.ShowWhenDue();
+            return found != nullptr;
+        });
+    };
+    // Any window of the host will do first, one of another instance too; the caption behind it is this one's.
+    // The children of that first window tell nothing that is needed, so they are not looked up.
+    if (!waitFor(hostWindowClass, nullptr) || !waitFor(nullptr, caption.c_str()))
         return;
+    const HWND station = found;
     ShowWindow(station, SW_HIDE);
     hostCommandWindow = FindWindowExA(station, nullptr, nullptr, nullptr);
 }
 
 void HostLink::SendHostCommand(std::string command) {
+    // The programs that it starts come to the front; Windows lets only those that the operator's own program
+    // names.
+    DWORD host = 0;
+    if (GetWindowThreadProcessId(hostCommandWindow, &host) != 0)
+        AllowSetForegroundWindow(host);
     for (const WPARAM code : HostKeyCodes(std::move(command), UpperCase, CodePageLeadByteTest())) {
         pending.push_back({WM_KEYDOWN, code});
         pending.push_back({WM_KEYUP, code});

@@ -12,8 +12,8 @@ namespace obrin {
 /// Every top-level window of the host has this class.
 constexpr const char* hostWindowClass = "ZafWindow";
 
-/// The menu window has this caption from the first shown system on; a second menu finds it by it.
-constexpr const char* menuCaption = "Obrin System Menu";
+/// The host, in the installation folder.
+constexpr const char* hostProgram = "Fenn.exe";
 
 class HostLink {
 public:
@@ -21,8 +21,8 @@ public:
         : hostCommandWindow(commandWindow) {}
 
     /// Starts the host for this workstation, waits for its windows without a time limit while the events of
-    /// `menu` are processed, and hides it. The link stands when it returns, unless `menu` was closed
-    /// meanwhile.
+    /// `menu` are processed, and hides it. A wait of more than a moment is told to the operator. The link
+    /// stands when it returns, unless `menu` was closed meanwhile. Throws RunTimeError.
     void StartHost(HWND menu, std::int16_t wsid);
 
     /// Whether the host's command window has been found. A host that ends later is not noticed.

@@ -38,26 +38,49 @@ bool EndBesideOpenHost() {
     return true;
 }
 
-bool EndAfterShowingOtherMenu() {
-    const HWND menu = FindWindowA(nullptr, menuCaption);
-    if (menu == nullptr)
+BOOL CALLBACK KeepFirstShown(HWND window, LPARAM kept) {
+    // What a box in front has disabled is not what waits for the operator.
+    if (!IsWindowVisible(window) || !IsWindowEnabled(window))
+        return TRUE;
+    *reinterpret_cast<HWND*>(kept) = window;
+    return FALSE;
+}
+
+// What a menu that is still loading shows: the question for its number, that it waits for the host, an error.
+// The menu window itself when it shows nothing yet.
+HWND ShownByLoadingMenu(HWND menu) {
+    HWND shown = menu;
+    EnumThreadWindows(GetWindowThreadProcessId(menu, nullptr), KeepFirstShown,
+                      reinterpret_cast<LPARAM>(&shown));
+    return shown;
+}
+
+bool EndAfterShowingOtherMenu(const MenuWindow& menu) {
+    if (const HWND other = FindWindowA(nullptr, menu.caption)) {
+        // Asked of its thread and not waited for: it may hang.
+        ShowWindowAsync(other, SW_SHOWNORMAL);
+        SetForegroundWindow(other);
+        return true;
+    }
+    // One that has no caption yet. Two menus would start two hosts and type into one.
+    const HWND loading = FindWindowA(menu.windowClass, nullptr);
+    if (loading == nullptr)
         return false;
-    ShowWindow(menu, SW_SHOWNORMAL);
-    SetForegroundWindow(menu);
+    SetForegroundWindow(ShownByLoadingMenu(loading));
     return true;
 }
 
 } // namespace
 
-void Main(const std::function<void()>& showMenu) {
+void Main(const MenuWindow& menu) {
     if (!FileExists("FennConfig.sys")) {
         MessageBoxA(nullptr, "Config File Not found!", "Error!", MB_OK);
         return;
     }
     // Before the test for an open host: the drive line is right from now on, whatever the test says.
     RewriteHostConfiguration();
-    if (!EndBesideOpenHost() && !EndAfterShowingOtherMenu())
-        showMenu();
+    if (!EndBesideOpenHost() && !EndAfterShowingOtherMenu(menu))
+        menu.show();
 }
 
 } // namespace obrin

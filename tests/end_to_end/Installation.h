@@ -58,6 +58,8 @@ public:
     void Press(const std::string& caption, int button) const;
     /// Sends a command or the like to the menu window.
     void Send(UINT message, WPARAM wParam) const { SendMessageA(Menu(), message, wParam, 0); }
+    /// Stops it from handling anything, or lets it go on.
+    void Hang(bool hang) const { hang ? SuspendThread(process.hThread) : ResumeThread(process.hThread); }
     /// Exit code after its end; STILL_ACTIVE when it does not end.
     int ExitCode() const;
 

@@ -20,6 +20,8 @@ namespace {
 constexpr DWORD leftClick = MOUSEEVENTF_LEFTDOWN | MOUSEEVENTF_LEFTUP;
 constexpr DWORD rightClick = MOUSEEVENTF_RIGHTDOWN | MOUSEEVENTF_RIGHTUP;
 
+constexpr const char* noticeTitle = "Waiting for Fenn";
+
 std::string RememberedSystem() {
     return SupportLibrary().GetRegValue(HKEY_LOCAL_MACHINE, "Software\\Obrin", "LastSystem");
 }
@@ -113,7 +115,11 @@ TEST(Launcher, RunsProgramsAndUpdatesTheWorkstationOnce) {
     const HWND tree = launcher.Tree();
 
     // Rows while all is collapsed: 0 "Billing", 1 "Backup".
-    ClickRow(tree, 1, 0, leftClick, 2);
+    ClickRow(tree, 1, 0, leftClick);
+    EXPECT_TRUE(Eventually([&] { return TreeView_GetSelection(tree) != TreeView_GetRoot(tree); }));
+    // The second one is handled by the events of the update that the first one begins.
+    for (int i = 0; i < 2; ++i)
+        PostMessageA(tree, WM_CHAR, VK_RETURN, 0);
     EXPECT_TRUE(Eventually(
         [&] { return launcher.Texts(title).find("Updating:\r\nComplete\n") != std::string::npos; }));
     RECT menu, update;
@@ -128,37 +134,45 @@ TEST(Launcher, RunsProgramsAndUpdatesTheWorkstationOnce) {
     expected.insert(expected.end(), {"LOAD CORE\\PROGRAMS\\CSBACKUP", "RUN"});
     EXPECT_TRUE(installation.HostTypes(expected));
     EXPECT_EQ(ReadFileBytes("Updated.txt"), "001002042");
-    HWND program = nullptr;
-    EXPECT_TRUE(Eventually([&] {
-        return IsWindowVisible(program = FindWindowA("FennProgram", "CORE\\PROGRAMS\\CSBACKUP"));
-    })) << "the operator sees the program";
-    PostMessageA(program, WM_CLOSE, 0, 0);
-    EXPECT_TRUE(Eventually([&] { return !IsWindow(program); }));
+    const auto seesAndCloses = [](const char* name) {
+        HWND program = nullptr;
+        EXPECT_TRUE(Eventually([&] { return IsWindowVisible(program = FindWindowA("FennProgram", name)); }));
+        PostMessageA(program, WM_CLOSE, 0, 0);
+        EXPECT_TRUE(Eventually([&] { return !IsWindow(program); }));
+    };
+    seesAndCloses("CORE\\PROGRAMS\\CSBACKUP");
 
     EXPECT_TRUE(Eventually([&] { return installation.Logged("up") == installation.Logged("down"); }))
         << "each key is let go";
 
-    // A heading runs nothing; Enter and the button run the selected program. No second update.
+    // A heading runs nothing; a double click, Enter and the button run the selected program. No second
+    // update.
     SetForegroundWindow(launcher.Menu());
     const HTREEITEM heading = TreeView_GetRoot(tree);
     TreeView_SelectItem(tree, heading);
     launcher.Send(WM_COMMAND, IDC_COMMAND1);
     TreeView_Expand(tree, heading, TVE_EXPAND);
-    ClickRow(tree, 1, 1, leftClick);
-    EXPECT_TRUE(Eventually([&] { return TreeView_GetSelection(tree) != heading; }));
-    Key(VK_RETURN);
-    expected.insert(expected.end(), {"LOAD UB\\PROGRAMS\\POST", "RUN"});
-    EXPECT_TRUE(installation.HostTypes(expected));
-    launcher.Send(WM_COMMAND, IDC_COMMAND1);
-    expected.insert(expected.end(), {"LOAD UB\\PROGRAMS\\POST", "RUN"});
-    EXPECT_TRUE(installation.HostTypes(expected));
+    const std::function<void()> ways[] = {
+        [&] { ClickRow(tree, 1, 1, leftClick, 2); },
+        [&] {
+            EXPECT_TRUE(KeepsForeground(launcher.Menu()));
+            Key(VK_RETURN);
+        },
+        [&] { launcher.Send(WM_COMMAND, IDC_COMMAND1); },
+    };
+    for (const auto& run : ways) {
+        run();
+        expected.insert(expected.end(), {"LOAD UB\\PROGRAMS\\POST", "RUN"});
+        EXPECT_TRUE(installation.HostTypes(expected));
+        seesAndCloses("UB\\PROGRAMS\\POST");
+    }
     EXPECT_FALSE(launcher.Shown(title));
     EXPECT_EQ(ReadFileBytes("Updated.txt"), "001002042");
 }
 
 TEST(Launcher, SwitchesSystemsAndRemembersTheLast) {
     const Installation installation(5);
-    WriteFileBytes("ZZ.mnu", "  Zoning  ^x\r\nOnly^ZZ\\One\r\n");
+    WriteFileBytes("ZZ.mnu", "  Zoning  ^x\r\nFirst^ZZ\\One\r\nLast^ZZ\\Two\r\n");
     RememberSystem("UB.mnu");
     const Launcher launcher;
     ASSERT_TRUE(installation.HostTypesLast("UB"));
@@ -166,7 +180,13 @@ TEST(Launcher, SwitchesSystemsAndRemembersTheLast) {
     const auto zoning = std::ranges::find(files, "ZZ.mnu", &MenuFile::name) - files.begin();
     launcher.Send(WM_COMMAND, static_cast<WPARAM>(ID_SYSTEMS + zoning));
     EXPECT_EQ(TextOf(GetDlgItem(launcher.Menu(), IDC_LABEL1)), "Zoning");
-    EXPECT_EQ(TreeView_GetCount(launcher.Tree()), 1U);
+    const HWND tree = launcher.Tree();
+    EXPECT_EQ(TreeView_GetCount(tree), 2U);
+    EXPECT_TRUE(KeepsForeground(launcher.Menu()));
+    Key(VK_DOWN);
+    EXPECT_TRUE(Eventually([&] {
+        return TreeView_GetSelection(tree) == TreeView_GetNextSibling(tree, TreeView_GetRoot(tree));
+    })) << "the tree has kept the keyboard";
     launcher.Send(WM_COMMAND, ID_BACKUP);
     launcher.Send(WM_ENDSESSION, TRUE); // the Windows session ends
     EXPECT_EQ(launcher.ExitCode(), 0);
@@ -207,6 +227,10 @@ TEST(Launcher, RightClickSelectsAndOffersThePopup) {
     EXPECT_TRUE(KeepsForeground(launcher.Menu()));
     Key(VK_APPS);
     chooseHelp();
+    // A click that is handled when the pointer is elsewhere: the one after it is a click like any other.
+    SetCursorPos(0, 0);
+    EXPECT_TRUE(KeepsForeground(launcher.Menu()));
+    SendMessageA(tree, WM_RBUTTONDOWN, MK_RBUTTON, 0);
     ClickRow(tree, 0, 0, rightClick); // a heading: selected, without a popup
     EXPECT_TRUE(Eventually([&] { return TreeView_GetSelection(tree) == TreeView_GetRoot(tree); }));
     Key(VK_DOWN); // would go to a popup
@@ -236,7 +260,7 @@ TEST(Launcher, RefusesToRunBesideAnOpenHost) {
     }
 }
 
-TEST(Launcher, SecondMenuShowsTheFirst) {
+TEST(Launcher, SecondMenuShowsTheFirstAndDoesNotHangWithIt) {
     const Installation installation(5);
     const Launcher first;
     ASSERT_TRUE(installation.HostTypesLast("UB"));
@@ -244,30 +268,64 @@ TEST(Launcher, SecondMenuShowsTheFirst) {
     ShowWindow(first.Menu(), SW_SHOWMINNOACTIVE);
     EXPECT_EQ(Launcher().ExitCode(), 0);
     EXPECT_TRUE(Eventually([&] { return !IsIconic(first.Menu()); }));
+    first.Hang(true);
+    EXPECT_EQ(Launcher().ExitCode(), 0);
+    first.Hang(false);
     PostMessageA(first.Menu(), WM_CLOSE, 0, 0);
     EXPECT_EQ(first.ExitCode(), 0) << "commands to a host that is gone are lost";
 }
 
-TEST(Launcher, WaitsForASlowHostAndCanBeClosedMeanwhile) {
-    for (const auto& [variable, value, comes] : {std::tuple{"FENN_WINDOW_DELAY_MS", "900", true},
-                                                 {"FENN_START_DELAY_MS", "900", true},
-                                                 {"FENN_NEVER", "window", false},
-                                                 {"FENN_NEVER", "caption", false}}) {
+TEST(Launcher, WaitsForASlowHostAndSaysSoWhenItTakesLong) {
+    for (const auto& [variable, milliseconds, noticed] : {std::tuple{"FENN_WINDOW_DELAY_MS", "900", false},
+                                                          {"FENN_START_DELAY_MS", "900", false},
+                                                          {"FENN_WINDOW_DELAY_MS", "2800", true}}) {
         const Installation installation(5);
-        RememberSystem("UB.mnu ");
-        SetEnvironmentVariableA(variable, value);
+        SetEnvironmentVariableA(variable, milliseconds);
         const Launcher launcher;
         ASSERT_TRUE(Eventually([&] { return !installation.Logged("process").empty(); }));
         const HWND menu = FindWindowA("ObrinMenu.frmMain", nullptr);
         EXPECT_EQ(TextOf(menu), "") << "a second menu must not find an empty window";
         EXPECT_FALSE(IsWindowVisible(menu));
-        if (comes) {
-            EXPECT_TRUE(installation.HostTypesLast("UB"));
-            continue;
+        bool shown = false;
+        EXPECT_TRUE(Eventually([&] {
+            shown = shown || launcher.Shown(noticeTitle);
+            return IsWindowVisible(menu);
+        }));
+        EXPECT_EQ(shown, noticed);
+        EXPECT_FALSE(launcher.Shown(noticeTitle)) << "goes away by itself";
+    }
+}
+
+TEST(Launcher, CanBeClosedByTheNoticeThatItWaits) {
+    struct {
+        const char* never; // what the host never does; without one there is no host
+        void (*close)(HWND);
+    } const cases[] = {
+        {"window", [](HWND notice) { SendDlgItemMessageA(notice, IDCANCEL, BM_CLICK, 0, 0); }},
+        {"caption", [](HWND notice) { PostMessageA(notice, WM_KEYDOWN, VK_ESCAPE, 0); }},
+        {nullptr, [](HWND notice) { PostMessageA(notice, WM_SYSCOMMAND, SC_CLOSE, 0); }},
+    };
+    for (const auto& [never, close] : cases) {
+        const Installation installation(5);
+        RememberSystem("UB.mnu ");
+        SetEnvironmentVariableA("FENN_NEVER", never);
+        if (never == nullptr)
+            DeleteFileA("Fenn.exe");
+        const Launcher launcher;
+        const std::string texts = launcher.Texts(noticeTitle);
+        for (const std::string& part : {std::string("Fenn.exe"), std::string("Obrin-05"), CurrentFolder()})
+            EXPECT_NE(texts.find(part), std::string::npos) << texts;
+        EXPECT_EQ(texts.find("could not be started: ") != std::string::npos, never == nullptr) << texts;
+        const HWND notice = launcher.Window(noticeTitle);
+        if (never == nullptr || never == std::string("window")) {
+            EXPECT_EQ(Launcher().ExitCode(), 0) << "a second start";
+            EXPECT_TRUE(KeepsForeground(notice));
         }
-        PostMessageA(menu, WM_CLOSE, 0, 0);
+        close(notice);
         EXPECT_EQ(launcher.ExitCode(), 0);
+        EXPECT_EQ(installation.Logged("process").size(), never == nullptr ? 0U : 1U) << "no second host";
         EXPECT_EQ(RememberedSystem(), "UB.mnu ") << "no system was shown that could take its place";
+        EXPECT_FALSE(FileExists("Menu 5.txt"));
     }
 }
 
@@ -290,9 +348,14 @@ void MakeSystems(int count) {
 
 TEST(Launcher, EndsWithTheErrorOfAFault) {
     const std::pair<void (*)(), const char*> faults[] = {
-        {[] { DeleteFileA("FennConfig.Sys"); }, "Config File Not found!"},
+        {[] {
+             DeleteFileA("FennConfig.Sys");
+             DeleteFileA("Corvel.dll"); // not needed yet
+         },
+         "Config File Not found!"},
         {[] { RemoveDirectoryA("Core"); }, "Core\\TempOut.tmp"},
-        {[] { DeleteFileA("Corvel.dll"); }, "Corvel.dll"},
+        {[] { DeleteFileA("Corvel.dll"); }, "Loading Corvel.dll"},
+        {[] { WriteFileBytes("Corvel.dll", "x"); }, "Corvel.dll is no library for a program of "},
         {[] { DeleteFileA("UB.mnu"); }, "there is no menu file (*.mnu)"},
         {[] { WriteFileBytes("UB.mnu", ""); }, "UB.mnu"},
         {[] { WriteFileBytes("UB.mnu", "T\r\n>A^K\r\n"); }, "UB.mnu, line 2"},

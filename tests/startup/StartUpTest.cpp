@@ -9,6 +9,15 @@
 
 namespace obrin {
 
+namespace {
+
+// Main with a menu window of which there is no other one.
+void Start(const std::function<void()>& show) {
+    Main({.windowClass = "ObrinTest.NoMenu", .caption = "ObrinTest", .show = show});
+}
+
+} // namespace
+
 TEST(StartUp, RewritesTheConfigurationBeforeItShowsTheMenu) {
     const test::ScratchFolder folder;
     CreateFolder("Core");
@@ -17,7 +26,7 @@ TEST(StartUp, RewritesTheConfigurationBeforeItShowsTheMenu) {
     for (const char* leftOnDisk :
          {"\r\nFiles 1\r\n\r\n\r\n  \r\n\r\n\xE4last\r\n", "\r\nFiles 1\r\n\xE4last\r\n"}) {
         std::string seen;
-        Main([&] { seen = ReadFileBytes("FennConfig.Sys"); });
+        Start([&] { seen = ReadFileBytes("FennConfig.Sys"); });
         EXPECT_EQ(seen, expected) << "the next start changes nothing";
         EXPECT_EQ(ReadFileBytes("Core\\TempOut.tmp"), leftOnDisk);
     }
@@ -27,7 +36,7 @@ TEST(StartUp, FailsWithTheOldConfigurationIntact) {
     const test::ScratchFolder folder;
     WriteFileBytes("FennConfig.Sys", "Drive old\r\n");
     const auto fails = [] {
-        EXPECT_THROW(Main([] { ADD_FAILURE() << "shown"; }), RunTimeError);
+        EXPECT_THROW(Start([] { ADD_FAILURE() << "shown"; }), RunTimeError);
         EXPECT_EQ(ReadFileBytes("FennConfig.Sys"), "Drive old\r\n");
     };
     fails(); // no Core folder
