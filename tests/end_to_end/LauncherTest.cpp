@@ -134,11 +134,12 @@ TEST(Launcher, RunsProgramsAndUpdatesTheWorkstationOnce) {
     expected.insert(expected.end(), {"LOAD CORE\\PROGRAMS\\CSBACKUP", "RUN"});
     EXPECT_TRUE(installation.HostTypes(expected));
     EXPECT_EQ(ReadFileBytes("Updated.txt"), "001002042");
-    const auto seesAndCloses = [](const char* name) {
+    const auto seesAndCloses = [&](const char* name) {
         HWND program = nullptr;
         EXPECT_TRUE(Eventually([&] { return IsWindowVisible(program = FindWindowA("FennProgram", name)); }));
         PostMessageA(program, WM_CLOSE, 0, 0);
         EXPECT_TRUE(Eventually([&] { return !IsWindow(program); }));
+        SetForegroundWindow(launcher.Menu());
     };
     seesAndCloses("CORE\\PROGRAMS\\CSBACKUP");
 
