@@ -108,7 +108,7 @@ BareWindow::BareWindow(HWND menu) {
             controlsInFrame = CopyChildren(original, copy);
     }
     MenuTree tree;
-    tree.Attach(GetDlgItem(GetDlgItem(window, IDC_FRAME1), IDC_TREEVIEW1));
+    tree.Attach(GetDlgItem(GetDlgItem(window, IDC_FRAME1), IDC_TREEVIEW1), {});
     tree.Fill(
         ParseMenuDefinition(ReadFileBytes(Installation::system), Installation::system, CodePageLeadByteTest())
             .entries);

@@ -118,7 +118,7 @@ Row MeasureShape(const char* what, int programs) {
 
     const UniqueWindow frame = ShowFrame();
     MenuTree tree;
-    tree.Attach(CreateTree(frame.get(), 0));
+    tree.Attach(CreateTree(frame.get(), 0), {});
     const HWND bare = CreateTree(frame.get(), treeWidth);
     ProcessPendingEvents();
     const Way fastest = FastestWay(bare, entries);

@@ -21,8 +21,8 @@ RECT PlaceOf(HWND control) {
 
 } // namespace
 
-void frmAbout::Show(HWND frmMain) {
-    ShowModal(frmMain, IDD_ABOUT);
+void frmAbout::Show(HWND owner) {
+    ShowModal(owner, IDD_ABOUT);
 }
 
 INT_PTR frmAbout::OnMessage(UINT message, WPARAM wParam, LPARAM) {

@@ -9,7 +9,7 @@ namespace obrin {
 class frmAbout final : public Dialog {
 public:
     /// Shows the box over the menu window, modally; returns once the user has closed it.
-    void Show(HWND frmMain);
+    void Show(HWND owner);
 
 private:
     INT_PTR OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;

@@ -1,9 +1,7 @@
 #include "maintenance/frmUpdate.h"
 
 #include "common/Text.h"
-#include "maintenance/UpdateRegister.h"
 #include "platform/Events.h"
-#include "platform/File.h"
 #include "platform/Font.h"
 #include "platform/Workstation.h"
 #include "resources/Ids.h"
@@ -40,8 +38,8 @@ void CopyUnexamined(const char* source, const std::string& destination) {
 
 } // namespace
 
-void frmUpdate::Show(HWND frmMain) {
-    ShowModal(frmMain, IDD_UPDATE);
+void frmUpdate::Show(HWND owner) {
+    ShowModal(owner, IDD_UPDATE);
 }
 
 INT_PTR frmUpdate::OnMessage(UINT message, WPARAM wParam, LPARAM) {
@@ -142,20 +140,6 @@ void frmUpdate::CopyFiles() {
     show("Complete");
     ShowWindow(Command1, SW_SHOW);
     SetFocus(Command1);
-}
-
-void CheckWorkstationUpdate(HWND frmMain, int wsid) {
-    const std::string key = UpdateKey(wsid);
-    File updated("Updated.txt", File::Use::ReadWrite);
-    const UpdateSearch found = FindUpdateKey(updated.ReadToEnd(), key);
-    if (found.updated)
-        return;
-    frmUpdate().Show(frmMain);
-    if (!IsWindow(frmMain))
-        return; // the program ends: the workstation is updated at its next start
-    updated.Seek((found.record - 1) * updateKeyBytes);
-    updated.Write(key);
-    updated.FlushAndClose();
 }
 
 } // namespace obrin

@@ -8,8 +8,8 @@ namespace obrin {
 
 class frmUpdate final : public Dialog {
 public:
-    /// Shows the window beside the menu window, modally; returns once the user has closed it.
-    void Show(HWND frmMain);
+    /// Shows the window beside `owner`, the menu window, modally; returns once the user has closed it.
+    void Show(HWND owner);
 
 private:
     INT_PTR OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -27,10 +27,5 @@ private:
     int copiesDue = 0;    // resize notifications whose copy sequence has not ended
     bool closing = false; // the user has closed the window while files were copied
 };
-
-/// Once per workstation: shows the update window for a workstation that "Updated.txt" does not name, then
-/// enters it there. Not entered when the menu window is gone by then. Throws RunTimeError for the register's
-/// errors.
-void CheckWorkstationUpdate(HWND frmMain, int wsid);
 
 } // namespace obrin

@@ -5,18 +5,18 @@
 #include "platform/File.h"
 #include "platform/Folder.h"
 #include "platform/Workstation.h"
+#include "resources/Ids.h"
 
 namespace obrin {
 
 std::vector<MenuFile> EnumerateMenuFiles() {
-    constexpr std::size_t most = 99;
     const LeadByteTest isLeadByte = CodePageLeadByteTest();
     std::vector<MenuFile> files;
     for (const std::string& name : ListNormalFiles(CurrentFolder())) {
         if (!IsMenuFileName(name))
             continue;
         const std::string header = ReadFirstLine(name);
-        if (files.size() == most)
+        if (files.size() == SYSTEMS_TEMPLATE)
             throw RunTimeError(PlatformError::AlreadyExists,
                                "Adding " + name + " to the system list as item 99");
         files.push_back({.name = name, .title = std::string(HeaderTitle(header, isLeadByte))});

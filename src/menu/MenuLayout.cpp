@@ -2,6 +2,7 @@
 
 #include "common/RunTimeError.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace obrin {
@@ -48,9 +49,11 @@ MenuLayout Resize(MenuLayout layout, const LayoutMargins& margins, Size outer, S
     const double right = frame.left + frame.width;
     const auto centred = [&](double width) { return Finite(right + (outer.width - right) / 2 - width / 2); };
     layout.label1Left = centred(own.label1);
-    layout.image1Left = centred(own.image1);
-    layout.label2Left = centred(own.label2);
-    layout.label3Left = centred(own.label3);
+    layout.image1.left = centred(own.image1);
+    layout.label2Left = centred(own.label2.width);
+    layout.label3.left = centred(own.label3.width);
+    layout.label3.top = std::max(design::label3Top, design::label2Top + own.label2.height);
+    layout.image1.top = std::max(design::image1Top, layout.label3.top + own.label3.height);
 
     layout.label5 = {Finite(inner.width - own.label5.width - 100),
                      Finite(inner.height - own.label5.height - 20)};

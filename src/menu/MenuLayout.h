@@ -25,19 +25,20 @@ struct LayoutMargins {
 
 /// The sizes that the controls have by their texts and picture.
 struct OwnSizes {
-    double label1, image1, label2, label3; ///< widths
-    Size label4, label5;
+    double label1, image1; ///< widths
+    Size label2, label3, label4, label5;
 };
 
 struct MenuLayout {
     Box frame1;     ///< in the window
     Box treeView1;  ///< in Frame1
     Point command1; ///< in Frame1, below the tree
-    double label1Left = 0, image1Left = 0, label2Left = 0, label3Left = 0;
-    Point label4{}, label5{};
+    double label1Left = 0, label2Left = 0;
+    Point label3{}, image1{}, label4{}, label5{};
 };
 
-/// The window's designed inner size and layout. The tops of the right-hand controls never change.
+/// The window's designed inner size and layout. The right-hand controls have these tops but where larger text
+/// above needs the room.
 namespace design {
 constexpr Size inner{11100, 7500};
 constexpr Box frame1{150, 120, 6000, 7200};

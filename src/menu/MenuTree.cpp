@@ -100,10 +100,85 @@ bool MenuTree::IsProgramNode() const {
     return node != nullptr && !node->text.empty() && !node->key.empty();
 }
 
-std::optional<RECT> MenuTree::ShowSelectedText() const {
+// --- Events ---
+
+void MenuTree::Attach(HWND treeView, Events treeEvents) {
+    window = treeView;
+    events = std::move(treeEvents);
+    SetWindowSubclass(window, Procedure, 0, reinterpret_cast<DWORD_PTR>(this));
+}
+
+LRESULT CALLBACK MenuTree::Procedure(HWND, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                     DWORD_PTR self) {
+    return AtBoundary([=] { return reinterpret_cast<MenuTree*>(self)->OnMessage(message, wParam, lParam); });
+}
+
+LRESULT MenuTree::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_GETDLGCODE: {
+        // Enter is the tree's own key here, not the default button's.
+        const auto* key = reinterpret_cast<const MSG*>(lParam);
+        const LRESULT code = DefSubclassProc(window, message, wParam, lParam);
+        return key != nullptr && key->wParam == VK_RETURN ? code | DLGC_WANTMESSAGE : code;
+    }
+    case WM_CHAR:
+        if (wParam != VK_RETURN)
+            break;
+        events.run();
+        return 0; // the tree would beep
+    case WM_LBUTTONDBLCLK: {
+        const LRESULT result = DefSubclassProc(window, message, wParam, lParam);
+        events.run();
+        return result;
+    }
+    case WM_RBUTTONDOWN:
+    case WM_RBUTTONDBLCLK: // a second right click soon after the first
+        RightMouseDown();
+        return 0;
+    case WM_CONTEXTMENU:
+        if (lParam == -1)
+            MenuKey();
+        else if (SendMessageA(window, WM_NCHITTEST, 0, lParam) != HTCLIENT)
+            break; // a scroll bar has a menu of its own
+        return 0;  // the mouse's has been handled above
+    default:
+        break;
+    }
+    return DefSubclassProc(window, message, wParam, lParam);
+}
+
+void MenuTree::RightMouseDown() {
+    POINT pointer;
+    GetCursorPos(&pointer);
+    if (rightClickLatch) {
+        // By the click's own time: it may be handled late.
+        const auto age = static_cast<LONG>(static_cast<DWORD>(GetMessageTime()) - *rightClickLatch);
+        if (age < 0)
+            return; // made before the latch was set: the clicks put in then are still to come
+        rightClickLatch.reset();
+        if (static_cast<DWORD>(age) <= GetDoubleClickTime()) {
+            events.popUp(pointer.x, pointer.y);
+            return;
+        }
+    }
+    // Clicks land where the pointer is by now, and this one may be handled late.
+    if (WindowFromPoint(pointer) != window)
+        return;
+    rightClickLatch = GetTickCount();
+    // A left click selects the node under the pointer; the right click behind it comes back here.
+    constexpr DWORD left = MOUSEEVENTF_LEFTDOWN | MOUSEEVENTF_LEFTUP;
+    constexpr DWORD right = MOUSEEVENTF_RIGHTDOWN | MOUSEEVENTF_RIGHTUP;
+    // The flags name the buttons of the mouse, which a left-handed user has swapped.
+    const bool swapped = GetSystemMetrics(SM_SWAPBUTTON) != 0;
+    mouse_event(swapped ? right : left, 0, 0, 0, 0);
+    mouse_event(swapped ? left : right, 0, 0, 0, 0);
+}
+
+// Below the text of the selected node, which is brought into sight.
+void MenuTree::MenuKey() {
     const HTREEITEM selected = Selected();
     if (selected == nullptr)
-        return std::nullopt;
+        return;
     SendMessageA(window, TVM_ENSUREVISIBLE, 0, reinterpret_cast<LPARAM>(selected));
     // The message takes the item in the place where it leaves the rectangle.
     union {
@@ -111,8 +186,10 @@ std::optional<RECT> MenuTree::ShowSelectedText() const {
         RECT text;
     } position{selected};
     if (Send(window, TVM_GETITEMRECT, TRUE, &position) == 0)
-        return std::nullopt;
-    return position.text;
+        return;
+    POINT below{position.text.left, position.text.bottom};
+    ClientToScreen(window, &below);
+    events.popUp(below.x, below.y);
 }
 
 } // namespace obrin

@@ -1,9 +1,10 @@
-// The tree of one system: a stock tree view and the keys of its nodes.
+// The tree of one system: a stock tree view, the keys of its nodes, and what the operator does to it.
 #pragma once
 
 #include "menu/MenuDefinition.h"
 #include "platform/WindowsApi.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -12,8 +13,17 @@ namespace obrin {
 
 class MenuTree {
 public:
-    /// Takes over an existing tree view; its window is owned by its parent.
-    void Attach(HWND treeView) { window = treeView; }
+    struct Events {
+        std::function<void()> run;           ///< the selected program: Enter, or a double click
+        std::function<void(int, int)> popUp; ///< of the selected program, at a place of the screen
+    };
+
+    MenuTree() = default;
+    MenuTree(const MenuTree&) = delete;
+    MenuTree& operator=(const MenuTree&) = delete;
+
+    /// Takes over an existing tree view; its window is owned by its parent, and this object outlives it.
+    void Attach(HWND treeView, Events treeEvents);
     HWND Window() const { return window; }
 
     /// Empties the tree.
@@ -25,16 +35,21 @@ public:
     const std::string& SelectedKey() const;
     /// True when the selected node has a text and a key.
     bool IsProgramNode() const;
-    /// Brings the selected node into sight and tells where its text stands, in the tree's own pixels; nothing
-    /// without a selection.
-    std::optional<RECT> ShowSelectedText() const;
 
 private:
+    static LRESULT CALLBACK Procedure(HWND tree, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                      DWORD_PTR self);
+    LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    void RightMouseDown();
+    void MenuKey();
+
     HTREEITEM Selected() const;
     const MenuEntry* SelectedNode() const;
 
     HWND window = nullptr;
-    std::vector<MenuEntry> nodes; // an item's lParam is its position here
+    Events events;
+    std::optional<DWORD> rightClickLatch; // set while clicks put in by the menu are to come: since when, ms
+    std::vector<MenuEntry> nodes;         // an item's lParam is its position here
 };
 
 } // namespace obrin

@@ -3,24 +3,24 @@
 #include "common/RunTimeError.h"
 #include "common/Text.h"
 #include "common/Twips.h"
+#include "maintenance/WorkstationUpdate.h"
 #include "maintenance/frmAbout.h"
-#include "maintenance/frmUpdate.h"
 #include "menu/MenuCommands.h"
 #include "menu/MenuDefinition.h"
+#include "menu/SystemList.h"
 #include "platform/Failure.h"
 #include "platform/File.h"
 #include "platform/Folder.h"
 #include "platform/Font.h"
-#include "platform/Picture.h"
+#include "platform/GroupBox.h"
+#include "platform/Link.h"
 #include "platform/Shell.h"
-#include "platform/Theme.h"
+#include "platform/Window.h"
 #include "platform/Workstation.h"
 #include "resources/Ids.h"
 #include "settings/Form2.h"
 #include "startup/HostKeys.h"
 #include "startup/WorkstationIdentity.h"
-
-#include <algorithm>
 
 namespace obrin {
 
@@ -32,34 +32,6 @@ constexpr const char* lastSystemValue = "LastSystem";
 // host may take their time, and the window may be closed meanwhile, with the tree in it.
 constexpr UINT runSelected = WM_APP;
 constexpr DWORD windowStyle = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
-
-HINSTANCE Instance() {
-    return GetModuleHandleA(nullptr);
-}
-
-HWND CreateControl(HWND parent, const char* controlClass, int id, DWORD style, const char* text = "",
-                   DWORD extendedStyle = 0) {
-    const HWND control = CreateWindowExA(
-        extendedStyle, controlClass, text, WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | style, 0, 0, 0, 0,
-        parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), Instance(), nullptr);
-    if (control == nullptr)
-        ThrowLastError("Creating the menu window");
-    return control;
-}
-
-// A group box does not paint what is between its children. Its inside and its border reach the screen at
-// once: erased first, the border would flicker while the window is resized.
-void PaintFrame(HWND frame) {
-    PAINTSTRUCT paint;
-    const HDC screen = BeginPaint(frame, &paint);
-    RECT inner;
-    GetClientRect(frame, &inner);
-    PaintBuffered(screen, inner, [&](HDC target) {
-        FillRect(target, &inner, GetSysColorBrush(COLOR_BTNFACE));
-        DefSubclassProc(frame, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(target), PRF_CLIENT);
-    });
-    EndPaint(frame, &paint);
-}
 
 } // namespace
 
@@ -103,15 +75,17 @@ LRESULT frmMain::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_COMMAND:
         OnCommand(LOWORD(wParam), HIWORD(wParam));
         return 0;
-    case WM_NOTIFY:
-        OnNotify(*reinterpret_cast<const NMHDR*>(lParam));
-        return 0;
     case WM_SIZE:
         Form_Resize();
         return 0;
     case WM_DPICHANGED:
-        Form_DpiChanged(*reinterpret_cast<const RECT*>(lParam));
+        Form_DpiChanged(LOWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
         return 0;
+    case WM_SETTINGCHANGE:
+    case WM_THEMECHANGED:
+    case WM_SYSCOLORCHANGE:
+        Form_LooksChanged(message, wParam, lParam);
+        break;
     case WM_ACTIVATE:
         if (LOWORD(wParam) == WA_INACTIVE)
             focused = GetFocus();
@@ -125,11 +99,8 @@ LRESULT frmMain::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             return TRUE;
         break;
     case WM_CTLCOLORSTATIC:
-        if (reinterpret_cast<HWND>(lParam) == Label5) {
-            SetTextColor(reinterpret_cast<HDC>(wParam), GetSysColor(COLOR_HOTLIGHT));
-            SetBkMode(reinterpret_cast<HDC>(wParam), TRANSPARENT);
-            return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_BTNFACE));
-        }
+        if (reinterpret_cast<HWND>(lParam) == Label5)
+            return UseLinkColours(reinterpret_cast<HDC>(wParam));
         break;
     case runSelected:
         // A second one may have been queued behind the one at work, whose dialog or error lets it through.
@@ -170,11 +141,6 @@ void frmMain::OnCommand(int id, int notification) {
         OpenUnexamined(window, document->c_str());
 }
 
-void frmMain::OnNotify(const NMHDR& notification) {
-    if (notification.hwndFrom == TreeView1.Window() && notification.code == static_cast<UINT>(NM_DBLCLK))
-        TreeView1_DblClick();
-}
-
 // A state of the window, not of the label: once the link has turned the pointer into the crosshair, it stays
 // so over everything but the window's own background.
 bool frmMain::OnSetCursor(HWND hit, int hitTest) {
@@ -205,9 +171,9 @@ bool frmMain::Form_Load() {
     margins = RecordMargins({ToTwips(outer.cx, dpi), ToTwips(outer.cy, dpi)}, layout);
 
     MnuFiles = EnumerateMenuFiles();
-    FillSystemList();
+    FillSystemList(GetMenu(window), MnuFiles);
 
-    // Set already when the window is loaded a second time in the same run: number and link then stay.
+    // Set already when the window is loaded a second time in the same run.
     if (!hostLink.Stands()) {
         const std::string loginName = LoginName();
         wsid = EstablishIdentity(window, loginName);
@@ -251,9 +217,9 @@ void frmMain::Form_Resize() {
     layout = Resize(layout, *margins, twips(outer.right - outer.left, outer.bottom - outer.top),
                     twips(inner.right, inner.bottom),
                     {.label1 = OwnSize(Label1).width,
-                     .image1 = OwnSize(Image1).width,
-                     .label2 = OwnSize(Label2).width,
-                     .label3 = OwnSize(Label3).width,
+                     .image1 = OwnSize(Image1.Window()).width,
+                     .label2 = OwnSize(Label2),
+                     .label3 = OwnSize(Label3),
                      .label4 = OwnSize(Label4),
                      .label5 = OwnSize(Label5)});
 
@@ -270,11 +236,11 @@ void frmMain::Form_Resize() {
         positions = DeferWindowPos(positions, control, nullptr, px(left), px(top), 0, 0, quiet | SWP_NOSIZE);
     };
     move(Label1, layout.label1Left, design::label1Top);
-    move(Image1, layout.image1Left, design::image1Top);
+    move(Image1.Window(), layout.image1.left, layout.image1.top);
     move(Label2, layout.label2Left, design::label2Top);
-    move(Label3, layout.label3Left, design::label3Top);
-    // The frame comes to the front, then the one link label, then the other. Told from the front, each behind
-    // the one before, an order that stands already is left alone: nobody sees the controls change places.
+    move(Label3, layout.label3.left, layout.label3.top);
+    // From the front: the link, the label beside it, the frame. Each is put behind the one before, so that an
+    // order that stands already is left alone.
     const auto stack = [&](HWND control, HWND behind, Point place) {
         positions = DeferWindowPos(positions, control, behind, px(place.left), px(place.top), 0, 0,
                                    SWP_NOACTIVATE | SWP_NOSIZE);
@@ -294,17 +260,29 @@ void frmMain::Form_Resize() {
     apply();
 }
 
-void frmMain::Form_DpiChanged(const RECT& suggested) {
-    dpi = GetDpiForWindow(window);
+// The DPI is the message's: asked for, it may still be the old one.
+void frmMain::Form_DpiChanged(UINT newDpi, const RECT& suggested) {
+    dpi = newDpi;
     ApplyFonts();
-    ShowPicture();
+    Image1.Scale(dpi);
     SetWindowPos(window, nullptr, suggested.left, suggested.top, suggested.right - suggested.left,
                  suggested.bottom - suggested.top, SWP_NOZORDER | SWP_NOACTIVATE);
     Form_Resize(); // the size in pixels may be the same
 }
 
-// The window is about to close, for whatever reason: the close box, the end of the Windows session, another
-// program's request.
+// The user has chosen another font, theme or colour scheme.
+void frmMain::Form_LooksChanged(UINT message, WPARAM wParam, LPARAM lParam) {
+    // Windows tells top-level windows only.
+    if (message == WM_SYSCOLORCHANGE) {
+        for (const HWND control : {TreeView1.Window(), Frame1, Command1})
+            SendMessageA(control, message, wParam, lParam);
+    }
+    ApplyFonts();
+    Form_Resize();
+    RedrawWindow(window, nullptr, nullptr, RDW_ERASE | RDW_INVALIDATE | RDW_ALLCHILDREN);
+}
+
+// Before the window closes, by its close box, at the end of the Windows session or at a program's request.
 void frmMain::Form_Unload() {
     if (unloading || IsEndingWithError())
         return; // asked again while the host handles the exit command, or while an error is shown
@@ -322,35 +300,27 @@ void frmMain::Form_Unload() {
 void frmMain::CreateControls() {
     Frame1 =
         CreateControl(window, WC_BUTTONA, IDC_FRAME1, BS_GROUPBOX | WS_CLIPCHILDREN, "", WS_EX_CONTROLPARENT);
+    HoldControls(Frame1);
     TreeView1.Attach(
         CreateControl(Frame1, WC_TREEVIEWA, IDC_TREEVIEW1,
                       WS_TABSTOP | TVS_HASLINES | TVS_LINESATROOT | TVS_HASBUTTONS | TVS_SHOWSELALWAYS, "",
-                      WS_EX_CLIENTEDGE));
+                      WS_EX_CLIENTEDGE),
+        {.run = [this] { PostMessageA(window, runSelected, 0, 0); },
+         .popUp = [this](int x, int y) { PopUp(x, y); }});
     SendMessageA(TreeView1.Window(), TVM_SETEXTENDEDSTYLE, TVS_EX_DOUBLEBUFFER, TVS_EX_DOUBLEBUFFER);
     Command1 = CreateControl(Frame1, WC_BUTTONA, IDC_COMMAND1, WS_TABSTOP | BS_PUSHBUTTON, "&Run Program");
     constexpr DWORD label = SS_LEFT | SS_NOPREFIX;
-    Label1 = CreateControl(window, WC_STATICA, IDC_LABEL1, label);
-    Image1 = CreateControl(window, WC_STATICA, IDC_IMAGE1, SS_BITMAP);
+    Label1 = CreateControl(window, WC_STATICA, IDC_LABEL1, SS_LEFT); // "&" as in the frame's caption
+    Image1.Attach(CreateControl(window, WC_STATICA, IDC_IMAGE1, SS_BITMAP));
     Label2 = CreateControl(window, WC_STATICA, IDC_LABEL2, label);
     Label3 = CreateControl(window, WC_STATICA, IDC_LABEL3, label);
     Label4 = CreateControl(window, WC_STATICA, IDC_LABEL4, label, "Got a better idea?");
-    Label5 = CreateControl(window, WC_STATICA, IDC_LABEL5, label | SS_NOTIFY, "E-Mail us!");
-    // A group box does not hand on what its children say.
-    SetWindowSubclass(Frame1, Frame1Procedure, 0, reinterpret_cast<DWORD_PTR>(this));
-    SetWindowSubclass(TreeView1.Window(), TreeView1Procedure, 0, reinterpret_cast<DWORD_PTR>(this));
+    Label5 = CreateControl(window, WC_STATICA, IDC_LABEL5, label | SS_NOTIFY | WS_TABSTOP, "E-Mail us!");
+    MakeLink(Label5);
 
     dpi = GetDpiForWindow(window);
     ApplyFonts();
-    // The designed size, or as much of it as fits, in the middle of the screen that Windows chose.
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof monitor;
-    GetMonitorInfoA(MonitorFromWindow(window, MONITOR_DEFAULTTOPRIMARY), &monitor);
-    const RECT& work = monitor.rcWork;
-    const SIZE designed = DesignedOuterSize();
-    const LONG width = std::min(designed.cx, work.right - work.left);
-    const LONG height = std::min(designed.cy, work.bottom - work.top);
-    SetWindowPos(window, nullptr, (work.left + work.right - width) / 2, (work.top + work.bottom - height) / 2,
-                 width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+    CentreOnScreen(window, DesignedOuterSize());
 }
 
 SIZE frmMain::DesignedOuterSize() const {
@@ -359,45 +329,22 @@ SIZE frmMain::DesignedOuterSize() const {
     return {size.right - size.left, size.bottom - size.top};
 }
 
+// The old fonts go when the controls have the new ones.
 void frmMain::ApplyFonts() {
-    titleFont = MakeFont("Comic Sans MS", 18, dpi, {.bold = true});
-    labelFont = MakeFont("Georgia", 10, dpi);
-    linkFont = MakeFont("Georgia", 10, dpi, {.underlined = true});
-    buttonFont = MakeFont("MS Sans Serif", 8, dpi);
-    messageFont = MakeMessageFont(dpi);
-    SetFont(Label1, titleFont.get());
-    SetFont(Label4, labelFont.get());
-    SetFont(Label5, linkFont.get());
-    SetFont(Command1, buttonFont.get());
+    Fonts made{.title = MakeFont("Comic Sans MS", 18, dpi, {.bold = true}),
+               .label = MakeFont("Georgia", 10, dpi),
+               .link = MakeFont("Georgia", 10, dpi, {.underlined = true}),
+               .button = MakeFont("MS Sans Serif", 8, dpi),
+               .message = MakeMessageFont(dpi)};
+    SetFont(Label1, made.title.get());
+    SetFont(Label4, made.label.get());
+    SetFont(Label5, made.link.get());
+    SetFont(Command1, made.button.get());
     for (const HWND control : {Frame1, TreeView1.Window(), Label2, Label3})
-        SetFont(control, messageFont.get());
+        SetFont(control, made.message.get());
     for (const HWND label : {Label1, Label2, Label3, Label4, Label5})
         SetLabel(label, WindowText(label));
-}
-
-void frmMain::ShowPicture() {
-    if (!picture)
-        return;
-    // The control must have let go of the old picture before it is deleted. Of some pictures it makes a copy,
-    // which it then hands over as the old one.
-    UniqueBitmap scaled = ScalePicture(picture.get(), dpi);
-    UniqueBitmap old(reinterpret_cast<HBITMAP>(
-        SendMessageA(Image1, STM_SETIMAGE, IMAGE_BITMAP, reinterpret_cast<LPARAM>(scaled.get()))));
-    if (old == scaledPicture)
-        old.release(); // one and the same
-    scaledPicture = std::move(scaled);
-}
-
-void frmMain::FillSystemList() {
-    const HMENU bar = GetMenu(window);
-    if (MnuFiles.empty()) {
-        DeleteMenu(bar, 0, MF_BYPOSITION);
-        return;
-    }
-    const HMENU list = GetSubMenu(bar, 0);
-    for (std::size_t i = 0; i < MnuFiles.size(); ++i)
-        AppendMenuA(list, MF_STRING, ID_SYSTEMS + i, MnuFiles[i].title.c_str());
-    DeleteMenu(list, ID_SYSTEMS_TEMPLATE, MF_BYCOMMAND);
+    fonts = std::move(made);
 }
 
 // A label is as large as its text. Label4, whose right edge is the link's left one, is a blank larger.
@@ -413,104 +360,10 @@ Size frmMain::OwnSize(HWND control) const {
     return {ToTwips(size.right - size.left, dpi), ToTwips(size.bottom - size.top, dpi)};
 }
 
-LRESULT CALLBACK frmMain::Frame1Procedure(HWND frame, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                                          DWORD_PTR self) {
-    switch (message) {
-    case WM_COMMAND:
-    case WM_NOTIFY:
-    case WM_CTLCOLORBTN:
-    case WM_CTLCOLORSTATIC:
-        return SendMessageA(reinterpret_cast<frmMain*>(self)->window, message, wParam, lParam);
-    case WM_ERASEBKGND:
-        return TRUE; // painted with the rest
-    case WM_PAINT:
-        PaintFrame(frame);
-        return 0;
-    default:
-        return DefSubclassProc(frame, message, wParam, lParam);
-    }
-}
-
-// --- The tree ---
-
-LRESULT CALLBACK frmMain::TreeView1Procedure(HWND tree, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                                             DWORD_PTR data) {
-    auto* self = reinterpret_cast<frmMain*>(data);
-    return AtBoundary([=]() -> LRESULT {
-        switch (message) {
-        case WM_GETDLGCODE: {
-            // Enter is the tree's own key here, not the default button's.
-            const auto* key = reinterpret_cast<const MSG*>(lParam);
-            const LRESULT code = DefSubclassProc(tree, message, wParam, lParam);
-            return key != nullptr && key->wParam == VK_RETURN ? code | DLGC_WANTMESSAGE : code;
-        }
-        case WM_CHAR:
-            self->TreeView1_KeyPress(static_cast<int>(wParam));
-            if (wParam == VK_RETURN)
-                return 0; // the tree would beep
-            break;
-        case WM_RBUTTONDOWN:
-        case WM_RBUTTONDBLCLK: // a second right click soon after the first
-            self->TreeView1_RightMouseDown();
-            return 0;
-        case WM_CONTEXTMENU:
-            if (lParam == -1) // from the keyboard; the mouse's has been handled above
-                self->TreeView1_MenuKey();
-            return 0;
-        default:
-            break;
-        }
-        return DefSubclassProc(tree, message, wParam, lParam);
-    });
-}
-
-void frmMain::TreeView1_DblClick() {
-    PostMessageA(window, runSelected, 0, 0);
-}
-
-void frmMain::TreeView1_KeyPress(int character) {
-    if (character == VK_RETURN)
-        PostMessageA(window, runSelected, 0, 0);
-}
+// --- Events of controls and menu items ---
 
 void frmMain::Command1_Click() {
     RunSelectedProgram();
-}
-
-void frmMain::TreeView1_RightMouseDown() {
-    POINT pointer;
-    GetCursorPos(&pointer);
-    if (rightClickLatch) {
-        // By the click's own time: it may be handled late.
-        const auto age = static_cast<LONG>(static_cast<DWORD>(GetMessageTime()) - *rightClickLatch);
-        if (age < 0)
-            return; // made before the latch was set: the clicks put in then are still to come
-        rightClickLatch.reset();
-        if (static_cast<DWORD>(age) <= GetDoubleClickTime()) {
-            PopUp(pointer.x, pointer.y);
-            return;
-        }
-    }
-    // Clicks land where the pointer is by now, and this one may be handled late.
-    if (WindowFromPoint(pointer) != TreeView1.Window())
-        return;
-    rightClickLatch = GetTickCount();
-    // A left click selects the node under the pointer; the right click behind it comes back here.
-    constexpr DWORD left = MOUSEEVENTF_LEFTDOWN | MOUSEEVENTF_LEFTUP;
-    constexpr DWORD right = MOUSEEVENTF_RIGHTDOWN | MOUSEEVENTF_RIGHTUP;
-    // The flags name the buttons of the mouse, which a left-handed user has swapped.
-    const bool swapped = GetSystemMetrics(SM_SWAPBUTTON) != 0;
-    mouse_event(swapped ? right : left, 0, 0, 0, 0);
-    mouse_event(swapped ? left : right, 0, 0, 0, 0);
-}
-
-void frmMain::TreeView1_MenuKey() {
-    const auto text = TreeView1.ShowSelectedText();
-    if (!text)
-        return;
-    POINT below{text->left, text->bottom};
-    ClientToScreen(TreeView1.Window(), &below);
-    PopUp(below.x, below.y);
 }
 
 // The popup of the selected program, at a place of the screen; headings have none.
@@ -519,11 +372,7 @@ void frmMain::PopUp(int x, int y) {
     if (key.empty())
         return;
     propertiesKey = key;
-    struct Destroy {
-        void operator()(HMENU menu) const { DestroyMenu(menu); }
-    };
-    const std::unique_ptr<std::remove_pointer_t<HMENU>, Destroy> menu(
-        LoadMenuA(Instance(), MAKEINTRESOURCEA(IDR_TREE_POPUP)));
+    const UniqueMenu menu(LoadMenuA(Instance(), MAKEINTRESOURCEA(IDR_TREE_POPUP)));
     TrackPopupMenu(GetSubMenu(menu.get(), 0), TPM_LEFTALIGN | TPM_TOPALIGN, x, y, 0, window, nullptr);
 }
 
@@ -551,13 +400,12 @@ void frmMain::LoadSystem(const std::string& fileName) {
     MenuDefinition definition = ParseMenuDefinition(ReadFileBytes(fileName), fileName, isLeadByte);
     // With its folder: the platform looks for a bare name in other folders too.
     const std::string pictureFile = EnsureTrailingBackslash(CurrentFolder(), isLeadByte) + "Startup.bmp";
-    if (NormalFileExists(pictureFile)) {
-        picture = LoadPicture(pictureFile);
-        ShowPicture();
-    }
+    if (NormalFileExists(pictureFile))
+        Image1.Load(pictureFile, dpi);
     SetWindowTextA(window, menuCaption);
     const std::string title(TrimBlanks(definition.title));
     SetWindowTextA(Frame1, title.c_str());
+    SetWindowTextA(TreeView1.Window(), title.c_str()); // shown nowhere: a screen reader's name for the tree
     SetLabel(Label1, title);
     Form_Resize(); // title and picture are centred by their own widths
     TreeView1.Fill(std::move(definition.entries));

@@ -5,6 +5,7 @@
 #include "menu/MenuLayout.h"
 #include "menu/MenuTree.h"
 #include "platform/Handle.h"
+#include "platform/Picture.h"
 #include "platform/SupportLibrary.h"
 #include "startup/HostLink.h"
 
@@ -32,37 +33,31 @@ public:
     HWND Window() const { return window; }
 
 private:
+    struct Fonts {
+        UniqueFont title, label, link, button, message;
+    };
+
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-    static LRESULT CALLBACK Frame1Procedure(HWND frame, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                                            DWORD_PTR self);
-    static LRESULT CALLBACK TreeView1Procedure(HWND tree, UINT message, WPARAM wParam, LPARAM lParam,
-                                               UINT_PTR, DWORD_PTR self);
     LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
     void OnCommand(int id, int notification);
-    void OnNotify(const NMHDR& notification);
     bool OnSetCursor(HWND hit, int hitTest);
 
     // Events of the window.
     bool Form_Load();
     void Form_Resize();
-    void Form_DpiChanged(const RECT& suggested);
+    void Form_DpiChanged(UINT newDpi, const RECT& suggested);
+    void Form_LooksChanged(UINT message, WPARAM wParam, LPARAM lParam);
     void Form_Unload();
 
     // Events of controls and menu items.
     void mnuSystems_Click(std::size_t index);
     void mnuAboutObrin_Click();
     void mnuTreeView_Click(int item);
-    void TreeView1_DblClick();
-    void TreeView1_KeyPress(int character);
-    void TreeView1_RightMouseDown();
-    void TreeView1_MenuKey();
     void Command1_Click();
 
     void CreateControls();
     SIZE DesignedOuterSize() const;
     void ApplyFonts();
-    void ShowPicture();
-    void FillSystemList();
     void SetLabel(HWND label, const std::string& text);
     Size OwnSize(HWND control) const;
     void PopUp(int x, int y);
@@ -78,7 +73,7 @@ private:
     MenuTree TreeView1;
     HWND Command1 = nullptr;
     HWND Label1 = nullptr; // system title
-    HWND Image1 = nullptr;
+    PictureBox Image1;
     HWND Label2 = nullptr; // user
     HWND Label3 = nullptr; // workstation number
     HWND Label4 = nullptr;
@@ -87,8 +82,7 @@ private:
     HWND focused = nullptr; // control that had the keyboard when the window was last active
 
     UINT dpi = USER_DEFAULT_SCREEN_DPI;
-    UniqueFont titleFont, labelFont, linkFont, buttonFont, messageFont;
-    UniqueBitmap picture, scaledPicture;
+    Fonts fonts;
     std::optional<LayoutMargins> margins; // from the load on
     MenuLayout layout = design::layout;
     bool crosshair = false; // from the link label until the window's own background
@@ -96,9 +90,8 @@ private:
     std::int16_t wsid = 0;
     HostLink hostLink;
     std::vector<MenuFile> MnuFiles;
-    std::string currentSystem;            // the tag of mnuSystems(99): the menu file shown
-    std::string propertiesKey;            // the tag of TreeView1: the program last right-clicked
-    std::optional<DWORD> rightClickLatch; // set while clicks put in by the menu are to come: since when, ms
+    std::string currentSystem; // the tag of mnuSystems(99): the menu file shown
+    std::string propertiesKey; // the tag of TreeView1: the program last right-clicked
     bool unloading = false;
 };
 

@@ -25,10 +25,11 @@ SIZE MeasureText(HWND control, const std::string& text, int wrapWidth) {
     const HDC context = GetDC(control);
     const HGDIOBJ old =
         SelectObject(context, reinterpret_cast<HFONT>(SendMessageA(control, WM_GETFONT, 0, 0)));
-    // As a label draws it.
+    // As a label draws it, which takes "&" for the mark of an access key unless it is told not to.
+    const bool marks = (GetWindowLongA(control, GWL_STYLE) & SS_NOPREFIX) == 0;
     RECT area{0, 0, wrapWidth, 0};
     DrawTextA(context, text.data(), static_cast<int>(text.size()), &area,
-              DT_CALCRECT | DT_NOPREFIX | DT_EXPANDTABS | (wrapWidth > 0 ? DT_WORDBREAK : 0U));
+              DT_CALCRECT | DT_EXPANDTABS | (marks ? 0U : DT_NOPREFIX) | (wrapWidth > 0 ? DT_WORDBREAK : 0U));
     SelectObject(context, old);
     ReleaseDC(control, context);
     return {area.right, area.bottom};

@@ -13,6 +13,9 @@ namespace obrin {
 struct CloseKernelObject {
     void operator()(HANDLE handle) const { CloseHandle(handle); }
 };
+struct DestroyMenuHandle {
+    void operator()(HMENU menu) const { DestroyMenu(menu); }
+};
 struct CloseSearch {
     void operator()(HANDLE search) const { FindClose(search); }
 };
@@ -29,6 +32,7 @@ struct DeleteMemoryDc {
 using UniqueHandle = std::unique_ptr<void, CloseKernelObject>; // of what is no file
 using UniqueFile = UniqueHandle;
 using UniqueSearch = std::unique_ptr<void, CloseSearch>;
+using UniqueMenu = std::unique_ptr<std::remove_pointer_t<HMENU>, DestroyMenuHandle>;
 using UniqueFont = std::unique_ptr<std::remove_pointer_t<HFONT>, DeleteGdiObject>;
 using UniqueBitmap = std::unique_ptr<std::remove_pointer_t<HBITMAP>, DeleteGdiObject>;
 using UniqueIcon = std::unique_ptr<std::remove_pointer_t<HICON>, DestroyIconHandle>;

@@ -45,4 +45,22 @@ SIZE PictureSize(HBITMAP picture) {
     return {description.bmWidth, description.bmHeight};
 }
 
+void PictureBox::Load(const std::string& path, UINT dpi) {
+    picture = LoadPicture(path);
+    Scale(dpi);
+}
+
+void PictureBox::Scale(UINT dpi) {
+    if (!picture)
+        return;
+    // The control must have let go of the old picture before it is deleted. Of some pictures it makes a copy,
+    // which it then hands over as the old one.
+    UniqueBitmap copy = ScalePicture(picture.get(), dpi);
+    UniqueBitmap old(reinterpret_cast<HBITMAP>(
+        SendMessageA(window, STM_SETIMAGE, IMAGE_BITMAP, reinterpret_cast<LPARAM>(copy.get()))));
+    if (old == scaled)
+        old.release(); // one and the same
+    scaled = std::move(copy);
+}
+
 } // namespace obrin

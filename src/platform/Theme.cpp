@@ -12,6 +12,12 @@ struct UxTheme {
     decltype(&EnableThemeDialogTexture) enableTexture =
         Find<decltype(enableTexture)>("EnableThemeDialogTexture");
 
+    // Once for the thread that paints; its buffers are kept from one painting to the next.
+    UxTheme() {
+        if (const auto init = Find<decltype(&BufferedPaintInit)>("BufferedPaintInit"))
+            init();
+    }
+
 private:
     template <class Routine>
     Routine Find(const char* name) const {

@@ -7,3 +7,12 @@
 #include <shellapi.h>
 #include <uxtheme.h>
 #include <windowsx.h>
+
+namespace obrin {
+
+/// The running program, whose resources and window classes are meant.
+inline HINSTANCE Instance() {
+    return GetModuleHandleA(nullptr);
+}
+
+} // namespace obrin

@@ -80,9 +80,10 @@
 #define ID_TREE_PROPERTIES 321
 #define ID_TREE_HELP 322
 
-// mnuSystems(i) is ID_SYSTEMS + i; mnuSystems(99) is the template.
+// mnuSystems(i) is ID_SYSTEMS + i; mnuSystems(99) is the template, so that there is room for 99 systems.
+#define SYSTEMS_TEMPLATE 99
 #define ID_SYSTEMS 400
-#define ID_SYSTEMS_TEMPLATE 499
+#define ID_SYSTEMS_TEMPLATE (ID_SYSTEMS + SYSTEMS_TEMPLATE)
 
 // The defaults of a program's settings.
 #define IDS_HELP_FOLDER 102

@@ -32,8 +32,8 @@ std::size_t ElementOf(int id, int firstId) {
 
 } // namespace
 
-void Form2::Show(HWND frmMain) {
-    ShowModal(frmMain, IDD_PROPERTIES);
+void Form2::Show(HWND owner) {
+    ShowModal(owner, IDD_PROPERTIES);
 }
 
 INT_PTR Form2::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -19,7 +19,7 @@ public:
         , treeTag(programKey) {}
 
     /// Shows the dialog modally; returns once it is closed, or gone with the menu window.
-    void Show(HWND frmMain);
+    void Show(HWND owner);
 
 private:
     static INT_PTR CALLBACK PageProcedure(HWND page, UINT message, WPARAM wParam, LPARAM lParam);

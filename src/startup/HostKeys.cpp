@@ -39,8 +39,4 @@ std::string StationCaption(int wsid) {
     return "Obrin-" + PaddedDecimal(wsid, 2);
 }
 
-std::string MarkerFileName(int wsid) {
-    return "Menu" + SignedDecimal(wsid) + ".txt";
-}
-
 } // namespace obrin

@@ -27,7 +27,4 @@ std::string HostStartArguments(int wsid);
 /// "Obrin-05": at least two digits.
 std::string StationCaption(int wsid);
 
-/// "Menu 5.txt": the blank of the number's sign position is part of the name.
-std::string MarkerFileName(int wsid);
-
 } // namespace obrin

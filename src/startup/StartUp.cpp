@@ -21,21 +21,28 @@ void RewriteHostConfiguration() {
     ReplaceFileBytes(configuration, WithDriveLine(ShortPath(CurrentFolder()), blanked));
 }
 
-// The host may be open under any caption: its class alone counts.
-bool EndBesideOpenHost() {
-    if (FindWindowA(hostWindowClass, nullptr) == nullptr)
-        return false;
+// Under any caption: the class alone counts.
+HWND OpenHost() {
+    return FindWindowA(hostWindowClass, nullptr);
+}
+
+void OfferOpenHost() {
     constexpr UINT style = MB_YESNO | MB_ICONSTOP | MB_DEFBUTTON2;
     if (MessageBoxA(nullptr,
                     "Error: Fenn Already Open!! Please close before proceeding.\r\n\r\n"
                     "Would you like us to show the Fenn Window Now?",
-                    "Error Opening Obrin System", style) == IDYES) {
-        const HWND host = FindWindowA(hostWindowClass, nullptr);
-        ShowWindow(host, SW_SHOWNORMAL);
-        SetForegroundWindow(host);
-        SetActiveWindow(host);
-    }
-    return true;
+                    "Error Opening Obrin System", style) != IDYES)
+        return;
+    const HWND host = OpenHost();
+    ShowWindow(host, SW_SHOWNORMAL);
+    SetForegroundWindow(host);
+    SetActiveWindow(host);
+}
+
+void ShowOtherMenu(HWND menu) {
+    // Asked of its thread and not waited for: it may hang.
+    ShowWindowAsync(menu, SW_SHOWNORMAL);
+    SetForegroundWindow(menu);
 }
 
 BOOL CALLBACK KeepFirstShown(HWND window, LPARAM kept) {
@@ -55,21 +62,6 @@ HWND ShownByLoadingMenu(HWND menu) {
     return shown;
 }
 
-bool EndAfterShowingOtherMenu(const MenuWindow& menu) {
-    if (const HWND other = FindWindowA(nullptr, menu.caption)) {
-        // Asked of its thread and not waited for: it may hang.
-        ShowWindowAsync(other, SW_SHOWNORMAL);
-        SetForegroundWindow(other);
-        return true;
-    }
-    // One that has no caption yet. Two menus would start two hosts and type into one.
-    const HWND loading = FindWindowA(menu.windowClass, nullptr);
-    if (loading == nullptr)
-        return false;
-    SetForegroundWindow(ShownByLoadingMenu(loading));
-    return true;
-}
-
 } // namespace
 
 void Main(const MenuWindow& menu) {
@@ -79,7 +71,13 @@ void Main(const MenuWindow& menu) {
     }
     // Before the test for an open host: the drive line is right from now on, whatever the test says.
     RewriteHostConfiguration();
-    if (!EndBesideOpenHost() && !EndAfterShowingOtherMenu(menu))
+    if (OpenHost() != nullptr)
+        OfferOpenHost();
+    else if (const HWND other = FindWindowA(nullptr, menu.caption))
+        ShowOtherMenu(other);
+    else if (const HWND loading = FindWindowA(menu.windowClass, nullptr))
+        SetForegroundWindow(ShownByLoadingMenu(loading)); // a second one would type into the same host
+    else
         menu.show();
 }
 

@@ -1,4 +1,4 @@
-#include "maintenance/frmUpdate.h"
+#include "maintenance/WorkstationUpdate.h"
 
 #include "platform/File.h"
 #include "platform/Folder.h"

@@ -13,8 +13,12 @@ namespace {
 // Round numbers: margins of 1000 around the frame and of 200 and 300 around the tree.
 constexpr MenuLayout designed{{100, 50, 4000, 3000}, {10, 20, 3800, 2700}, {}};
 constexpr LayoutMargins margins{.height = 1000, .width = 1000, .treeWidth = 200, .treeHeight = 300};
-constexpr OwnSizes own{
-    .label1 = 700, .image1 = 500, .label2 = 300, .label3 = 0, .label4 = {900, 240}, .label5 = {600, 250}};
+constexpr OwnSizes own{.label1 = 700,
+                       .image1 = 500,
+                       .label2 = {300, 230},
+                       .label3 = {},
+                       .label4 = {900, 240},
+                       .label5 = {600, 250}};
 
 MenuLayout At(double width, double height, const OwnSizes& sizes = own) {
     return Resize(designed, margins, {width, height}, {width - 200, height - 500}, sizes);
@@ -45,12 +49,18 @@ TEST(MenuLayout, FrameAndTreeKeepTheirMargins) {
 
 TEST(MenuLayout, CentresByTheOuterWidthAndPutsTheLinkIntoTheInnerCorner) {
     OwnSizes wide = own;
-    wide.label2 = 100'000;                          // overlaps the frame
+    wide.label2.width = 100'000;                    // overlaps the frame
     const MenuLayout layout = At(9001, 4000, wide); // the frame ends at 8101, and 900 remain
     EXPECT_EQ(layout.label1Left, 8101 + 450 - 350);
-    EXPECT_EQ(layout.image1Left, 8101 + 450 - 250);
+    EXPECT_EQ(layout.image1.left, 8101 + 450 - 250);
     EXPECT_EQ(layout.label2Left, 8101 + 450 - 50'000);
-    EXPECT_EQ(layout.label3Left, 8101 + 450);
+    EXPECT_EQ(layout.label3.left, 8101 + 450);
+    EXPECT_EQ(layout.label3.top, design::label3Top);
+    EXPECT_EQ(layout.image1.top, design::image1Top);
+    wide.label2.height = 500; // a large font of the user's
+    wide.label3.height = 700;
+    EXPECT_EQ(At(9001, 4000, wide).label3.top, design::label2Top + 500);
+    EXPECT_EQ(At(9001, 4000, wide).image1.top, design::label2Top + 500 + 700);
     EXPECT_EQ(layout.label5.left, 9001 - 200 - 100 - 600);
     EXPECT_EQ(layout.label5.top, 3500 - 20 - 250);
     EXPECT_EQ(layout.label4.left, layout.label5.left - 900);
@@ -61,7 +71,7 @@ TEST(MenuLayout, RefusesWhatIsNoFiniteNumber) {
     constexpr double infinite = std::numeric_limits<double>::infinity();
     EXPECT_THROW(At(infinite, 4000), RunTimeError);
     OwnSizes sizes = own;
-    sizes.label2 = std::numeric_limits<double>::quiet_NaN();
+    sizes.label2.width = std::numeric_limits<double>::quiet_NaN();
     EXPECT_THROW(At(5000, 4000, sizes), RunTimeError);
     EXPECT_THROW(RecordMargins({infinite, 1}, designed), RunTimeError);
 }

@@ -28,7 +28,7 @@ TEST(MenuTree, HasTheEntriesInTheirOrderAndCollapsed) {
     const HWND window = CreateWindowExA(0, WC_TREEVIEWA, "", WS_POPUP | TVS_HASLINES, 0, 0, 200, 200, nullptr,
                                         nullptr, nullptr, nullptr);
     MenuTree tree;
-    tree.Attach(window);
+    tree.Attach(window, {});
     const std::vector<MenuEntry> entries{{"a", "", 0},   {"b", "K1", 1}, {"c", "", 1},
                                          {"d", "K2", 3}, {"", "K3", 1},  {"e", "K4", 0}};
     for (int round = 0; round < 2; ++round) { // another system takes the place of the first

@@ -32,7 +32,6 @@ TEST(HostKeys, NumberIsPlainPaddedOrBehindABlank) {
     EXPECT_EQ(HostStartArguments(5), "run core\\start -5");
     EXPECT_EQ(StationCaption(5), "Obrin-05");
     EXPECT_EQ(StationCaption(12), "Obrin-12");
-    EXPECT_EQ(MarkerFileName(5), "Menu 5.txt");
     EXPECT_EQ(StartSystem("UB"), "Load Core\\StartSys\rRun\rUB\r");
 }
 

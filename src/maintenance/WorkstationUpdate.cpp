@@ -1,0 +1,23 @@
+#include "maintenance/WorkstationUpdate.h"
+
+#include "maintenance/UpdateRegister.h"
+#include "maintenance/frmUpdate.h"
+#include "platform/File.h"
+
+namespace obrin {
+
+void CheckWorkstationUpdate(HWND owner, int wsid) {
+    const std::string key = UpdateKey(wsid);
+    File updated("Updated.txt", File::Use::ReadWrite);
+    const UpdateSearch found = FindUpdateKey(updated.ReadToEnd(), key);
+    if (found.updated)
+        return;
+    frmUpdate().Show(owner);
+    if (!IsWindow(owner))
+        return; // the program ends: the workstation is updated at its next start
+    updated.Seek((found.record - 1) * updateKeyBytes);
+    updated.Write(key);
+    updated.FlushAndClose();
+}
+
+} // namespace obrin

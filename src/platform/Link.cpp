@@ -1,0 +1,76 @@
+#include "platform/Link.h"
+
+#include "platform/AccessibleLink.h"
+#include "platform/Failure.h"
+
+namespace obrin {
+
+namespace {
+
+void Click(HWND label) {
+    SendMessageA(GetParent(label), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(label), STN_CLICKED),
+                 reinterpret_cast<LPARAM>(label));
+}
+
+// Hidden, as everywhere, until the keyboard is used.
+void DrawFocus(HWND label) {
+    if (GetFocus() != label || (SendMessageA(label, WM_QUERYUISTATE, 0, 0) & UISF_HIDEFOCUS) != 0)
+        return;
+    RECT inner;
+    GetClientRect(label, &inner);
+    const HDC screen = GetDC(label);
+    DrawFocusRect(screen, &inner);
+    ReleaseDC(label, screen);
+}
+
+LRESULT OnMessage(HWND label, UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_GETDLGCODE: {
+        // Enter is the link's own key here, not the default button's.
+        const auto* key = reinterpret_cast<const MSG*>(lParam);
+        return key != nullptr && key->wParam == VK_RETURN ? DLGC_WANTMESSAGE : DLGC_STATIC;
+    }
+    case WM_KEYDOWN:
+        if (wParam == VK_RETURN || wParam == VK_SPACE)
+            Click(label);
+        return 0;
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS:
+    case WM_UPDATEUISTATE: {
+        const LRESULT result = DefSubclassProc(label, message, wParam, lParam);
+        InvalidateRect(label, nullptr, TRUE);
+        return result;
+    }
+    case WM_PAINT: {
+        const LRESULT result = DefSubclassProc(label, message, wParam, lParam);
+        DrawFocus(label);
+        return result;
+    }
+    case WM_GETOBJECT:
+        if (static_cast<LONG>(lParam) == OBJID_CLIENT) {
+            if (const LRESULT answer = AnswerAsLink(label, wParam, OBJID_CLIENT))
+                return answer;
+        }
+        return DefSubclassProc(label, message, wParam, lParam);
+    default:
+        return DefSubclassProc(label, message, wParam, lParam);
+    }
+}
+
+LRESULT CALLBACK Procedure(HWND label, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR) {
+    return AtBoundary([=] { return OnMessage(label, message, wParam, lParam); });
+}
+
+} // namespace
+
+LRESULT UseLinkColours(HDC context) {
+    SetTextColor(context, GetSysColor(COLOR_HOTLIGHT));
+    SetBkMode(context, TRANSPARENT);
+    return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_BTNFACE));
+}
+
+void MakeLink(HWND label) {
+    SetWindowSubclass(label, Procedure, 0, 0);
+}
+
+} // namespace obrin

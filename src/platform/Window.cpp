@@ -1,0 +1,30 @@
+#include "platform/Window.h"
+
+#include "platform/Failure.h"
+
+#include <algorithm>
+
+namespace obrin {
+
+HWND CreateControl(HWND parent, const char* controlClass, int id, DWORD style, const char* text,
+                   DWORD extendedStyle) {
+    const HWND control = CreateWindowExA(
+        extendedStyle, controlClass, text, WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | style, 0, 0, 0, 0,
+        parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), Instance(), nullptr);
+    if (control == nullptr)
+        ThrowLastError("Creating the menu window");
+    return control;
+}
+
+void CentreOnScreen(HWND window, SIZE outer) {
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    GetMonitorInfoA(MonitorFromWindow(window, MONITOR_DEFAULTTOPRIMARY), &monitor);
+    const RECT& work = monitor.rcWork;
+    const LONG width = std::min(outer.cx, work.right - work.left);
+    const LONG height = std::min(outer.cy, work.bottom - work.top);
+    SetWindowPos(window, nullptr, (work.left + work.right - width) / 2, (work.top + work.bottom - height) / 2,
+                 width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+} // namespace obrin

@@ -1,0 +1,16 @@
+// Windows and controls made and placed by hand, as the ones of no dialog are.
+#pragma once
+
+#include "platform/WindowsApi.h"
+
+namespace obrin {
+
+/// A visible control without a size. Throws RunTimeError.
+HWND CreateControl(HWND parent, const char* controlClass, int id, DWORD style, const char* text = "",
+                   DWORD extendedStyle = 0);
+
+/// Gives a window its size in pixels, frame included, or as much of it as fits, in the middle of the screen
+/// that Windows chose for it.
+void CentreOnScreen(HWND window, SIZE outer);
+
+} // namespace obrin
