@@ -11,9 +11,6 @@ namespace obrin {
 /// The platform's codes for failures that the rules find themselves, without a failed call.
 enum class PlatformError : std::uint32_t {
     InvalidData = 13,
-    EndOfFile = 38,
-    InvalidName = 123,
-    AlreadyExists = 183,
     ArithmeticOverflow = 534,
     InvalidIndex = 1413,
 };

@@ -29,14 +29,14 @@ public:
     MenuDefinition Parse() {
         const auto header = NextLine();
         if (!header)
-            Fail(PlatformError::EndOfFile, "the file has no header line");
+            Fail("the file has no header line");
         MenuDefinition definition{.title = std::string(HeaderTitle(*header, isLeadByte)), .entries = {}};
         // All the room at once: the set of keys refers to the keys in the entries.
         definition.entries.reserve(std::min(lineEnds + 1, mostEntries));
         keys.reserve(definition.entries.capacity());
         while (const auto line = NextLine()) {
             if (definition.entries.size() == mostEntries)
-                Fail(PlatformError::ArithmeticOverflow, "more entries than a menu can count");
+                Fail("more entries than a menu can count");
             ++counter;
             definition.entries.push_back(ParseEntry(*line));
             CheckKey(definition.entries.back().key);
@@ -76,21 +76,21 @@ private:
             return;
         // Nodes are found by index or by key, so a number cannot be a key.
         if (key.find_first_not_of("0123456789") == std::string::npos)
-            Fail(PlatformError::InvalidName, "the key " + key + " is a number");
+            Fail("the key " + key + " is a number");
         if (!keys.insert(key).second)
-            Fail(PlatformError::AlreadyExists, "the key " + key + " is there already");
+            Fail("the key " + key + " is there already");
     }
 
     std::int16_t ParentAt(std::size_t depth) const {
         if (depth == 0)
             return 0;
         if (depth > headings.size() || headings[depth - 1] == 0)
-            Fail(PlatformError::InvalidIndex, "there is no heading one level above this entry");
+            Fail("there is no heading one level above this entry");
         return headings[depth - 1];
     }
 
-    [[noreturn]] void Fail(PlatformError error, const std::string& reason) const {
-        throw RunTimeError(error,
+    [[noreturn]] void Fail(const std::string& reason) const {
+        throw RunTimeError(PlatformError::InvalidData,
                            std::string(fileName) + ", line " + std::to_string(lineNumber) + ": " + reason);
     }
 

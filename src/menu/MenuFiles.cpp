@@ -17,7 +17,7 @@ std::vector<MenuFile> EnumerateMenuFiles() {
             continue;
         const std::string header = ReadFirstLine(name);
         if (files.size() == SYSTEMS_TEMPLATE)
-            throw RunTimeError(PlatformError::AlreadyExists,
+            throw RunTimeError(PlatformError::InvalidIndex,
                                "Adding " + name + " to the system list as item 99");
         files.push_back({.name = name, .title = std::string(HeaderTitle(header, isLeadByte))});
     }

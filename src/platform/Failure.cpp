@@ -6,13 +6,21 @@ namespace obrin {
 
 namespace {
 
+// Files are named relative to it: on a workstation with several installations the name alone tells little.
+std::string CurrentFolderLine() {
+    char folder[1024];
+    const DWORD length = GetCurrentDirectoryA(sizeof folder, folder);
+    return length == 0 || length >= sizeof folder ? ""
+                                                  : "\r\n\r\nCurrent folder: " + std::string(folder, length);
+}
+
 bool ending = false;
 
 [[noreturn]] void End(DWORD code, const char* doing) noexcept {
     ending = true;
     // Task-modal: no other window of ours may act while the program ends.
-    MessageBoxA(nullptr, (PlatformText(code) + "\r\n\r\n" + doing).c_str(), applicationTitle,
-                MB_OK | MB_ICONERROR | MB_TASKMODAL | MB_SETFOREGROUND);
+    MessageBoxA(nullptr, (PlatformText(code) + "\r\n\r\n" + doing + CurrentFolderLine()).c_str(),
+                applicationTitle, MB_OK | MB_ICONERROR | MB_TASKMODAL | MB_SETFOREGROUND);
     ExitProcess(1);
 }
 

@@ -17,8 +17,9 @@ std::string PlatformText(DWORD code);
 /// Throws the calling thread's last error with what was being done.
 [[noreturn]] void ThrowLastError(const std::string& doing);
 
-/// Shows the platform's text for the error that is being handled and what failed, then ends the program
-/// with exit code 1, at once: no exit command for the host, no remembered system. Only for catch blocks.
+/// Shows the platform's text for the error that is being handled, what failed and the folder that relative
+/// paths stand in, then ends the program with exit code 1, at once: no exit command for the host, no
+/// remembered system. Only for catch blocks.
 [[noreturn]] void EndWithCurrentError() noexcept;
 
 /// Whether that is happening: its box lets events through, which must not start the orderly close.

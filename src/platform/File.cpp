@@ -155,7 +155,7 @@ std::string ReadFirstLine(const std::string& path) {
     }
     const auto line = LineReader(start).Next();
     if (!line)
-        throw RunTimeError(PlatformError::EndOfFile, "Reading the first line of " + path);
+        throw RunTimeError(PlatformError::InvalidData, "Reading the first line of " + path);
     return std::string(*line);
 }
 
