@@ -2,6 +2,8 @@
 
 #include "startup/HostConfiguration.h"
 
+#include <algorithm>
+
 namespace {
 
 std::string Upper(std::string text) {
@@ -19,6 +21,7 @@ std::string Rewrite(std::string_view configuration) {
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string once = Rewrite(Text(data, size));
     Require(once.starts_with("Drive S,C:\\HOST,X,\\\r\n"));
+    Require(std::ranges::count(once, '\n') == std::ranges::count(once, '\r'));
     Require(Rewrite(once) == once); // the next start changes nothing
     return 0;
 }

@@ -18,7 +18,7 @@ bool IsDriveLine(std::string_view line, UpperCaser upperCase) {
 std::string BlankDriveLines(std::string_view configuration, UpperCaser upperCase) {
     std::string blanked;
     blanked.reserve(configuration.size());
-    LineReader lines(configuration);
+    LineReader lines(configuration, LoneLf::EndsLine); // some editors end lines so
     while (const auto line = lines.Next()) {
         if (!IsDriveLine(*line, upperCase))
             blanked += *line;

@@ -9,7 +9,7 @@
 namespace obrin {
 
 /// Pass 1: every line kept, but emptied when its first five letters are "Drive" in any case. Each line of
-/// the result ends in CR LF.
+/// the result ends in CR LF, also where a lone LF ended it.
 std::string BlankDriveLines(std::string_view configuration, UpperCaser upperCase);
 
 /// Pass 2: the drive line of the folder first, then every line of pass 1's result that is not blank.

@@ -18,6 +18,7 @@ TEST(HostConfiguration, FirstPassBlanksDriveLinesAndKeepsTheOthers) {
     const std::pair<const char*, const char*> cases[] = {
         {"DRIVE A\r\nx\r\ndrive\r\nDrive S,C:\\OLD,X,\\\r\n", "\r\nx\r\n\r\n\r\n"},
         {"Drivers=3\r\nMyDrive\r\nDriv\r\n Drive\r\n", "\r\nMyDrive\r\nDriv\r\n Drive\r\n"},
+        {"drive\nFiles 1\nDrive\r\n\rlast\n", "\r\nFiles 1\r\n\r\n\r\nlast\r\n"},
         {"\x80\xFF\tx\r\n  \r\nlast", "\x80\xFF\tx\r\n  \r\nlast\r\n"},
         {"", ""},
     };
