@@ -288,7 +288,7 @@ void Form2::Command2_Click() {
 void Form2::SaveSettings() const {
     SettingValues values;
     for (std::size_t i = 0; i < settings.size(); ++i)
-        values[i] = ValueOf(settings[i].control);
+        values[i] = ValueOf(i);
     SaveSystemSettings(IniPath, values);
 }
 
@@ -296,14 +296,15 @@ void Form2::LoadSettings() {
     const std::string lastSystem = corvel.GetRegValue(HKEY_LOCAL_MACHINE, registryKey, "LastSystem");
     SetWindowTextA(Item(IDC_TXT_SYSTEM),
                    std::string(FirstCharacters(lastSystem, 2, CodePageLeadByteTest())).c_str());
-    const LoadedSettings loaded = LoadSystemSettings(IniPath);
+    loaded = LoadSystemSettings(IniPath);
     for (std::size_t i = 0; i < settings.size(); ++i) {
         if (loaded[i])
-            ShowValue(settings[i].control, *loaded[i]);
+            ShowValue(i, *loaded[i]);
     }
 }
 
-void Form2::ShowValue(int control, const std::string& value) {
+void Form2::ShowValue(std::size_t setting, const std::string& value) {
+    const int control = settings[setting].control;
     if (const auto margin = ElementOf(control, IDC_SLD_MARGIN); margin < sldMargin.size()) {
         SendMessageA(sldMargin[margin], TBM_SETPOS, TRUE, MarginOf(value));
         // Also when the value was the same: the box may hold something else that was typed.
@@ -317,15 +318,19 @@ void Form2::ShowValue(int control, const std::string& value) {
         SendMessageA(cmbOrientation, CB_SETCURSEL, static_cast<WPARAM>(item), 0);
     }
     SetWindowTextA(Item(control), value.substr(0, longestText).c_str());
+    shown[setting] = WindowText(Item(control));
 }
 
-std::string Form2::ValueOf(int control) const {
+std::string Form2::ValueOf(std::size_t setting) const {
+    const int control = settings[setting].control;
     // The box can be edited, but the name in the file is always the tree's.
     if (control == IDC_TXT_PROGRAM_NAME)
         return treeTag;
     if (const auto margin = ElementOf(control, IDC_SLD_MARGIN); margin < sldMargin.size())
         return ShortestThousandths(SliderValue(margin));
-    return WindowText(Item(control));
+    // A box that nobody edited may have had no room for all of its value.
+    std::string text = WindowText(Item(control));
+    return loaded[setting] && text == shown[setting] ? *loaded[setting] : text;
 }
 
 HWND Form2::Item(int id) const {

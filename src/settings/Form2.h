@@ -42,8 +42,8 @@ private:
     void BringToFront(std::size_t page);
     void SaveSettings() const;
     void LoadSettings();
-    void ShowValue(int control, const std::string& value);
-    std::string ValueOf(int control) const;
+    void ShowValue(std::size_t setting, const std::string& value);
+    std::string ValueOf(std::size_t setting) const;
     HWND Item(int id) const;
     int SliderValue(std::size_t index) const;
     void WriteMarginText(std::size_t index);
@@ -52,6 +52,8 @@ private:
     const std::string& treeTag;
     std::string IniPath;
     std::string rememberedOrientation; // of when the list was last opened
+    LoadedSettings loaded;             // by which the controls were set last
+    SettingValues shown;               // the boxes' texts since then
     std::size_t shownPage = 0;         // the tag of TabStrip1
 
     HWND TabStrip1 = nullptr;

@@ -140,6 +140,10 @@ TEST_F(Properties, OpensADamagedFileAtOnceWithinTheLimitsOfItsControls) {
     const ULONGLONG start = GetTickCount64();
     Open(0, [&] {
         EXPECT_EQ(Text(IDC_TXT_HELP_FILE), large.substr(0, 32767)) << "as much as can be typed";
+        SetText(IDC_CMB_ORIENTATION, "edited");
+        Press(IDC_APPLY);
+        EXPECT_TRUE(Saved("HelpFile          =     " + large)) << "as it was loaded";
+        EXPECT_TRUE(Saved("Orientation       =     edited"));
         EXPECT_EQ(Margin(0) + "|" + Margin(1) + "|" + Margin(2) + "|" + Margin(3),
                   "0.25 250|4 4000|0.25 250|1.235 1235");
     });
