@@ -24,30 +24,31 @@ namespace {
 constexpr std::array folders{".\\Ini\\", ".\\Ini\\Core\\", ".\\Ini\\Core\\Programs\\"};
 constexpr const char* key = "Core\\Programs\\CSBackup";
 
-void SaveBare(const std::string& path, const std::string& bytes) {
-    for (const char* folder : folders)
-        GetFileAttributesA(folder);
-    const DWORD attributes = GetFileAttributesA(path.c_str());
-    std::array<char, MAX_PATH> beside{};
-    GetTempFileNameA(folders.back(), "Obr", 0, beside.data());
-    const HANDLE file = CreateFileA(beside.data(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
-    DWORD count = 0;
-    WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &count, nullptr);
-    FlushFileBuffers(file);
-    CloseHandle(file);
-    std::array<std::byte, 4096> rights;
-    if (GetFileSecurityA(path.c_str(), DACL_SECURITY_INFORMATION, rights.data(), rights.size(), &count))
-        SetFileSecurityA(beside.data(), DACL_SECURITY_INFORMATION, rights.data());
-    SetFileAttributesA(beside.data(), attributes);
-    MoveFileExA(beside.data(), path.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
-}
-
 void LoadBare(const std::string& path) {
     std::array<char, 4096> bytes;
     DWORD count = 0;
     const HANDLE file =
         CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
     ReadFile(file, bytes.data(), bytes.size(), &count, nullptr);
+    CloseHandle(file);
+}
+
+void SaveBare(const std::string& path, const std::string& bytes) {
+    for (const char* folder : folders)
+        GetFileAttributesA(folder);
+    const DWORD attributes = GetFileAttributesA(path.c_str());
+    LoadBare(path); // who does not look writes what is right already
+    const std::string beside = path + ".tmp";
+    const HANDLE file =
+        CreateFileA(beside.c_str(), GENERIC_WRITE, FILE_SHARE_DELETE, nullptr, CREATE_NEW, 0, nullptr);
+    DWORD count = 0;
+    WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &count, nullptr);
+    FlushFileBuffers(file);
+    SetFileAttributesA(beside.c_str(), attributes);
+    std::array<std::byte, 4096> rights;
+    if (GetFileSecurityA(path.c_str(), DACL_SECURITY_INFORMATION, rights.data(), rights.size(), &count))
+        SetFileSecurityA(beside.c_str(), DACL_SECURITY_INFORMATION, rights.data());
+    MoveFileExA(beside.c_str(), path.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
     CloseHandle(file);
 }
 
@@ -94,12 +95,21 @@ std::vector<Row> MeasureSettings() {
     SetEnvironmentVariableA("TesselTemp", ".");
     const std::string path = SettingsPath(key);
     WriteDefaultSettings(path, key);
-    const SettingValues values = DefaultSettings(key, StringOfTable);
-    const std::string bytes = FormatSettings(values);
+    SettingValues values = DefaultSettings(key, StringOfTable);
+    std::string bytes = FormatSettings(values);
+    // Another value each time: what is right already is not saved again.
+    const auto change = [](std::string& text) { text.back() ^= 1; };
     const auto microseconds = [](auto&& work) { return 1e6 * Timed(work); };
     const Medians saving = Alternate(
-        101, [&] { return microseconds([&] { SaveSystemSettings(path, values); }); },
-        [&] { return microseconds([&] { SaveBare(path, bytes); }); });
+        101,
+        [&] {
+            change(values.back());
+            return microseconds([&] { SaveSystemSettings(path, values); });
+        },
+        [&] {
+            change(bytes);
+            return microseconds([&] { SaveBare(path, bytes); });
+        });
     const Medians loading = Alternate(
         301, [&] { return microseconds([&] { LoadSystemSettings(path); }); },
         [&] { return microseconds([&] { LoadBare(path); }); });

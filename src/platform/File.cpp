@@ -2,12 +2,10 @@
 
 #include "common/Lines.h"
 #include "platform/Failure.h"
-#include "platform/Workstation.h"
 
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <vector>
 
 namespace obrin {
 
@@ -20,10 +18,12 @@ HANDLE Open(const std::string& path, File::Use use) {
     struct Mode {
         DWORD access, disposition;
     };
-    constexpr std::array<Mode, 3> modes{{
+    constexpr std::array<Mode, 5> modes{{
         {GENERIC_READ, OPEN_EXISTING},
         {GENERIC_READ | GENERIC_WRITE, OPEN_ALWAYS},
         {GENERIC_WRITE, CREATE_ALWAYS},
+        {GENERIC_WRITE, OPEN_EXISTING},
+        {GENERIC_WRITE | DELETE, CREATE_NEW},
     }};
     const auto [access, disposition] = modes[static_cast<std::size_t>(use)];
     const HANDLE handle =
@@ -32,44 +32,6 @@ HANDLE Open(const std::string& path, File::Use use) {
     if (handle == INVALID_HANDLE_VALUE)
         ThrowLastError("Opening " + path);
     return handle;
-}
-
-// An empty file with a name of its own in the folder of `path`: other workstations save at the same moment.
-std::string CreateFileBeside(const std::string& path) {
-    const auto nameStart = FindLastCharacter(path, '\\', CodePageLeadByteTest()) + 1;
-    const std::string folder = nameStart == 0 ? "." : path.substr(0, nameStart);
-    std::array<char, MAX_PATH> name;
-    if (GetTempFileNameA(folder.c_str(), "Obr", 0, name.data()) == 0)
-        ThrowLastError("Writing " + path);
-    return name.data();
-}
-
-// Who may do what with a file; as much of it as the file system lets a user see and set.
-void CopyRights(const std::string& from, const std::string& to) {
-    DWORD size = 0;
-    GetFileSecurityA(from.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
-    std::vector<std::byte> rights(size);
-    if (!GetFileSecurityA(from.c_str(), DACL_SECURITY_INFORMATION, rights.data(), size, &size))
-        return;
-    // What the file inherits from its folder stays inherited.
-    auto* description = reinterpret_cast<SECURITY_DESCRIPTOR_RELATIVE*>(rights.data());
-    if ((description->Control & SE_DACL_AUTO_INHERITED) != 0)
-        description->Control |= SE_DACL_AUTO_INHERIT_REQ;
-    SetFileSecurityA(to.c_str(), DACL_SECURITY_INFORMATION, rights.data());
-}
-
-// Another workstation may be reading the file at this instant, which refuses its replacement.
-bool MoveWithPatience(const std::string& from, const std::string& to) {
-    constexpr int tries = 20;
-    constexpr DWORD pause = 25; // milliseconds
-    for (int i = 1;; ++i) {
-        if (MoveFileExA(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
-            return true;
-        const DWORD error = GetLastError();
-        if ((error != ERROR_SHARING_VIOLATION && error != ERROR_ACCESS_DENIED) || i == tries)
-            return false;
-        Sleep(pause);
-    }
 }
 
 } // namespace
@@ -124,14 +86,28 @@ void File::Seek(std::uint64_t position) {
         Fail("Writing ");
 }
 
-void File::FlushAndClose() {
+void File::EndHere() {
+    if (!SetEndOfFile(handle.get()))
+        Fail("Writing ");
+}
+
+void File::Flush() {
     if (!FlushFileBuffers(handle.get())) {
         // Some shares cannot be asked to; what they were given has been accepted.
         const DWORD error = GetLastError();
         if (error != ERROR_INVALID_FUNCTION && error != ERROR_NOT_SUPPORTED)
             Fail("Writing ");
     }
+}
+
+void File::FlushAndClose() {
+    Flush();
     Close();
+}
+
+void File::DeleteWhenClosed() noexcept {
+    FILE_DISPOSITION_INFO disposition{TRUE};
+    SetFileInformationByHandle(handle.get(), FileDispositionInfo, &disposition, sizeof disposition);
 }
 
 void File::Close() {
@@ -163,28 +139,6 @@ void WriteFileBytes(const std::string& path, std::string_view bytes) {
     File file(path, File::Use::Truncate);
     file.Write(bytes);
     file.Close();
-}
-
-void ReplaceFileBytes(const std::string& path, std::string_view bytes) {
-    const DWORD attributes = GetFileAttributesA(path.c_str());
-    const bool exists = attributes != INVALID_FILE_ATTRIBUTES;
-    if (exists && (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) != 0)
-        throw RunTimeError(ERROR_ACCESS_DENIED, "Writing " + path);
-    const std::string beside = CreateFileBeside(path);
-    try {
-        File file(beside, File::Use::Truncate);
-        file.Write(bytes);
-        file.FlushAndClose();
-        if (exists) {
-            CopyRights(path, beside);
-            SetFileAttributesA(beside.c_str(), attributes);
-        }
-        if (!MoveWithPatience(beside, path))
-            ThrowLastError("Writing " + path);
-    } catch (const RunTimeError& error) {
-        DeleteFileA(beside.c_str());
-        throw RunTimeError(error.Code(), "Writing " + path); // the file that the user knows
-    }
 }
 
 bool FileExists(const std::string& path) {

@@ -18,6 +18,8 @@ public:
         Read,      ///< must exist
         ReadWrite, ///< created when missing
         Truncate,  ///< for writing, created or emptied
+        InPlace,   ///< for writing over what is there, must exist
+        New,       ///< for writing and for DeleteWhenClosed, must not exist
     };
 
     /// Throws RunTimeError when the file cannot be opened so.
@@ -31,11 +33,18 @@ public:
     void Write(std::string_view bytes);
     /// Moves the current position, in bytes from the start. Throws RunTimeError.
     void Seek(std::uint64_t position);
-    /// Waits until the written bytes are on disk and closes the file. Throws RunTimeError, which is where a
-    /// share reports what it could not store.
+    /// Makes the current position the end of the file. Throws RunTimeError.
+    void EndHere();
+    /// Waits until the written bytes are on disk. Throws RunTimeError, which is where a share reports what it
+    /// could not store.
+    void Flush();
     void FlushAndClose();
+    /// Lets the file go with this object, whatever rights it has been given since it was created as new.
+    void DeleteWhenClosed() noexcept;
     /// Closes the file, for contents that may get lost when the power does. Throws RunTimeError.
     void Close();
+
+    const std::string& Path() const { return path; }
 
 private:
     [[noreturn]] void Fail(const char* doing) const;
@@ -53,11 +62,6 @@ std::string ReadFirstLine(const std::string& path);
 
 /// Writes a whole file in its place (created or truncated). Throws RunTimeError.
 void WriteFileBytes(const std::string& path, std::string_view bytes);
-
-/// Gives a file new contents without ever being without the old or the new ones: they are complete on disk,
-/// under a name beside it, before they take the file's place, its rights and its attributes. Throws
-/// RunTimeError and leaves the file alone.
-void ReplaceFileBytes(const std::string& path, std::string_view bytes);
 
 /// Whether a file (no folder) of that name exists. A name with wildcards names no file. Throws RunTimeError
 /// when that cannot be told, as on a share that is not reached.

@@ -2,6 +2,7 @@
 
 #include "common/Text.h"
 #include "platform/File.h"
+#include "platform/FileReplacement.h"
 #include "platform/StringTable.h"
 #include "platform/Workstation.h"
 #include "settings/FrameWorkFolders.h"

@@ -15,8 +15,8 @@ std::string SettingsPath(std::string_view programKey);
 /// RunTimeError.
 void WriteDefaultSettings(const std::string& iniPath, const std::string& name);
 
-/// Writes the whole file with these values; folders that are missing are made. Until the new file is complete
-/// the old one stays. Throws RunTimeError.
+/// Writes the whole file with these values, unless it has them already; folders that are missing are made.
+/// Until the new file is complete the old one stays. Throws RunTimeError.
 void SaveSystemSettings(const std::string& iniPath, const SettingValues& values);
 
 /// The values of the file. Throws RunTimeError.

@@ -1,11 +1,14 @@
 #include "startup/StartUp.h"
 
 #include "platform/File.h"
+#include "platform/FileReplacement.h"
 #include "platform/Folder.h"
 #include "platform/WindowsApi.h"
 #include "platform/Workstation.h"
 #include "startup/HostConfiguration.h"
 #include "startup/HostLink.h"
+
+#include <utility>
 
 namespace obrin {
 
@@ -14,11 +17,12 @@ namespace {
 void RewriteHostConfiguration() {
     constexpr const char* configuration = "FennConfig.Sys";
     constexpr const char* temporary = "Core\\TempOut.tmp";
-    const std::string blanked = BlankDriveLines(ReadFileBytes(configuration), UpperCase);
+    std::string present = ReadFileBytes(configuration);
+    const std::string blanked = BlankDriveLines(present, UpperCase);
     WriteFileBytes(temporary, blanked);
     // Not read back from the temporary file: a workstation that starts at the same instant empties it. And
     // the configuration keeps its old lines until the new ones are safely on disk.
-    ReplaceFileBytes(configuration, WithDriveLine(ShortPath(CurrentFolder()), blanked));
+    ReplaceFileBytes(configuration, WithDriveLine(ShortPath(CurrentFolder()), blanked), std::move(present));
 }
 
 // Under any caption: the class alone counts.

@@ -3,6 +3,7 @@
 #include "maintenance/LocalMachine.h"
 #include "platform/Dialog.h"
 #include "platform/File.h"
+#include "platform/FileReplacement.h"
 #include "platform/ModalTest.h"
 #include "platform/ScratchFolder.h"
 #include "platform/Workstation.h"

@@ -41,22 +41,6 @@ TEST(File, OthersMayReadAndWriteAnOpenFile) {
     EXPECT_EQ(ReadFileBytes("shared"), "abcXef");
 }
 
-TEST(File, ReplacingKeepsTheOldContentsUntilTheNewAreComplete) {
-    const test::ScratchFolder folder;
-    ReplaceFileBytes("f", "first");
-    ReplaceFileBytes("f", "second");
-    {
-        const UniqueFile reader(
-            CreateFileA("f", GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
-        EXPECT_THROW(ReplaceFileBytes("f", "third"), RunTimeError);
-    }
-    CreateFolder("d");
-    EXPECT_THROW(ReplaceFileBytes("d", "x"), RunTimeError);
-    EXPECT_THROW(ReplaceFileBytes("missing\\f", "x"), RunTimeError);
-    EXPECT_EQ(ReadFileBytes("f"), "second");
-    EXPECT_EQ(ListNormalFiles("."), std::vector<std::string>{"f"}) << "nothing beside it";
-}
-
 TEST(File, ListingsShowNormalFilesOnly) {
     const test::ScratchFolder folder;
     for (const char* name : {"readonly", "archived", "hidden", "system"})

@@ -21,8 +21,8 @@ TEST(SettingsStore, LiesBelowTheFolderOfTheVariableAndKeepsTheOldFileWhenASaveFa
     WriteDefaultSettings(path, "old");
     const std::string old = ReadFileBytes(path);
     EXPECT_LT(old.size(), 500U) << "written whole";
-    const UniqueFile reader(CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE,
-                                        nullptr, OPEN_EXISTING, 0, nullptr));
+    const UniqueFile reader(
+        CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
     EXPECT_THROW(WriteDefaultSettings(path, "new"), RunTimeError);
     EXPECT_EQ(ReadFileBytes(path), old);
 }
