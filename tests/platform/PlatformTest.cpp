@@ -1,6 +1,7 @@
 #include "common/RunTimeError.h"
 #include "maintenance/LocalMachine.h"
 #include "platform/File.h"
+#include "platform/GroupBox.h"
 #include "platform/Picture.h"
 #include "platform/ScratchFolder.h"
 #include "platform/SupportLibrary.h"
@@ -70,6 +71,34 @@ TEST(Picture, IsScaledWithTheScreen) {
         WriteFileBytes("p.bmp", bad);
         EXPECT_THROW(LoadPicture("p.bmp"), RunTimeError);
     }
+}
+
+TEST(GroupBox, PaintsWhatIsBehindAThemedButtonInIt) {
+    const HWND box = CreateWindowExA(0, WC_BUTTONA, "Caption", WS_POPUP | BS_GROUPBOX, 0, 0, 200, 100,
+                                     nullptr, nullptr, nullptr, nullptr);
+    HoldControls(box);
+    constexpr int width = 90, height = 30;
+    const HWND button = CreateWindowExA(0, WC_BUTTONA, "Run", WS_CHILD | WS_VISIBLE, 20, 40, width, height,
+                                        box, nullptr, nullptr, nullptr);
+    const HDC screen = GetDC(nullptr);
+    const UniqueDc memory(CreateCompatibleDC(screen));
+    const UniqueBitmap bitmap(CreateCompatibleBitmap(screen, width, height));
+    ReleaseDC(nullptr, screen);
+    const HGDIOBJ old = SelectObject(memory.get(), bitmap.get());
+    constexpr COLORREF untouched = RGB(255, 0, 255);
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x)
+            SetPixel(memory.get(), x, y, untouched);
+    }
+    DrawThemeParentBackground(button, memory.get(), nullptr);
+    int left = 0;
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x)
+            left += GetPixel(memory.get(), x, y) == untouched ? 1 : 0;
+    }
+    SelectObject(memory.get(), old);
+    DestroyWindow(box);
+    EXPECT_EQ(left, 0);
 }
 
 } // namespace obrin
