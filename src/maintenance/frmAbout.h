@@ -18,8 +18,8 @@ private:
     void cmdOK_Click();
     void cmdSysInfo_Click();
 
-    void ApplyDpi();
-    void AutoSizeDescription();
+    void Adjust(DialogLayout& layout) const override;
+    void LaidOut() override;
 
     HWND picIcon = nullptr;
     HWND lblTitle = nullptr;

@@ -29,7 +29,6 @@ constexpr std::array<UpdateFile, 5> updateFiles{{
 // The first resize notification, which starts the first copy. The dialog manager's own comes at another
 // moment on each platform, on some before the window can be seen.
 constexpr UINT firstShown = WM_APP;
-constexpr UINT fontDue = WM_APP + 1;
 
 // A file that cannot be copied is passed over: the next one is tried, and nobody is told.
 void CopyUnexamined(const char* source, const std::string& destination) {
@@ -61,12 +60,6 @@ INT_PTR frmUpdate::OnMessage(UINT message, WPARAM wParam, LPARAM) {
             return FALSE;
         Command1_Click();
         return TRUE;
-    case WM_DPICHANGED:
-        PostMessageA(window, fontDue, 0, 0); // once the dialog manager has set its own
-        return FALSE;
-    case fontDue:
-        ApplyFont();
-        return TRUE;
     default:
         return FALSE;
     }
@@ -76,7 +69,7 @@ void frmUpdate::Form_Load() {
     Label1 = Control(IDC_LABEL1);
     Label2 = Control(IDC_LABEL2);
     Command1 = Control(IDOK);
-    ApplyFont();
+    LaidOut();
 
     // A quarter of its own height below the menu window's top and half its own width right of its left edge.
     RECT menu;
@@ -88,11 +81,12 @@ void frmUpdate::Form_Load() {
     SetWindowPos(window, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-void frmUpdate::ApplyFont() {
-    UniqueFont georgia = MakeFont("Georgia", 10, GetDpiForWindow(window));
-    SetFont(Label1, georgia.get());
-    SetFont(Label2, georgia.get());
-    font = std::move(georgia);
+void frmUpdate::LaidOut() {
+    UniqueFont newFont = MakeFont(georgia, 10, dpi);
+    SetFont(Label1, newFont.get());
+    SetFont(Label2, newFont.get());
+    labelFont = std::move(newFont);
+    LayLabel();
 }
 
 // Closed while files are copied, the window stays until they are: the register will say that the workstation
@@ -103,14 +97,17 @@ void frmUpdate::Command1_Click() {
         EndDialog(window, 0);
 }
 
-void frmUpdate::Form_Resize() {
+void frmUpdate::LayLabel() {
     RECT inner;
     GetClientRect(window, &inner);
     const int height = inner.bottom;
     const int margin = height / 16;
     SetWindowPos(Label1, nullptr, margin, height / 4, inner.right - 2 * margin, height / 4,
                  SWP_NOZORDER | SWP_NOACTIVATE);
+}
 
+void frmUpdate::Form_Resize() {
+    LayLabel();
     // A resize can arrive while files are copied, from the events processed between two of them. Its copy
     // sequence then follows the one at work.
     if (++copiesDue > 1)

@@ -15,14 +15,15 @@ private:
     INT_PTR OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void Form_Load();
     void Form_Resize();
-    void ApplyFont();
+    void LaidOut() override;
+    void LayLabel();
     void Command1_Click();
     void CopyFiles();
 
     HWND Label1 = nullptr;   // progress
     HWND Label2 = nullptr;   // what is going on
     HWND Command1 = nullptr; // "O&kay"
-    UniqueFont font;
+    UniqueFont labelFont;
     bool shown = false;
     int copiesDue = 0;    // resize notifications whose copy sequence has not ended
     bool closing = false; // the user has closed the window while files were copied

@@ -331,10 +331,10 @@ SIZE frmMain::DesignedOuterSize() const {
 
 // The old fonts go when the controls have the new ones.
 void frmMain::ApplyFonts() {
-    Fonts made{.title = MakeFont("Comic Sans MS", 18, dpi, {.bold = true}),
-               .label = MakeFont("Georgia", 10, dpi),
-               .link = MakeFont("Georgia", 10, dpi, {.underlined = true}),
-               .button = MakeFont("MS Sans Serif", 8, dpi),
+    Fonts made{.title = MakeFont(comicSans, 18, dpi, {.bold = true}),
+               .label = MakeFont(georgia, 10, dpi),
+               .link = MakeFont(georgia, 10, dpi, {.underlined = true}),
+               .button = MakeFont(msSansSerif, 8, dpi),
                .message = MakeMessageFont(dpi)};
     SetFont(Label1, made.title.get());
     SetFont(Label4, made.label.get());

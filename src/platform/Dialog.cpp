@@ -1,9 +1,20 @@
 #include "platform/Dialog.h"
 
 #include "platform/Failure.h"
+#include "platform/Font.h"
 #include "resources/Ids.h"
 
 namespace obrin {
+
+namespace {
+
+BOOL CALLBACK Tell(HWND control, LPARAM message) {
+    const auto& change = *reinterpret_cast<const MSG*>(message);
+    SendMessageA(control, change.message, change.wParam, change.lParam);
+    return TRUE;
+}
+
+} // namespace
 
 INT_PTR Dialog::ShowModal(HWND owner, int resource) {
     const INT_PTR result = DialogBoxParamA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(resource), owner,
@@ -25,14 +36,74 @@ void Dialog::ShowModeless(HWND owner, int resource) {
 INT_PTR CALLBACK Dialog::Procedure(HWND dialogWindow, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_INITDIALOG) {
         SetWindowLongPtrA(dialogWindow, DWLP_USER, lParam);
-        reinterpret_cast<Dialog*>(lParam)->window = dialogWindow;
+        auto* made = reinterpret_cast<Dialog*>(lParam);
+        made->window = dialogWindow;
+        made->dpi = GetDpiForWindow(dialogWindow);
+        made->design.emplace(dialogWindow);
         const HICON icon = LoadIconA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(IDI_OBRIN));
         SendMessageA(dialogWindow, WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(icon));
     }
     auto* dialog = reinterpret_cast<Dialog*>(GetWindowLongPtrA(dialogWindow, DWLP_USER));
     if (dialog == nullptr)
         return FALSE;
-    return AtBoundary([=] { return dialog->OnMessage(message, wParam, lParam); });
+    return AtBoundary([=] { return dialog->Handle(message, wParam, lParam); });
+}
+
+INT_PTR Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    // Answered here, neither gets to the dialog manager: it would scale from where the controls happen to be.
+    case WM_GETDPISCALEDSIZE:
+        *reinterpret_cast<SIZE*>(lParam) = OuterSizeAt(static_cast<UINT>(wParam));
+        SetWindowLongPtrA(window, DWLP_MSGRESULT, TRUE);
+        return TRUE;
+    case WM_DPICHANGED: {
+        const auto* suggested = reinterpret_cast<const RECT*>(lParam);
+        LayOut(LOWORD(wParam), {suggested->left, suggested->top});
+        return TRUE;
+    }
+    case WM_SYSCOLORCHANGE:
+    case WM_SETTINGCHANGE: {
+        const MSG change{window, message, wParam, lParam, 0, {}};
+        EnumChildWindows(window, Tell, reinterpret_cast<LPARAM>(&change));
+        [[fallthrough]];
+    }
+    case WM_THEMECHANGED: { // which Windows tells the controls
+        RECT place;
+        GetWindowRect(window, &place);
+        LayOut(dpi, {place.left, place.top});
+        return FALSE;
+    }
+    default:
+        return OnMessage(message, wParam, lParam);
+    }
+}
+
+DialogLayout Dialog::LayoutAt(UINT someDpi) const {
+    DialogLayout layout = design->At(someDpi);
+    Adjust(layout);
+    return layout;
+}
+
+SIZE Dialog::OuterSize(const DialogLayout& layout, UINT someDpi) const {
+    RECT outer{0, 0, layout.inner.cx, layout.inner.cy};
+    AdjustWindowRectExForDpi(&outer, GetWindowStyle(window), FALSE, GetWindowExStyle(window), someDpi);
+    return {outer.right - outer.left, outer.bottom - outer.top};
+}
+
+void Dialog::LayOut(UINT newDpi, POINT topLeft) {
+    dpi = newDpi;
+    DialogLayout layout = LayoutAt(dpi);
+    for (const auto& [control, place] : layout.places) {
+        SetFont(control, layout.font.get());
+        SetWindowPos(control, nullptr, place.left, place.top, place.right - place.left,
+                     place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+    font.swap(layout.font); // the old one goes when no control has it any more
+    LaidOut();
+    RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+    // Last: whatever the resize starts may close the dialog.
+    const SIZE outer = OuterSize(layout, dpi);
+    SetWindowPos(window, nullptr, topLeft.x, topLeft.y, outer.cx, outer.cy, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 std::string WindowText(HWND window) {

@@ -1,8 +1,10 @@
-// Joins a dialog of the resources and the object that handles its messages.
+// Joins a dialog of the resources and the object that handles its messages. The dialog follows the DPI of its
+// screen and the user's settings.
 #pragma once
 
-#include "platform/WindowsApi.h"
+#include "platform/DialogLayout.h"
 
+#include <optional>
 #include <string>
 
 namespace obrin {
@@ -27,12 +29,35 @@ protected:
     /// Returns TRUE for a message that needs nothing more, as a dialog procedure does.
     virtual INT_PTR OnMessage(UINT message, WPARAM wParam, LPARAM lParam) = 0;
 
+    /// What a layout has that the template does not say, such as the height of a text.
+    virtual void Adjust(DialogLayout&) const {}
+
+    /// The controls have got the places and the font for `dpi`; what has other ones gets them here. Not
+    /// called for a dialog as it was made.
+    virtual void LaidOut() {}
+
+    /// Lays the dialog out anew and puts it there.
+    void LayOut(UINT newDpi, POINT topLeft);
+
+    /// The size of its window at a DPI, in pixels.
+    SIZE OuterSizeAt(UINT someDpi) const { return OuterSize(LayoutAt(someDpi), someDpi); }
+
+    /// Lets the controls of a page, a dialog within this one, follow as well.
+    void AddPage(HWND page) { design->AddControlsOf(page); }
+
     HWND Control(int id) const { return GetDlgItem(window, id); }
 
     HWND window = nullptr;
+    UINT dpi = USER_DEFAULT_SCREEN_DPI;
 
 private:
     static INT_PTR CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    INT_PTR Handle(UINT message, WPARAM wParam, LPARAM lParam);
+    DialogLayout LayoutAt(UINT someDpi) const;
+    SIZE OuterSize(const DialogLayout& layout, UINT someDpi) const;
+
+    std::optional<DialogDesign> design;
+    UniqueFont font; // none of ours before the first layout
 };
 
 /// The text of a window or control.

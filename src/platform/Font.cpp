@@ -2,12 +2,12 @@
 
 namespace obrin {
 
-UniqueFont MakeFont(const char* face, int points, UINT dpi, FontStyle style) {
+UniqueFont MakeFont(const Face& face, int points, UINT dpi, FontStyle style) {
     constexpr int pointsPerInch = 72;
     return UniqueFont(CreateFontA(-MulDiv(points, static_cast<int>(dpi), pointsPerInch), 0, 0, 0,
                                   style.bold ? FW_BOLD : FW_NORMAL, FALSE, style.underlined ? TRUE : FALSE,
                                   FALSE, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS,
-                                  CLEARTYPE_QUALITY, DEFAULT_PITCH | FF_DONTCARE, face));
+                                  DEFAULT_QUALITY, DWORD{DEFAULT_PITCH} | face.family, face.name));
 }
 
 UniqueFont MakeMessageFont(UINT dpi) {
@@ -21,18 +21,31 @@ void SetFont(HWND control, HFONT font) {
     SendMessageA(control, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
 }
 
-SIZE MeasureText(HWND control, const std::string& text, int wrapWidth) {
-    const HDC context = GetDC(control);
-    const HGDIOBJ old =
-        SelectObject(context, reinterpret_cast<HFONT>(SendMessageA(control, WM_GETFONT, 0, 0)));
-    // As a label draws it, which takes "&" for the mark of an access key unless it is told not to.
-    const bool marks = (GetWindowLongA(control, GWL_STYLE) & SS_NOPREFIX) == 0;
+namespace {
+
+// As a label draws it.
+SIZE Measure(HFONT font, const std::string& text, int wrapWidth, UINT format) {
+    const HDC context = GetDC(nullptr);
+    const HGDIOBJ old = SelectObject(context, font);
     RECT area{0, 0, wrapWidth, 0};
     DrawTextA(context, text.data(), static_cast<int>(text.size()), &area,
-              DT_CALCRECT | DT_EXPANDTABS | (marks ? 0U : DT_NOPREFIX) | (wrapWidth > 0 ? DT_WORDBREAK : 0U));
+              DT_CALCRECT | DT_EXPANDTABS | format | (wrapWidth > 0 ? DT_WORDBREAK : 0U));
     SelectObject(context, old);
-    ReleaseDC(control, context);
+    ReleaseDC(nullptr, context);
     return {area.right, area.bottom};
+}
+
+} // namespace
+
+SIZE MeasureText(HFONT font, const std::string& text, int wrapWidth) {
+    return Measure(font, text, wrapWidth, DT_NOPREFIX);
+}
+
+SIZE MeasureText(HWND label, const std::string& text, int wrapWidth) {
+    // "&" marks an access key unless the label is told otherwise.
+    const bool marks = (GetWindowLongA(label, GWL_STYLE) & SS_NOPREFIX) == 0;
+    return Measure(reinterpret_cast<HFONT>(SendMessageA(label, WM_GETFONT, 0, 0)), text, wrapWidth,
+                   marks ? 0 : DT_NOPREFIX);
 }
 
 } // namespace obrin

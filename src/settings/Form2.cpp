@@ -23,8 +23,6 @@ constexpr std::array<const char*, 3> tabCaptions{"General", "Page Settings", "Pa
 // damaged file.
 constexpr std::size_t longestText = 32767;
 
-constexpr UINT pagesDue = WM_APP;
-
 // The element of a control array that an id names; out of the array's range for the id of another control.
 std::size_t ElementOf(int id, int firstId) {
     return static_cast<std::size_t>(id - firstId);
@@ -54,12 +52,6 @@ INT_PTR Form2::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             from->hwndFrom != TabStrip1 || from->code != static_cast<UINT>(TCN_SELCHANGE))
             return FALSE;
         TabStrip1_Click();
-        return TRUE;
-    case WM_DPICHANGED:
-        PostMessageA(window, pagesDue, 0, 0); // once the dialog manager has resized the tab strip
-        return FALSE;
-    case pagesDue:
-        LayPages();
         return TRUE;
     default:
         return FALSE;
@@ -107,6 +99,9 @@ INT_PTR CALLBACK Form2::PageProcedure(HWND page, UINT message, WPARAM wParam, LP
     case WM_HSCROLL:
         SendMessageA(GetParent(page), message, wParam, lParam);
         return TRUE;
+    case WM_DPICHANGED_BEFOREPARENT:
+    case WM_DPICHANGED_AFTERPARENT:
+        return TRUE; // laid out with the dialog
     default:
         return FALSE;
     }
@@ -128,6 +123,7 @@ void Form2::CreatePages() {
                                       PageProcedure, 0);
         if (Frame[i] == nullptr)
             ThrowLastError("Opening the Properties dialog");
+        AddPage(Frame[i]);
         // Visible behind the first page, and out of the keyboard's reach.
         EnableWindow(Frame[i], FALSE);
         SetWindowPos(Frame[i], HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);

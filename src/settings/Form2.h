@@ -38,6 +38,7 @@ private:
 
     void CreatePages();
     void PrepareSliders();
+    void LaidOut() override { LayPages(); }
     void LayPages();
     void BringToFront(std::size_t page);
     void SaveSettings() const;

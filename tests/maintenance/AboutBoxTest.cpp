@@ -18,30 +18,33 @@ protected:
     }
 };
 
-// Every text has the room that it needs, no control covers another, and none leaves the box.
+// On every screen each text has the room that it needs, no control covers another, and none leaves the box.
 TEST_F(AboutBox, SaysItsTextsUnclipped) {
     std::string texts;
     ShowWhile([&](HWND box) {
         EXPECT_FALSE(IsWindowEnabled(owner));
         EXPECT_NE(SendDlgItemMessageA(box, IDC_PIC_ICON, STM_GETICON, 0, 0), 0);
         EXPECT_EQ(GetDlgCtrlID(GetFocus()), IDOK);
-        RECT inner, place, common;
-        GetClientRect(box, &inner);
-        MapWindowPoints(box, nullptr, reinterpret_cast<POINT*>(&inner), 2);
-        std::vector<RECT> places;
-        texts = WindowText(box);
-        for (HWND control = GetWindow(box, GW_CHILD); control != nullptr;
-             control = GetWindow(control, GW_HWNDNEXT)) {
-            const std::string text = WindowText(control);
-            texts += "|" + text;
-            GetWindowRect(control, &place);
-            EXPECT_GE(place.bottom - place.top, MeasureText(control, text, place.right - place.left).cy)
-                << text;
-            UnionRect(&common, &inner, &place);
-            EXPECT_TRUE(EqualRect(&common, &inner)) << text;
-            for (const RECT& other : places)
-                EXPECT_FALSE(IntersectRect(&common, &place, &other)) << text;
-            places.push_back(place);
+        for (const WPARAM dpi : {96U, 120U, 144U, 168U, 192U}) {
+            RECT inner{}, place, common;
+            SendMessageA(box, WM_DPICHANGED, dpi, reinterpret_cast<LPARAM>(&inner));
+            GetClientRect(box, &inner);
+            MapWindowPoints(box, nullptr, reinterpret_cast<POINT*>(&inner), 2);
+            std::vector<RECT> places;
+            texts = WindowText(box);
+            for (HWND control = GetWindow(box, GW_CHILD); control != nullptr;
+                 control = GetWindow(control, GW_HWNDNEXT)) {
+                const std::string text = WindowText(control);
+                texts += "|" + text;
+                GetWindowRect(control, &place);
+                EXPECT_GE(place.bottom - place.top, MeasureText(control, text, place.right - place.left).cy)
+                    << text;
+                UnionRect(&common, &inner, &place);
+                EXPECT_TRUE(EqualRect(&common, &inner)) << text;
+                for (const RECT& other : places)
+                    EXPECT_FALSE(IntersectRect(&common, &place, &other)) << text;
+                places.push_back(place);
+            }
         }
         SendMessageA(box, WM_COMMAND, IDOK, 0);
     });

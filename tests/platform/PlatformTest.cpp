@@ -39,8 +39,10 @@ TEST(Images, AreForWindows10AndTakeNothingFromTheirOwnFolder) {
         std::array<char, MAX_PATH> own;
         GetModuleFileNameA(nullptr, own.data(), own.size());
         const auto file = std::filesystem::path(own.data()).replace_filename(name).string();
-        const auto* base =
-            reinterpret_cast<const char*>(LoadLibraryExA(file.c_str(), nullptr, DONT_RESOLVE_DLL_REFERENCES));
+        // Mapped without being linked; the handle's lowest bits say so.
+        const auto mapped = reinterpret_cast<std::uintptr_t>(
+            LoadLibraryExA(file.c_str(), nullptr, LOAD_LIBRARY_AS_IMAGE_RESOURCE));
+        const auto* base = reinterpret_cast<const char*>(mapped & ~std::uintptr_t{3});
         ASSERT_NE(base, nullptr) << file;
         const auto* dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(base);
         const auto* headers = reinterpret_cast<const IMAGE_NT_HEADERS*>(base + dos->e_lfanew);
