@@ -1,17 +1,88 @@
 #!/usr/bin/env bash
-# Draws launcher.ico anew: a small menu tree on a tile. Needs ImageMagick.
+# Draws launcher.ico anew: a small menu tree on a tile, for each size in whole pixels of its own. Needs ImageMagick.
 set -euo pipefail
 cd "$(dirname "$0")"
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-# In units of a 64 x 64 grid: tile, trunk with two branches, three nodes.
-for size in 16 20 24 32 48; do
-  convert -size 1024x1024 xc:none -scale 1024x1024 \
-    -draw "scale 16,16 fill #1f4e79 roundrectangle 2,2 62,62 11,11
-           fill #9cc3e6 rectangle 17,20 21,50 rectangle 17,32 36,36 rectangle 17,46 36,50
-           fill #ffffff roundrectangle 11,11 35,22 3,3
-           fill #f4b942 roundrectangle 33,28 55,39 3,3
-           fill #ffffff roundrectangle 33,43 55,54 3,3" \
-    -filter Lanczos -resize "${size}x${size}" "$work/$size.png"
+
+# Box COLOUR X0 Y0 X1 Y1 RADIUS: the last pixels belong to it.
+box() {
+  if (($6 == 0)); then
+    printf 'fill %s rectangle %d,%d %d,%d\n' "${@:1:5}"
+  else
+    printf 'fill %s roundrectangle %d,%d %d,%d %d,%d\n' "$@" "$6"
+  fi
+}
+
+# draw SIZE, then where the first pixels and the last ones are: tile with its radius, the root of the tree, its two
+# nodes with the radius of all three, the trunk from left to right and the two branches from top to bottom.
+draw() {
+  local size=$1 tile=$2 tile_end=$3 tile_radius=$4 radius=$5 trunk=$6 trunk_end=$7 branch1=$8 branch2=$9
+  local thick=$((trunk_end - trunk))
+  shift 9
+  local shapes
+  shapes=$(
+    box '#1f4e79' "$tile" "$tile" "$tile_end" "$tile_end" "$tile_radius"
+    box '#9cc3e6' "$trunk" "$4" "$trunk_end" $((branch2 + thick)) 0
+    box '#9cc3e6' "$trunk" "$branch1" "$5" $((branch1 + thick)) 0
+    box '#9cc3e6' "$trunk" "$branch2" "$9" $((branch2 + thick)) 0
+    box '#ffffff' "$1" "$2" "$3" "$4" "$radius"
+    box '#f4b942' "${@:5:4}" "$radius"
+    box '#ffffff' "${@:9:4}" "$radius"
+  )
+  convert -size "${size}x$size" xc:none -draw "$shapes" -strip -depth 8 \
+    -define png:exclude-chunks=date,time "PNG32:$work/$size.png"
+}
+
+#    size tile     radii trunk branches  root         first node   second node
+draw 16   0 15     2 0   4 4   8 12      2 2 8 4      7 7 13 9     7 11 13 13
+draw 20   0 19     3 0   5 5   10 15     3 3 10 5     8 9 16 11    8 14 16 16
+draw 24   0 23     4 0   6 7   11 18     3 3 13 6     11 10 20 13  11 17 20 20
+draw 32   1 30     5 1   8 9   16 24     5 5 17 10    16 14 27 19  16 22 27 27
+draw 40   1 38     7 2   11 13 19 29     7 7 22 13    20 17 34 23  20 27 34 33
+draw 48   1 46     8 2   12 14 23 35     8 8 26 16    24 20 40 28  24 32 40 40
+large=(   2 61     11 3  17 20 32 47     11 11 34 22  33 28 54 39  33 43 54 54)
+draw 64 "${large[@]}"
+for factor in 2 4; do
+  scaled=()
+  for i in "${!large[@]}"; do
+    case $i in
+      1 | 5 | 10 | 11 | 14 | 15 | 18 | 19) scaled+=($((large[i] * factor + factor - 1))) ;; # a last pixel
+      *) scaled+=($((large[i] * factor))) ;;
+    esac
+  done
+  draw $((64 * factor)) "${scaled[@]}"
 done
-convert "$work"/{16,20,24,32,48}.png launcher.ico
+
+# little_endian BYTES NUMBER...
+little_endian() {
+  local bytes=$1 number i
+  shift
+  for number; do
+    for ((i = 0; i < bytes; i++)); do
+      printf "\\x$(printf %02x $((number >> 8 * i & 255)))"
+    done
+  done
+}
+
+# The small ones, which every window loads, as bitmaps; the others, as PNG, take a tenth of the room.
+sizes=(16 20 24 32 40 48 64 128 256)
+for size in "${sizes[@]}"; do
+  if ((size <= 32)); then
+    convert "$work/$size.png" ico:- | tail -c +23 >"$work/$size"
+  else
+    cp "$work/$size.png" "$work/$size"
+  fi
+done
+{
+  little_endian 2 0 1 ${#sizes[@]}
+  offset=$((6 + 16 * ${#sizes[@]}))
+  for size in "${sizes[@]}"; do
+    bytes=$(stat -c %s "$work/$size")
+    little_endian 1 $((size % 256)) $((size % 256)) 0 0
+    little_endian 2 1 32
+    little_endian 4 "$bytes" "$offset"
+    offset=$((offset + bytes))
+  done
+  cat "${sizes[@]/#/$work/}"
+} >launcher.ico
