@@ -8,7 +8,7 @@ namespace {
 
 constexpr int pointsPerInch = 72;
 
-SIZE UnitsOf(HDC context) {
+SIZE CharacterOf(HDC context) {
     constexpr std::string_view letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
     SIZE extent{};
     GetTextExtentPoint32A(context, letters.data(), letters.size(), &extent);
@@ -18,15 +18,16 @@ SIZE UnitsOf(HDC context) {
     return {(extent.cx / 26 + 1) / 2, metrics.tmHeight};
 }
 
-RECT InPixels(const RECT& place, SIZE units) {
-    return {MulDiv(place.left, units.cx, 4), MulDiv(place.top, units.cy, 8), MulDiv(place.right, units.cx, 4),
-            MulDiv(place.bottom, units.cy, 8)};
-}
+// A font's average character is four dialog units wide and eight high.
+constexpr SIZE unitsOfCharacter{4, 8};
 
-// Exact, since a unit is larger than a pixel.
-RECT InUnits(const RECT& place, SIZE units) {
-    return {MulDiv(place.left, 4, units.cx), MulDiv(place.top, 8, units.cy), MulDiv(place.right, 4, units.cx),
-            MulDiv(place.bottom, 8, units.cy)};
+// From one measure of a character to another: place and size each for itself, as the dialog manager does.
+// From pixels to units this is exact, since a unit is larger than a pixel.
+RECT Converted(const RECT& place, SIZE from, SIZE to) {
+    const int left = MulDiv(place.left, to.cx, from.cx);
+    const int top = MulDiv(place.top, to.cy, from.cy);
+    return {left, top, left + MulDiv(place.right - place.left, to.cx, from.cx),
+            top + MulDiv(place.bottom - place.top, to.cy, from.cy)};
 }
 
 } // namespace
@@ -36,13 +37,13 @@ RECT& DialogLayout::PlaceOf(HWND control) {
 }
 
 DialogDesign::DialogDesign(HWND dialog) {
-    RECT area{0, 0, 4, 8};
+    RECT area{0, 0, unitsOfCharacter.cx, unitsOfCharacter.cy};
     MapDialogRect(dialog, &area);
-    units = {area.right, area.bottom};
+    character = {area.right, area.bottom};
     GetObjectA(reinterpret_cast<HFONT>(SendMessageA(dialog, WM_GETFONT, 0, 0)), sizeof font, &font);
     points = MulDiv(-font.lfHeight, pointsPerInch, static_cast<int>(GetDpiForWindow(dialog)));
     GetClientRect(dialog, &area);
-    area = InUnits(area, units);
+    area = Converted(area, character, unitsOfCharacter);
     inner = {area.right, area.bottom};
     AddControlsOf(dialog);
 }
@@ -55,7 +56,7 @@ void DialogDesign::AddControlsOf(HWND parent) {
         if (SendMessageA(control, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&place)) == 0)
             GetWindowRect(control, &place);
         MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&place), 2);
-        places.push_back({control, InUnits(place, units)});
+        places.push_back({control, Converted(place, character, unitsOfCharacter)});
     }
 }
 
@@ -67,13 +68,13 @@ DialogLayout DialogDesign::At(UINT dpi) const {
 
     const UniqueDc context(CreateCompatibleDC(nullptr));
     const HGDIOBJ old = SelectObject(context.get(), layout.font.get());
-    const SIZE pixels = UnitsOf(context.get());
+    const SIZE pixels = CharacterOf(context.get());
     SelectObject(context.get(), old);
 
-    const RECT area = InPixels({0, 0, inner.cx, inner.cy}, pixels);
+    const RECT area = Converted({0, 0, inner.cx, inner.cy}, unitsOfCharacter, pixels);
     layout.inner = {area.right, area.bottom};
     for (auto& [control, place] : layout.places)
-        place = InPixels(place, pixels);
+        place = Converted(place, unitsOfCharacter, pixels);
     return layout;
 }
 

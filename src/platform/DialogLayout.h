@@ -19,6 +19,7 @@ struct DialogLayout {
     SIZE inner;      ///< of the dialog, without its frame
     std::vector<Place> places;
 
+    /// Of one of the dialog's own controls.
     RECT& PlaceOf(HWND control);
 };
 
@@ -34,7 +35,7 @@ public:
     DialogLayout At(UINT dpi) const;
 
 private:
-    SIZE units; // pixels of four units across and eight down
+    SIZE character; // average one of the font as the dialog was made, in pixels
     LOGFONTA font{};
     int points;                              // the font's size
     SIZE inner;                              // in units
