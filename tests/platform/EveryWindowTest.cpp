@@ -8,6 +8,7 @@
 #include "platform/ScratchFolder.h"
 #include "resources/Ids.h"
 #include "settings/Form2.h"
+#include "startup/HostNotice.h"
 
 #include <oleacc.h>
 
@@ -117,6 +118,10 @@ protected:
 
 TEST_F(EveryWindow, ComesBackFromOtherScreensAsItWas) {
     ForEachDialog(IsTheSameAfterOtherScreens);
+    const std::string caption = "Obrin-05";
+    HostNotice notice(owner, caption, ERROR_FILE_NOT_FOUND);
+    notice.ShowWhenDue();
+    IsTheSameAfterOtherScreens(FindWindowA(nullptr, "Waiting for Fenn"));
 }
 
 // A control and how it is announced. Where this platform does not know the kind of control, it calls it a
