@@ -6,19 +6,17 @@ namespace obrin {
 
 std::vector<std::uint8_t> HostKeyCodes(std::string command, UpperCaser upperCase, LeadByteTest isLeadByte) {
     // Upper-cased before the backslashes are replaced: on some code pages 220 is a lower-case letter.
-    const std::string text = upperCase(std::move(command));
+    std::string text = upperCase(std::move(command));
+    auto backslash = FindCharacter(text, '\\', isLeadByte);
+    while (backslash != std::string::npos) {
+        text[backslash] = static_cast<char>(220);
+        backslash = FindCharacter(text, '\\', isLeadByte, backslash + 1);
+    }
     std::vector<std::uint8_t> codes;
     codes.reserve(text.size());
-    auto backslash = FindCharacter(text, '\\', isLeadByte);
     for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == '\n' && i > 0 && text[i - 1] == '\r')
-            continue;
-        if (i == backslash) {
-            codes.push_back(220);
-            backslash = FindCharacter(text, '\\', isLeadByte, i + 1);
-        } else {
+        if (text[i] != '\n' || i == 0 || text[i - 1] != '\r')
             codes.push_back(static_cast<std::uint8_t>(text[i]));
-        }
     }
     return codes;
 }
