@@ -8,6 +8,8 @@ namespace obrin {
 
 namespace {
 
+const IID accessibleId = __uuidof(IAccessible); // MinGW's libraries have another one for IID_IAccessible
+
 // Loaded from the system's folder when a screen reader first asks; all null without the library.
 struct Accessibility {
     HMODULE library = LoadLibraryExA("oleacc.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32); // stays
@@ -56,7 +58,7 @@ public:
     }
 
     STDMETHOD(QueryInterface)(REFIID id, void** object) override {
-        if (id != IID_IUnknown && id != IID_IDispatch && id != IID_IAccessible) {
+        if (id != IID_IUnknown && id != IID_IDispatch && id != accessibleId) {
             *object = nullptr;
             return E_NOINTERFACE;
         }
@@ -135,10 +137,10 @@ LRESULT AnswerAsLink(HWND label, WPARAM flags, LONG object) {
     const Accessibility& accessibility = Loaded();
     void* standard = nullptr;
     if (accessibility.create == nullptr || accessibility.handOut == nullptr ||
-        FAILED(accessibility.create(label, object, IID_IAccessible, &standard)))
+        FAILED(accessibility.create(label, object, accessibleId, &standard)))
         return 0;
     auto* link = new AccessibleLink(label, static_cast<IAccessible*>(standard));
-    const LRESULT answer = accessibility.handOut(IID_IAccessible, flags, link);
+    const LRESULT answer = accessibility.handOut(accessibleId, flags, link);
     link->Release(); // whoever was answered holds it
     return answer;
 }

@@ -1,7 +1,14 @@
-// The menu window from outside: where its controls stand after a resize, the pointer, the about box.
+// The menu window: from outside where its controls stand after a resize, the pointer, the about box; in this
+// process what screens and screen readers ask of it.
 
 #include "end_to_end/Installation.h"
 
+#include "common/Text.h"
+#include "menu/frmMain.h"
+#include "platform/Events.h"
+#include "platform/File.h"
+#include "platform/Font.h"
+#include "platform/WindowChecks.h"
 #include "resources/Ids.h"
 
 #include <gtest/gtest.h>
@@ -95,6 +102,61 @@ TEST_F(MenuWindow, AboutBoxIsModal) {
     PostMessageA(menu, WM_COMMAND, ID_ABOUT, 0);
     EXPECT_EQ(GetWindow(launcher.Window("Obrin Software Systems"), GW_OWNER), menu);
     EXPECT_FALSE(IsWindowEnabled(menu));
+}
+
+LRESULT CALLBACK CountLinkClicks(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                 DWORD_PTR clicks) {
+    if (message == WM_COMMAND && wParam == MAKEWPARAM(IDC_LABEL5, STN_CLICKED))
+        ++*reinterpret_cast<int*>(clicks);
+    return DefSubclassProc(window, message, wParam, lParam);
+}
+
+TEST(MenuWindowHere, IsTheSameOnEveryScreenAndForEveryReader) {
+    const Installation installation(5);
+    WriteFileBytes("UB.mnu", "Water && Waste\r\nBackup^Core\\Programs\\CSBackup\r\n");
+    frmMain menu;
+    menu.Show();
+    const HWND window = menu.Window();
+    const auto control = [=](int id) { return GetDlgItem(window, id); };
+    const HWND link = control(IDC_LABEL5);
+    const HWND tree = GetDlgItem(control(IDC_FRAME1), IDC_TREEVIEW1);
+    const HWND button = GetDlgItem(control(IDC_FRAME1), IDC_COMMAND1);
+    SetWindowPos(window, nullptr, 0, 0, 600, 450, SWP_NOZORDER); // twice as large it still has the room
+    IsTheSameAfterOtherScreens(window);
+
+    RECT title;
+    GetWindowRect(control(IDC_LABEL1), &title);
+    const auto font = reinterpret_cast<HFONT>(SendMessageA(control(IDC_LABEL1), WM_GETFONT, 0, 0));
+    EXPECT_EQ(title.right - title.left, MeasureText(font, "Water & Waste").cx) << "as in the frame's caption";
+
+    struct {
+        HWND control;
+        const char* name;
+        LONG role;
+    } const announced[] = {
+        {tree, "Water && Waste", ROLE_SYSTEM_OUTLINE},
+        {button, "&Run Program", ROLE_SYSTEM_PUSHBUTTON},
+        {link, "E-Mail us!", ROLE_SYSTEM_LINK},
+    };
+    for (const auto& [asked, name, role] : announced) {
+        const auto [heardName, heardRole] = Announced(asked);
+        EXPECT_TRUE(heardName == name || std::string(name).find('&') != std::string::npos) << heardName;
+        EXPECT_NE(heardName, "");
+        // This platform may not know the kind of control.
+        EXPECT_TRUE(heardRole == role || (heardRole == ROLE_SYSTEM_CLIENT && asked != link)) << name << " is " << heardRole;
+    }
+    EXPECT_EQ(GetNextDlgTabItem(window, button, FALSE), link);
+    EXPECT_EQ(GetNextDlgTabItem(window, link, FALSE), tree);
+    int clicks = 0;
+    SetWindowSubclass(window, CountLinkClicks, 0, reinterpret_cast<DWORD_PTR>(&clicks));
+    for (const WPARAM key : {WPARAM{VK_RETURN}, WPARAM{VK_SPACE}, WPARAM{VK_DOWN}})
+        SendMessageA(link, WM_KEYDOWN, key, 0);
+    EXPECT_EQ(clicks, 2);
+    MSG enter{link, WM_KEYDOWN, VK_RETURN, 0, 0, {}};
+    EXPECT_TRUE(SendMessageA(link, WM_GETDLGCODE, VK_RETURN, reinterpret_cast<LPARAM>(&enter)) &
+                DLGC_WANTMESSAGE);
+    SendMessageA(window, WM_CLOSE, 0, 0);
+    RunEvents(); // up to the end that the closed window has asked for
 }
 
 } // namespace

@@ -6,79 +6,15 @@
 #include "maintenance/frmUpdate.h"
 #include "platform/ModalTest.h"
 #include "platform/ScratchFolder.h"
+#include "platform/WindowChecks.h"
 #include "resources/Ids.h"
 #include "settings/Form2.h"
 #include "startup/HostNotice.h"
 
-#include <oleacc.h>
-
 #include <map>
-#include <vector>
 
 namespace obrin {
 namespace {
-
-BOOL CALLBACK AddPlace(HWND control, LPARAM places) {
-    RECT place;
-    GetWindowRect(control, &place);
-    MapWindowPoints(nullptr, GetAncestor(control, GA_PARENT), reinterpret_cast<POINT*>(&place), 2);
-    reinterpret_cast<std::vector<RECT>*>(places)->push_back(place);
-    return TRUE;
-}
-
-// Of the window and all that is in it.
-std::vector<RECT> Places(HWND window) {
-    std::vector<RECT> places;
-    AddPlace(window, reinterpret_cast<LPARAM>(&places));
-    EnumChildWindows(window, AddPlace, reinterpret_cast<LPARAM>(&places));
-    return places;
-}
-
-void IsTheSameAfterOtherScreens(HWND window) {
-    const std::vector<RECT> first = Places(window);
-    for (const UINT dpi : {144U, 192U, 96U}) {
-        RECT suggested = first[0];
-        suggested.right += 500; // what the platform would have it
-        SIZE scaled{1, 1};
-        if (SendMessageA(window, WM_GETDPISCALEDSIZE, dpi, reinterpret_cast<LPARAM>(&scaled)) != 0)
-            suggested = {first[0].left, first[0].top, first[0].left + scaled.cx, first[0].top + scaled.cy};
-        SendMessageA(window, WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&suggested));
-        SendMessageA(window, WM_SETTINGCHANGE, 0, 0);
-        const std::vector<RECT> places = Places(window);
-        ASSERT_EQ(places.size(), first.size());
-        EXPECT_TRUE(EqualRect(&places[0], &suggested)) << "the size that was asked for";
-        for (std::size_t i = 0; i < first.size(); ++i) {
-            // Fonts do not grow evenly.
-            const double factor = dpi / 96.0, slack = dpi == 96 ? 1 : 0.15 * factor * first[i].right + 4;
-            EXPECT_NEAR(places[i].left, i == 0 ? first[i].left : factor * first[i].left, slack)
-                << dpi << " " << i;
-            EXPECT_NEAR(places[i].right - places[i].left, factor * (first[i].right - first[i].left), slack)
-                << dpi << " " << i;
-            if (dpi == 96) {
-                EXPECT_NEAR(places[i].top, first[i].top, 1) << i;
-                EXPECT_NEAR(places[i].bottom, first[i].bottom, 1) << i;
-            }
-        }
-    }
-}
-
-// Name and role, as a screen reader asks for them.
-std::pair<std::string, LONG> Announced(HWND control) {
-    IAccessible* object = nullptr;
-    if (AccessibleObjectFromWindow(control, static_cast<DWORD>(OBJID_CLIENT), __uuidof(IAccessible),
-                                   reinterpret_cast<void**>(&object)) != S_OK)
-        return {"nothing", 0};
-    VARIANT self{}, role{};
-    self.vt = VT_I4;
-    self.lVal = CHILDID_SELF;
-    BSTR name = nullptr;
-    object->get_accName(self, &name);
-    object->get_accRole(self, &role);
-    object->Release();
-    const std::string text(name, name + SysStringLen(name)); // plain letters
-    SysFreeString(name);
-    return {text, role.lVal};
-}
 
 class EveryWindow : public test::ModalTest {
 protected:
@@ -117,11 +53,11 @@ protected:
 };
 
 TEST_F(EveryWindow, ComesBackFromOtherScreensAsItWas) {
-    ForEachDialog(IsTheSameAfterOtherScreens);
+    ForEachDialog(test::IsTheSameAfterOtherScreens);
     const std::string caption = "Obrin-05";
     HostNotice notice(owner, caption, ERROR_FILE_NOT_FOUND);
     notice.ShowWhenDue();
-    IsTheSameAfterOtherScreens(FindWindowA(nullptr, "Waiting for Fenn"));
+    test::IsTheSameAfterOtherScreens(FindWindowA(nullptr, "Waiting for Fenn"));
 }
 
 // A control and how it is announced. Where this platform does not know the kind of control, it calls it a
@@ -141,7 +77,7 @@ void IsAnnounced(HWND window, const std::vector<Announcement>& announcements) {
     std::map<int, HWND> controls;
     EnumChildWindows(window, AddControl, reinterpret_cast<LPARAM>(&controls));
     for (const auto& [id, name, role] : announcements) {
-        const auto [heardName, heardRole] = Announced(controls[id]);
+        const auto [heardName, heardRole] = test::Announced(controls[id]);
         EXPECT_EQ(WindowText(GetWindow(controls[id], GW_HWNDPREV)), name);
         EXPECT_TRUE(heardRole == role || heardRole == ROLE_SYSTEM_CLIENT) << name;
         if (role != ROLE_SYSTEM_COMBOBOX || heardRole == role) {

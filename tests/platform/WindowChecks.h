@@ -1,0 +1,78 @@
+// What holds for every window: it comes back from a screen of another DPI as it was, and a screen reader is
+// told what its controls are.
+#pragma once
+
+#include "platform/WindowsApi.h"
+
+#include <gtest/gtest.h>
+#include <oleacc.h>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace obrin::test {
+
+inline BOOL CALLBACK AddPlace(HWND control, LPARAM places) {
+    RECT place;
+    GetWindowRect(control, &place);
+    MapWindowPoints(nullptr, GetAncestor(control, GA_PARENT), reinterpret_cast<POINT*>(&place), 2);
+    reinterpret_cast<std::vector<RECT>*>(places)->push_back(place);
+    return TRUE;
+}
+
+// Of the window and all that is in it.
+inline std::vector<RECT> Places(HWND window) {
+    std::vector<RECT> places;
+    AddPlace(window, reinterpret_cast<LPARAM>(&places));
+    EnumChildWindows(window, AddPlace, reinterpret_cast<LPARAM>(&places));
+    return places;
+}
+
+inline void IsTheSameAfterOtherScreens(HWND window) {
+    const std::vector<RECT> first = Places(window);
+    for (const UINT dpi : {144U, 192U, 96U}) {
+        // As the platform would have it, unless the window knows better.
+        SIZE scaled{MulDiv(first[0].right - first[0].left, static_cast<int>(dpi), 96),
+                    MulDiv(first[0].bottom - first[0].top, static_cast<int>(dpi), 96)};
+        SendMessageA(window, WM_GETDPISCALEDSIZE, dpi, reinterpret_cast<LPARAM>(&scaled));
+        RECT suggested{first[0].left, first[0].top, first[0].left + scaled.cx, first[0].top + scaled.cy};
+        SendMessageA(window, WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&suggested));
+        SendMessageA(window, WM_SETTINGCHANGE, 0, 0);
+        const std::vector<RECT> places = Places(window);
+        ASSERT_EQ(places.size(), first.size());
+        EXPECT_TRUE(EqualRect(&places[0], &suggested)) << "the size that was asked for";
+        for (std::size_t i = 0; i < first.size(); ++i) {
+            // Fonts do not grow evenly.
+            const double factor = dpi / 96.0, slack = dpi == 96 ? 1 : 0.15 * factor * first[i].right + 4;
+            EXPECT_NEAR(places[i].left, i == 0 ? first[i].left : factor * first[i].left, slack)
+                << dpi << " " << i;
+            EXPECT_NEAR(places[i].right - places[i].left, factor * (first[i].right - first[i].left), slack)
+                << dpi << " " << i;
+            if (dpi == 96) {
+                EXPECT_NEAR(places[i].top, first[i].top, 1) << i;
+                EXPECT_NEAR(places[i].bottom, first[i].bottom, 1) << i;
+            }
+        }
+    }
+}
+
+// Name and role, as a screen reader asks for them.
+inline std::pair<std::string, LONG> Announced(HWND control) {
+    IAccessible* object = nullptr;
+    if (AccessibleObjectFromWindow(control, static_cast<DWORD>(OBJID_CLIENT), __uuidof(IAccessible),
+                                   reinterpret_cast<void**>(&object)) != S_OK)
+        return {"nothing", 0};
+    VARIANT self{}, role{};
+    self.vt = VT_I4;
+    self.lVal = CHILDID_SELF;
+    BSTR name = nullptr;
+    object->get_accName(self, &name);
+    object->get_accRole(self, &role);
+    object->Release();
+    const std::string text(name, name + SysStringLen(name)); // plain letters
+    SysFreeString(name);
+    return {text, role.lVal};
+}
+
+} // namespace obrin::test
