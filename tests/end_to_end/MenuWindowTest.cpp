@@ -143,7 +143,8 @@ TEST(MenuWindowHere, IsTheSameOnEveryScreenAndForEveryReader) {
         EXPECT_TRUE(heardName == name || std::string(name).find('&') != std::string::npos) << heardName;
         EXPECT_NE(heardName, "");
         // This platform may not know the kind of control.
-        EXPECT_TRUE(heardRole == role || (heardRole == ROLE_SYSTEM_CLIENT && asked != link)) << name << " is " << heardRole;
+        EXPECT_TRUE(heardRole == role || (heardRole == ROLE_SYSTEM_CLIENT && asked != link))
+            << name << " is " << heardRole;
     }
     EXPECT_EQ(GetNextDlgTabItem(window, button, FALSE), link);
     EXPECT_EQ(GetNextDlgTabItem(window, link, FALSE), tree);
