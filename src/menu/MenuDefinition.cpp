@@ -1,18 +1,17 @@
 #include "menu/MenuDefinition.h"
 
-#include "common/Lines.h"
-#include "common/RunTimeError.h"
-
 #include <algorithm>
+#include <forward_list>
 #include <limits>
 #include <optional>
-#include <unordered_set>
+#include <unordered_map>
 
 namespace obrin {
 
 namespace {
 
 constexpr char fieldEnd = '^';
+constexpr char depthMark = '>';
 
 std::string_view FirstField(std::string_view line, LeadByteTest isLeadByte) {
     return line.substr(0, FindCharacter(line, fieldEnd, isLeadByte));
@@ -20,28 +19,26 @@ std::string_view FirstField(std::string_view line, LeadByteTest isLeadByte) {
 
 class Parser {
 public:
-    Parser(std::string_view file, std::string_view name, LeadByteTest leadByteTest)
-        : lines(file)
-        , lineEnds(static_cast<std::size_t>(std::ranges::count(file, '\r')))
-        , fileName(name)
-        , isLeadByte(leadByteTest) {}
+    Parser(LineReader file, LeadByteTest leadByteTest, MenuSink& taker)
+        : lines(std::move(file))
+        , isLeadByte(leadByteTest)
+        , sink(taker) {}
 
-    MenuDefinition Parse() {
+    void Parse() {
         const auto header = NextLine();
-        if (!header)
-            Fail("the file has no header line");
-        MenuDefinition definition{.title = std::string(HeaderTitle(*header, isLeadByte)), .entries = {}};
-        // All the room at once: the set of keys refers to the keys in the entries.
-        definition.entries.reserve(std::min(lineEnds + 1, mostEntries));
-        keys.reserve(definition.entries.capacity());
-        while (const auto line = NextLine()) {
-            if (definition.entries.size() == mostEntries)
-                Fail("more entries than a menu can count");
-            ++counter;
-            definition.entries.push_back(ParseEntry(*line));
-            CheckKey(definition.entries.back().key);
+        if (!header) {
+            Fault(MenuFault::Kind::NoHeader, "the file has no header line");
+            return;
         }
-        return definition;
+        sink.TakeHeader(*header);
+        while (const auto line = NextLine()) {
+            if (counter == mostEntries) {
+                Fault(MenuFault::Kind::TooManyEntries, "more entries than a menu can count");
+                return;
+            }
+            ++counter;
+            ParseEntry(*line);
+        }
     }
 
 private:
@@ -50,60 +47,104 @@ private:
         return lines.Next();
     }
 
-    MenuEntry ParseEntry(std::string_view line) {
-        const auto depth = std::min(line.find_first_not_of('>'), line.size());
-        line.remove_prefix(depth);
+    void ParseEntry(std::string_view wholeLine) {
+        const auto depth = std::min(wholeLine.find_first_not_of(depthMark), wholeLine.size());
         const auto parent = ParentAt(depth);
-        if (const auto separator = FindCharacter(line, fieldEnd, isLeadByte);
-            separator != std::string_view::npos) {
-            const auto key = FirstField(line.substr(separator + 1), isLeadByte); // more fields mean nothing
-            return {
-                .text = WithoutMarks(line.substr(0, separator)), .key = WithoutMarks(key), .parent = parent};
+        MenuLine entry{.line = lineNumber,
+                       .depth = parent == noParent ? 0 : depth,
+                       .isProgram = false,
+                       .text = wholeLine.substr(depth),
+                       .key = {},
+                       .wholeLine = wholeLine,
+                       .isPlain = lines.IsPlain(),
+                       .parent = parent};
+        // In a plain line no byte is half of a character.
+        const auto separator =
+            lines.IsPlain() ? lines.MarkOfPlainLine() : FindCharacter(wholeLine, fieldEnd, isLeadByte);
+        if (separator != std::string_view::npos) {
+            entry.isProgram = true;
+            entry.text = wholeLine.substr(depth, separator - depth);
+            entry.key = FirstField(wholeLine.substr(separator + 1), isLeadByte); // more fields mean nothing
+            if (!lines.LinesLast() || entry.key.find(depthMark) != std::string_view::npos)
+                entry.key = ownKeys.emplace_front(WithoutDepthMarks(entry.key));
+            CheckKey(entry.key);
+        } else {
+            // Headings deeper than this one are closed.
+            headings.resize(std::min(depth, deepest) + 1, missing);
+            headings.back() = counter;
         }
-        headings.resize(depth + 1); // headings deeper than this one are closed
-        headings[depth] = counter;
-        return {.text = std::string(line), .key = {}, .parent = parent};
+        sink.TakeEntry(entry);
     }
 
-    static std::string WithoutMarks(std::string_view field) {
-        std::string text(field);
-        std::erase(text, '>');
-        return text;
-    }
-
-    void CheckKey(const std::string& key) {
+    void CheckKey(std::string_view key) {
         if (key.empty())
             return;
         // Nodes are found by index or by key, so a number cannot be a key.
-        if (key.find_first_not_of("0123456789") == std::string::npos)
-            Fail("the key " + key + " is a number");
-        if (!keys.insert(key).second)
-            Fail("the key " + key + " is there already");
+        if (key.find_first_not_of("0123456789") == std::string_view::npos)
+            Fault(MenuFault::Kind::NumberAsKey, "the key " + std::string(key) + " is a number");
+        if (const auto [first, isNew] = keyLines.try_emplace(key, lineNumber); !isNew)
+            Fault(MenuFault::Kind::KeyTwice, "the key " + std::string(key) + " is there already",
+                  first->second);
     }
 
-    std::int16_t ParentAt(std::size_t depth) const {
+    std::int16_t ParentAt(std::size_t depth) {
         if (depth == 0)
-            return 0;
-        if (depth > headings.size() || headings[depth - 1] == 0)
-            Fail("there is no heading one level above this entry");
-        return headings[depth - 1];
+            return noParent;
+        const auto level = std::min(depth, deepest) - 1;
+        if (level >= headings.size())
+            headings.resize(level + 1, missing);
+        if (headings[level] == missing) {
+            Fault(MenuFault::Kind::NoHeading, "there is no heading one level above this entry");
+            headings[level] = toldMissing;
+        }
+        return headings[level] == toldMissing ? noParent : headings[level];
     }
 
-    [[noreturn]] void Fail(const std::string& reason) const {
-        throw RunTimeError(PlatformError::InvalidData,
-                           std::string(fileName) + ", line " + std::to_string(lineNumber) + ": " + reason);
+    void Fault(MenuFault::Kind kind, std::string reason, int firstLine = 0) {
+        sink.TakeFault(
+            {.kind = kind, .reason = std::move(reason), .line = lineNumber, .firstLine = firstLine});
     }
 
-    static constexpr std::size_t mostEntries = std::numeric_limits<std::int16_t>::max();
+    static constexpr std::int16_t mostEntries = std::numeric_limits<std::int16_t>::max();
+    static constexpr std::size_t deepest = mostEntries; // deeper than any entry with a heading can be
+    static constexpr std::int16_t noParent = 0;
+    static constexpr std::int16_t missing = 0;      // no heading of this depth
+    static constexpr std::int16_t toldMissing = -1; // one fault for all entries that miss the same heading
 
     LineReader lines;
-    std::size_t lineEnds; // at least as many as there are lines, but for a last one without
+    LeadByteTest isLeadByte;
+    MenuSink& sink;
+    int lineNumber = 0;
+    std::int16_t counter = 0;                       // of entry lines; the tree index of the entry at hand
+    std::vector<std::int16_t> headings = {missing}; // per depth the last heading's tree index
+    std::unordered_map<std::string_view, int> keyLines;
+    std::forward_list<std::string> ownKeys; // marked ones, and those that outlive their line
+};
+
+// Keeps everything and ends with the first fault.
+class DefinitionSink : public MenuSink {
+public:
+    DefinitionSink(std::string_view name, LeadByteTest leadByteTest)
+        : fileName(name)
+        , isLeadByte(leadByteTest) {}
+
+    void TakeHeader(std::string_view line) override { definition.title = HeaderTitle(line, isLeadByte); }
+    void TakeEntry(const MenuLine& entry) override {
+        definition.entries.push_back(
+            {.text = entry.isProgram ? WithoutDepthMarks(entry.text) : std::string(entry.text),
+             .key = std::string(entry.key),
+             .parent = entry.parent});
+    }
+    void TakeFault(const MenuFault& fault) override {
+        throw RunTimeError(PlatformError::InvalidData, std::string(fileName) + ", line " +
+                                                           std::to_string(fault.line) + ": " + fault.reason);
+    }
+
+    MenuDefinition definition;
+
+private:
     std::string_view fileName;
     LeadByteTest isLeadByte;
-    int lineNumber = 0;
-    std::int16_t counter = 0;                 // of entry lines; the tree index of the entry at hand
-    std::vector<std::int16_t> headings = {0}; // per depth the last heading's tree index, 0 for none
-    std::unordered_set<std::string_view> keys;
 };
 
 } // namespace
@@ -120,9 +161,25 @@ std::string_view SystemCode(std::string_view menuFileName, LeadByteTest isLeadBy
     return FirstCharacters(menuFileName, 2, isLeadByte);
 }
 
+std::string WithoutDepthMarks(std::string_view text) {
+    std::string unmarked(text);
+    std::erase(unmarked, depthMark);
+    return unmarked;
+}
+
+void ReadMenuDefinition(std::string_view file, LeadByteTest isLeadByte, MenuSink& sink) {
+    Parser(LineReader(file, fieldEnd), isLeadByte, sink).Parse();
+}
+
+void ReadMenuDefinition(MoreText file, LeadByteTest isLeadByte, MenuSink& sink) {
+    Parser(LineReader(std::move(file), fieldEnd), isLeadByte, sink).Parse();
+}
+
 MenuDefinition ParseMenuDefinition(std::string_view file, std::string_view fileName,
                                    LeadByteTest isLeadByte) {
-    return Parser(file, fileName, isLeadByte).Parse();
+    DefinitionSink sink(fileName, isLeadByte);
+    ReadMenuDefinition(file, isLeadByte, sink);
+    return std::move(sink.definition);
 }
 
 } // namespace obrin

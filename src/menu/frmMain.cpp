@@ -20,6 +20,7 @@
 #include "resources/Ids.h"
 #include "settings/Form2.h"
 #include "startup/HostKeys.h"
+#include "startup/UserRecords.h"
 #include "startup/WorkstationIdentity.h"
 
 namespace obrin {

@@ -44,12 +44,16 @@ void File::Fail(const char* doing) const {
     ThrowLastError(doing + path);
 }
 
+std::size_t File::Read(std::span<char> room) {
+    DWORD got = 0;
+    if (!ReadFile(handle.get(), room.data(), static_cast<DWORD>(room.size()), &got, nullptr))
+        Fail("Reading ");
+    return got;
+}
+
 std::string File::Read(std::size_t most) {
     std::string bytes(most, '\0');
-    DWORD got = 0;
-    if (!ReadFile(handle.get(), bytes.data(), static_cast<DWORD>(most), &got, nullptr))
-        Fail("Reading ");
-    bytes.resize(got);
+    bytes.resize(Read(std::span(bytes)));
     return bytes;
 }
 

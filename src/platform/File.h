@@ -4,7 +4,9 @@
 
 #include "platform/Handle.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -27,6 +29,8 @@ public:
 
     /// The next bytes, at most `most` (up to 1 GB); none at the end of the file. Throws RunTimeError.
     std::string Read(std::size_t most);
+    /// Fills the room with the next bytes as far as there are any, and returns how many. Throws RunTimeError.
+    std::size_t Read(std::span<char> room);
     /// Everything from the current position to the end. Throws RunTimeError.
     std::string ReadToEnd();
     /// Appends at the current position. Throws RunTimeError.

@@ -30,25 +30,45 @@ void CreateFolder(const std::string& path) {
         throw RunTimeError(error, "Making the folder " + path);
 }
 
-std::vector<std::string> ListNormalFiles(const std::string& folder) {
-    constexpr DWORD unlisted = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
-    std::vector<std::string> names;
+std::vector<FolderEntry> ListFolder(const std::string& folder) {
+    std::vector<FolderEntry> entries;
     WIN32_FIND_DATAA entry;
     const HANDLE found =
         FindFirstFileA((EnsureTrailingBackslash(folder, CodePageLeadByteTest()) + "*").c_str(), &entry);
     if (found == INVALID_HANDLE_VALUE) {
         if (GetLastError() == ERROR_FILE_NOT_FOUND) // an empty drive root
-            return names;
+            return entries;
         ThrowLastError("Listing " + folder);
     }
     const UniqueSearch search(found);
     do {
-        if ((entry.dwFileAttributes & unlisted) == 0)
-            names.emplace_back(entry.cFileName);
+        const DWORD attributes = entry.dwFileAttributes;
+        entries.push_back({.name = entry.cFileName,
+                           .isFolder = (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0,
+                           .isHidden = (attributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) != 0});
     } while (FindNextFileA(search.get(), &entry));
     if (GetLastError() != ERROR_NO_MORE_FILES)
         ThrowLastError("Listing " + folder);
+    return entries;
+}
+
+std::vector<std::string> ListNormalFiles(const std::string& folder) {
+    std::vector<std::string> names;
+    for (auto& [name, isFolder, isHidden] : ListFolder(folder)) {
+        if (!isFolder && !isHidden)
+            names.push_back(std::move(name));
+    }
     return names;
+}
+
+std::string FullPath(const std::string& path) {
+    std::string full(GetFullPathNameA(path.c_str(), 0, nullptr, nullptr), '\0');
+    const DWORD length =
+        GetFullPathNameA(path.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr);
+    if (length == 0 || length >= full.size())
+        ThrowLastError("Finding " + path);
+    full.resize(length);
+    return full;
 }
 
 std::string ShortPath(const std::string& path) {

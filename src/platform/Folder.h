@@ -16,9 +16,21 @@ bool FolderExists(const std::string& path);
 /// RunTimeError.
 void CreateFolder(const std::string& path);
 
+struct FolderEntry {
+    std::string name;
+    bool isFolder;
+    bool isHidden; ///< or belongs to the system
+};
+
+/// Everything in a folder, in the order of the file system. Throws RunTimeError.
+std::vector<FolderEntry> ListFolder(const std::string& folder);
+
 /// Names of the normal files of a folder (read-only and archived ones too, no folders, no hidden or system
 /// files), in the order of the file system. Throws RunTimeError.
 std::vector<std::string> ListNormalFiles(const std::string& folder);
+
+/// With drive or server and every folder. Throws RunTimeError.
+std::string FullPath(const std::string& path);
 
 /// The folder's short form, or an empty text when it cannot be had in 164 bytes.
 std::string ShortPath(const std::string& path);

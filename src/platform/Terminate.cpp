@@ -1,5 +1,5 @@
-// Replaces two functions of the C++ library that report a broken program on a console, which a program with
-// windows does not have. With them would come a formatter of C++ names and a printf, a fifth of the program.
+// Replaces two functions of the C++ library that report a broken program on a console, in words for its
+// developers. With them would come a formatter of C++ names and a printf, a fifth of the program.
 
 #include <cstdlib>
 #include <exception>

@@ -27,6 +27,14 @@ std::string LoginName() {
     return buffer.data();
 }
 
+std::string SystemFolder(bool of32Bits) {
+    std::array<char, MAX_PATH> buffer{};
+    // A 32-bit Windows has no second folder.
+    if (!of32Bits || GetSystemWow64DirectoryA(buffer.data(), buffer.size()) == 0)
+        GetSystemDirectoryA(buffer.data(), buffer.size());
+    return buffer.data();
+}
+
 std::string EnvironmentVariable(const char* name) {
     std::string value(GetEnvironmentVariableA(name, nullptr, 0), '\0');
     value.resize(GetEnvironmentVariableA(name, value.data(), static_cast<DWORD>(value.size())));

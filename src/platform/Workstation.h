@@ -16,6 +16,9 @@ LeadByteTest CodePageLeadByteTest();
 /// The Windows user's name, of up to 99 bytes; empty when Windows does not tell it.
 std::string LoginName();
 
+/// Windows' own folder of libraries, that of 32-bit programs or of the workstation's own bits.
+std::string SystemFolder(bool of32Bits);
+
 /// The value of an environment variable; empty when it is not set.
 std::string EnvironmentVariable(const char* name);
 

@@ -9,6 +9,10 @@
 
 namespace obrin {
 
+std::string SettingsPath(std::string_view temporaryFolder, std::string_view programKey) {
+    return std::string(temporaryFolder).append("\\Ini\\").append(TrimBlanks(programKey)).append(".ini");
+}
+
 SettingValues DefaultSettings(const std::string& name, StringTable stringTable) {
     SettingValues values;
     for (std::size_t i = 0; i < settings.size(); ++i) {

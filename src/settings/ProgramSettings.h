@@ -44,6 +44,9 @@ using LoadedSettings = std::array<std::optional<std::string>, settings.size()>;
 /// Gives the text of an id. The rules take it as an argument: only Windows reads the string table.
 using StringTable = std::string (*)(int id);
 
+/// The path of a program's settings file below the folder for temporary files of the host.
+std::string SettingsPath(std::string_view temporaryFolder, std::string_view programKey);
+
 /// The defaults for a program of that name.
 SettingValues DefaultSettings(const std::string& name, StringTable stringTable);
 

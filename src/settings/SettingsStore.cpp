@@ -10,7 +10,7 @@
 namespace obrin {
 
 std::string SettingsPath(std::string_view programKey) {
-    return EnvironmentVariable("TesselTemp").append("\\Ini\\").append(TrimBlanks(programKey)).append(".ini");
+    return SettingsPath(EnvironmentVariable("TesselTemp"), programKey);
 }
 
 void WriteDefaultSettings(const std::string& iniPath, const std::string& name) {

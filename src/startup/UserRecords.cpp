@@ -19,14 +19,25 @@ unsigned Byte(std::string_view bytes, std::size_t at) {
 
 } // namespace
 
+std::vector<UserRecord> ReadUserRecords(std::string_view file) {
+    std::vector<UserRecord> records;
+    while (file.size() >= recordBytes) {
+        records.push_back(
+            {.name = TrimBlanks(file.substr(0, nameBytes)),
+             .wsid = static_cast<std::int16_t>(Byte(file, nameBytes) | Byte(file, nameBytes + 1) << 8)});
+        file.remove_prefix(std::min(userRecordSlot, file.size()));
+    }
+    return records;
+}
+
 UserScan ScanUserRecords(std::string_view file, std::string_view loginName) {
     const auto wanted = TrimBlanks(loginName);
-    UserScan scan;
-    for (; file.size() >= recordBytes; ++scan.recordsRead) {
-        // No stop at a match: of several records of a user the last one counts.
-        if (TrimBlanks(file.substr(0, nameBytes)) == wanted)
-            scan.wsid = static_cast<std::int16_t>(Byte(file, nameBytes) | Byte(file, nameBytes + 1) << 8);
-        file.remove_prefix(std::min(userRecordSlot, file.size()));
+    const auto records = ReadUserRecords(file);
+    UserScan scan{.wsid = 0, .recordsRead = records.size()};
+    // No stop at a match: of several records of a user the last one counts.
+    for (const auto& [name, wsid] : records) {
+        if (name == wanted)
+            scan.wsid = wsid;
     }
     return scan;
 }
@@ -46,6 +57,10 @@ std::optional<std::int16_t> ParseWsidAnswer(std::string_view answer) {
     if (!value || !(*value > 0 && *value < 100) || std::trunc(*value) != *value)
         return std::nullopt;
     return static_cast<std::int16_t>(*value);
+}
+
+std::string MarkerFileName(int wsid) {
+    return "Menu" + SignedDecimal(wsid) + ".txt";
 }
 
 } // namespace obrin

@@ -52,8 +52,4 @@ std::string WsidCaption(std::int16_t wsid) {
     return "WSID - " + PaddedDecimal(wsid, 2);
 }
 
-std::string MarkerFileName(std::int16_t wsid) {
-    return "Menu" + SignedDecimal(wsid) + ".txt";
-}
-
 } // namespace obrin

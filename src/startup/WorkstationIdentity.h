@@ -16,7 +16,4 @@ std::int16_t EstablishIdentity(HWND menu, const std::string& loginName);
 std::string UserCaption(const std::string& loginName);
 std::string WsidCaption(std::int16_t wsid);
 
-/// The workstation's marker file, "Menu 5.txt": the blank of the number's sign position is part of the name.
-std::string MarkerFileName(std::int16_t wsid);
-
 } // namespace obrin

@@ -1,0 +1,213 @@
+#include "checker/FolderCheck.h"
+
+#include "checker/Access.h"
+#include "checker/FileChecks.h"
+#include "menu/MenuCommands.h"
+#include "menu/MenuDefinition.h"
+#include "platform/Failure.h"
+#include "platform/File.h"
+#include "platform/Folder.h"
+#include "platform/Picture.h"
+#include "platform/Workstation.h"
+#include "resources/Ids.h"
+#include "startup/UserRecords.h"
+
+#include <algorithm>
+#include <array>
+#include <functional>
+#include <map>
+
+namespace obrin {
+
+namespace {
+
+constexpr const char* atEveryStart = ": the menu ends with an error at every start; ";
+constexpr int mostWsid = 99;
+
+class Installation {
+public:
+    explicit Installation(const std::string& folder)
+        : base(folder.empty() ? folder : EnsureTrailingBackslash(folder, CodePageLeadByteTest()))
+        , shownBase(folder.empty() ? "." : folder) {}
+
+    FolderCheck Check() {
+        FindMenuFiles(); // without a listing there is nothing to say
+        for (const auto step :
+             {&Installation::CheckSystemCodes, &Installation::CheckHelp, &Installation::CheckConfiguration,
+              &Installation::CheckLibrary, &Installation::CheckPicture, &Installation::CheckSharedFiles}) {
+            try {
+                (this->*step)();
+            } catch (const RunTimeError& error) {
+                Error(shownBase, std::string(error.what()) + ": " + PlatformText(error.Code()) +
+                                     ", to the menu too; give the operators the right to read what is here");
+            }
+        }
+        return std::move(check);
+    }
+
+private:
+    std::string PathOf(const std::string& name) const { return base + name; }
+
+    void Add(Finding::Kind kind, const std::string& path, std::string text) {
+        check.findings.push_back({.kind = kind, .line = 0, .text = std::move(text), .file = path});
+    }
+    void Error(const std::string& path, std::string text) {
+        Add(Finding::Kind::Error, path, std::move(text));
+    }
+    void Warn(const std::string& path, std::string text) {
+        Add(Finding::Kind::Warning, path, std::move(text));
+    }
+    void AddFor(const std::string& path, std::vector<Finding> findings) {
+        for (auto& finding : findings) {
+            finding.file = path;
+            check.findings.push_back(std::move(finding));
+        }
+    }
+
+    void FindMenuFiles() {
+        for (const auto& [name, isFolder, isHidden] : ListFolder(shownBase)) {
+            const std::string path = PathOf(name);
+            if (isFolder)
+                continue;
+            if (IsMistakenMenuFileName(name))
+                Warn(path, notListedByName);
+            else if (IsMenuFileName(name) && isHidden)
+                Warn(path,
+                     "hidden or a system file: the menu does not list this system; take the attribute away "
+                     "(attrib -h -s)");
+            else if (IsMenuFileName(name))
+                names.push_back(name);
+        }
+        for (const auto& name : names)
+            check.menuFiles.push_back(PathOf(name));
+        if (names.empty())
+            Error(shownBase,
+                  std::string("there is no menu file (*.mnu) here") + atEveryStart +
+                      "start the menu in the host's folder, and put the systems' menu files there");
+        if (names.size() > SYSTEMS_TEMPLATE)
+            Error(PathOf(names[SYSTEMS_TEMPLATE]), std::string("the hundredth menu file") + atEveryStart +
+                                                       "99 are the most; remove those that nobody uses");
+        std::ranges::sort(names);
+    }
+
+    void CheckSystemCodes() {
+        std::map<std::string, std::string> nameOfCode;
+        for (const auto& name : names) {
+            const std::string code(SystemCode(name, isLeadByte));
+            // As the host is told it.
+            if (const auto [first, isNew] = nameOfCode.try_emplace(UpperCase(code), name); !isNew)
+                Warn(PathOf(name), "the system code " + code + " is that of " + first->second +
+                                       " too: the host starts the same system for both; rename one file");
+        }
+    }
+
+    void CheckHelp() {
+        struct Item {
+            int id;
+            const char* caption;
+        };
+        constexpr std::array<Item, 5> items{{
+            {ID_CORE_HELP, "Core Help"},
+            {ID_SYSTEM_HELP, "System Help"},
+            {ID_WEBSITE, "Obrin Website"},
+            {ID_USER_SITE, "Obrin User Website"},
+            {IDC_LABEL5, "E-Mail us!"},
+        }};
+        std::map<std::string, const char*> captionOf; // by document: most are the same for every system
+        for (const auto& [id, caption] : items) {
+            for (const auto& name : names)
+                captionOf.emplace(DocumentOf(id, SystemCode(name, isLeadByte)).value_or(""), caption);
+        }
+        for (const auto& [document, caption] : captionOf) {
+            if (!FileExists(PathOf(document)))
+                Warn(PathOf(document),
+                     std::string("missing: ") + caption + " opens nothing; put the document there");
+        }
+    }
+
+    void CheckConfiguration() {
+        const std::string configuration = PathOf("FennConfig.Sys");
+        if (!FileExists(configuration))
+            Error(configuration, "missing: the menu ends at every start with \"Config File Not found!\"; "
+                                 "restore the file, or start "
+                                 "the menu in the host's folder");
+        else
+            ErrorIfNot("written", configuration, WhyNotReplaceable(configuration), atEveryStart);
+        const std::string core = PathOf("Core");
+        if (FolderExists(core))
+            ErrorIfNot("used for new files", core, WhyNoFilesIn(core), atEveryStart);
+        else
+            Error(core, std::string("this folder is missing") + atEveryStart +
+                            "restore it from the host's installation");
+        ErrorIfNot("used for new files", shownBase, WhyNoFilesIn(shownBase), atEveryStart);
+    }
+
+    // The menu looks for it in its own folder and in that of Windows.
+    void CheckLibrary() {
+        const std::string program = PathOf("ObrinMenu.exe");
+        const std::string image = FileExists(program) ? ReadFileBytes(program) : "";
+        const std::string path = PathOf("Corvel.dll");
+        const std::string systems = SystemFolder(ImageMachine(image) == machine32) + "\\Corvel.dll";
+        if (FileExists(path))
+            AddFor(path, CheckSupportLibrary(ReadFileBytes(path), image));
+        else if (FileExists(systems))
+            AddFor(systems, CheckSupportLibrary(ReadFileBytes(systems), image));
+        else
+            Error(path,
+                  std::string("missing") + atEveryStart + "put the library there that came with the menu");
+    }
+
+    void CheckPicture() {
+        const std::string path = PathOf("Startup.bmp");
+        if (!NormalFileExists(path))
+            return;
+        try {
+            LoadPicture(FullPath(path));
+        } catch (const RunTimeError& error) {
+            Error(path, "no picture that can be shown (" + PlatformText(error.Code()) + ")" + atEveryStart +
+                            "save the picture as a BMP file, or remove it");
+        }
+    }
+
+    void CheckSharedFiles() {
+        CheckSharedFile("Core\\TempOut.tmp", atEveryStart);
+        CheckSharedFile("UserWSID.sys", atEveryStart,
+                        [this](std::string_view bytes) { return CheckUserRecords(bytes, isLeadByte); });
+        CheckSharedFile("Updated.txt", ": the menu ends with an error when an operator runs a program; ",
+                        CheckUpdateRegister);
+        for (int wsid = 1; wsid <= mostWsid; ++wsid)
+            CheckSharedFile(MarkerFileName(wsid),
+                            ": the menu of this workstation ends with an error at every start; ");
+    }
+
+    void CheckSharedFile(const std::string& name, const char* consequence,
+                         const std::function<std::vector<Finding>(std::string_view)>& checkContents = {}) {
+        const std::string path = PathOf(name);
+        if (!FileExists(path) && !FolderExists(path))
+            return; // made when it is needed
+        ErrorIfNot("written", path, WhyNotWritable(path), consequence);
+        if (checkContents && FileExists(path))
+            AddFor(path, checkContents(ReadFileBytes(path)));
+    }
+
+    void ErrorIfNot(const char* done, const std::string& path, const std::string& reason,
+                    const char* consequence) {
+        if (!reason.empty())
+            Error(path, std::string("cannot be ") + done + " (" + reason + ")" + consequence +
+                            "give the operators the right to modify it");
+    }
+
+    std::string base;      // in front of the names of files
+    std::string shownBase; // the folder itself
+    LeadByteTest isLeadByte = CodePageLeadByteTest();
+    std::vector<std::string> names; // of menu files, sorted
+    FolderCheck check;
+};
+
+} // namespace
+
+FolderCheck CheckFolder(const std::string& folder) {
+    return Installation(folder).Check();
+}
+
+} // namespace obrin

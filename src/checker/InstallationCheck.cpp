@@ -1,0 +1,102 @@
+#include "checker/InstallationCheck.h"
+
+#include "checker/FolderCheck.h"
+#include "checker/MenuFileChecks.h"
+#include "menu/MenuDefinition.h"
+#include "platform/Failure.h"
+#include "platform/File.h"
+#include "platform/Folder.h"
+#include "platform/Workstation.h"
+#include "settings/ProgramSettings.h"
+
+#include <iterator>
+#include <map>
+
+namespace obrin {
+
+namespace {
+
+void Append(std::vector<Finding>& findings, std::vector<Finding> more) {
+    findings.insert(findings.end(), std::make_move_iterator(more.begin()),
+                    std::make_move_iterator(more.end()));
+}
+
+// What the Properties dialog makes of a program's settings file; empty when it can show it.
+std::string WhySettingsUnreadable(const std::string& path) {
+    try {
+        if (FileExists(path))
+            ParseSettings(ReadFileBytes(path), "a program's settings");
+        return FolderExists(path) ? "a folder of this name is in the way" : "";
+    } catch (const RunTimeError& error) {
+        const bool read = error.Code() == static_cast<std::uint32_t>(PlatformError::InvalidData);
+        return read ? error.what() : PlatformText(error.Code());
+    }
+}
+
+class Checks {
+public:
+    explicit Checks(bool withTrees)
+        : wishes{.keys = FolderExists(temporaryFolder + "\\Ini"), .tree = withTrees} {}
+
+    void Add(const std::string& path) {
+        if (path.empty() || FolderExists(path)) {
+            auto [findings, files] = CheckFolder(path);
+            Append(result.findings, std::move(findings));
+            menuFiles.insert(menuFiles.end(), files.begin(), files.end());
+        } else if (FileExists(path)) {
+            const auto name = path.substr(FindLastCharacter(path, '\\', CodePageLeadByteTest()) + 1);
+            if (!IsMenuFileName(name))
+                result.findings.push_back(
+                    {.kind = Finding::Kind::Warning, .line = 0, .text = notListedByName, .file = path});
+            menuFiles.push_back(path);
+        } else {
+            throw RunTimeError(ERROR_FILE_NOT_FOUND, path);
+        }
+    }
+
+    CheckResult Finish(const CheckProgress& progress) {
+        result.menuFiles = menuFiles.size();
+        std::map<std::string, std::string>
+            keys; // the same for the file system, and as one of the files has it
+        auto checks = CheckMenuFiles(menuFiles, wishes, progress);
+        for (std::size_t i = 0; i < checks.size(); ++i) {
+            for (auto& finding : checks[i].findings)
+                finding.file = menuFiles[i];
+            Append(result.findings, std::move(checks[i].findings));
+            if (wishes.tree)
+                result.trees.append(menuFiles[i]).append(": ").append(checks[i].tree);
+            for (auto& key : checks[i].keys)
+                keys.try_emplace(UpperCase(key), key);
+        }
+        for (const auto& [comparable, key] : keys)
+            CheckSettings(SettingsPath(temporaryFolder, key));
+        return std::move(result);
+    }
+
+private:
+    void CheckSettings(const std::string& path) {
+        if (const auto reason = WhySettingsUnreadable(path); !reason.empty())
+            result.findings.push_back(
+                {.kind = Finding::Kind::Warning,
+                 .line = 0,
+                 .text = reason + ": the Properties dialog ends the menu with an error; remove the file, and "
+                                  "the dialog begins with the defaults",
+                 .file = path});
+    }
+
+    std::string temporaryFolder = EnvironmentVariable("TesselTemp");
+    MenuWishes wishes;
+    std::vector<std::string> menuFiles; // paths
+    CheckResult result;
+};
+
+} // namespace
+
+CheckResult CheckPaths(const std::vector<std::string>& paths, bool withTrees, const CheckProgress& progress) {
+    Checks checks(withTrees);
+    for (const auto& path : paths)
+        checks.Add(path);
+    return checks.Finish(progress);
+}
+
+} // namespace obrin
