@@ -10,6 +10,7 @@ namespace obrin::bench {
 std::vector<Row> MeasureTyping();
 std::vector<Row> MeasureTree();
 std::vector<Row> MeasureListing();
+std::vector<Row> MeasureChecking();
 std::vector<Row> MeasureStart();
 std::vector<Row> MeasureWaiting();
 std::vector<Row> MeasureResizing();

@@ -30,10 +30,11 @@ struct Measurement {
     std::vector<Row> (*measure)();
 };
 
-constexpr std::array<Measurement, 8> measurements{{
+constexpr std::array<Measurement, 9> measurements{{
     {"typing", MeasureTyping},
     {"tree", MeasureTree},
     {"listing", MeasureListing},
+    {"checking", MeasureChecking},
     {"start", MeasureStart},
     {"waiting", MeasureWaiting},
     {"resizing", MeasureResizing},

@@ -1,5 +1,6 @@
 #include "common/Text.h"
 
+#include "common/Bytes.h"
 #include "common/Lines.h"
 
 #include <gtest/gtest.h>
@@ -41,6 +42,33 @@ TEST(Text, CharactersAreFoundAmongThoseOfTwoBytes) {
         EXPECT_EQ(FindCharacter(text, '\\', isLeadByte, 2), firstFromTwo) << text;
         EXPECT_EQ(FirstCharacters(text, 2, isLeadByte), twoCharacters);
         EXPECT_EQ(EnsureTrailingBackslash(text, isLeadByte), asFolder);
+    }
+}
+
+TEST(Bytes, AreFoundInBlocksAndBehindThem) {
+    const std::string blocks(300, 'x');
+    for (std::size_t place = 0; place <= blocks.size(); ++place) {
+        for (const char unusual : {'\r', '\x80', '\0', '^'}) {
+            std::string text = blocks;
+            text.insert(place, 1, unusual);
+            text += unusual;
+            EXPECT_EQ(FindByte(text, unusual), place);
+            EXPECT_EQ(FindUnusualByte(text, '^'), place);
+            EXPECT_EQ(FindByte(text, unusual, place + 1), blocks.size() + 1);
+            EXPECT_EQ(FindUnusualByte(text, '^', place + 1), blocks.size() + 1);
+        }
+    }
+    EXPECT_EQ(FindByte(blocks, ' '), std::string::npos);
+    EXPECT_EQ(FindUnusualByte(blocks + " ~\x7F^"), std::string::npos);
+}
+
+TEST(LineReader, TellsPlainLinesAndTheirMark) {
+    LineReader reader("a^b^\r\nab\r\n\xE4^\r\na^\tb\r\n^", '^');
+    for (const auto& [plain, mark] :
+         {std::pair{true, std::size_t{1}}, {true, std::string::npos}, {false, 0U}, {false, 0U}, {true, 0U}}) {
+        ASSERT_TRUE(reader.Next());
+        EXPECT_EQ(reader.IsPlain(), plain);
+        EXPECT_TRUE(!plain || reader.MarkOfPlainLine() == mark);
     }
 }
 

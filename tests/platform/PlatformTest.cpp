@@ -35,7 +35,7 @@ TEST(Images, AreForWindows10AndTakeNothingFromTheirOwnFolder) {
     const std::set<std::string> known{"ADVAPI32.DLL", "GDI32.DLL",    "KERNEL32.DLL", "MSVCRT.DLL",
                                       "OLE32.DLL",    "OLEAUT32.DLL", "SHELL32.DLL",  "SHLWAPI.DLL",
                                       "USER32.DLL",   "COMCTL32.DLL"};
-    for (const char* name : {"ObrinMenu.exe", "Corvel.dll"}) {
+    for (const char* name : {"ObrinMenu.exe", "ObrinCheck.exe", "Corvel.dll"}) {
         std::array<char, MAX_PATH> own;
         GetModuleFileNameA(nullptr, own.data(), own.size());
         const auto file = std::filesystem::path(own.data()).replace_filename(name).string();

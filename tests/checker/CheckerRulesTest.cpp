@@ -1,0 +1,166 @@
+#include "checker/FileChecks.h"
+#include "checker/Finding.h"
+#include "checker/MenuCheck.h"
+#include "startup/UserRecords.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace obrin {
+namespace {
+
+using namespace std::string_literals;
+
+bool IsLeadByte(char byte) {
+    return byte == '\x81';
+}
+
+// What is wrong, of each finding, in the order of the lines: "E2 there is no heading W3 ...".
+std::string Briefly(std::vector<Finding> findings) {
+    std::ranges::stable_sort(findings, {}, &Finding::line);
+    std::string brief;
+    for (const auto& [kind, line, text, file] : findings)
+        brief += (kind == Finding::Kind::Error ? " E" : " W") + std::to_string(line) + " " +
+                 text.substr(0, text.find(": "));
+    return brief.substr(brief.empty() ? 0 : 1);
+}
+
+// Hands out a text in parts, short ones at first, each time in other memory.
+MoreText InParts(std::string_view text) {
+    return [text, memory = std::string()](std::string_view rest) mutable {
+        const auto part = text.substr(0, std::max<std::size_t>(3, rest.size()));
+        text.remove_prefix(part.size());
+        memory = std::string(rest).append(part);
+        return std::string_view(memory);
+    };
+}
+
+TEST(MenuCheck, FindsEverythingThatIsWrongOrOdd) {
+    const std::string noHeading = "there is no heading one level above this entry";
+    const std::string lineFeed = "a line end of LF alone";
+    const std::string utf8 = "text in UTF-8";
+    std::string deep = "T\r\n";
+    for (std::size_t depth = 0; depth < 20; ++depth)
+        deep += std::string(depth, '>') + "H\r\n";
+    std::string many = "T";
+    for (int entry = 0; entry < 32767; ++entry)
+        many += "\rA^";
+    const std::pair<std::string, std::string> cases[] = {
+        {"T\r\nA^K\r\nB\r\n>C^L", ""},
+        {"", "E0 the file has no header line"},
+        {" ^x\r\nA^K", "W1 the title is empty"},
+        // Of entries that miss the same heading the first one tells.
+        {"T\r\n>A^K\r\n>B^L\r\nC\r\n>D^M\r\n>>>E^N\r\n>>F^O",
+         "E2 " + noHeading + " E6 " + noHeading + " E7 " + noHeading},
+        {"T\r\nA\r\n>>>B\r\n>>>>C^K\r\n>D^L\r\n>>E^M", "E3 " + noHeading + " E6 " + noHeading},
+        {"T\r\n" + std::string(40000, '>') + "A\r\n" + std::string(40001, '>') + "B^K",
+         "E2 " + noHeading + " W2 the heading A holds no program"},
+        {"T\r\nA^1\r\nB^1\r\nC^K\r\nD^K\r\nE^K",
+         "E2 the key 1 is a number E3 the key 1 is a number E3 the key 1 is there already, in line 2 "
+         "E5 the key K is there already, in line 4 E6 the key K is there already, in line 4"},
+        {"T\r\nA^\x81^\r\nB^\x81^", "E3 the key \x81^ is there already, in line 2"},
+        {many, ""},
+        {many + "\rB^K\r>C^K", "E32769 more entries than a menu can count"},
+        {"T\nA^K\n", "W1 " + lineFeed},
+        {"T\r\nA^K\r\nB^L\nC^M\r\n\nD^N", "W3 " + lineFeed},
+        {"\xEF\xBB\xBFT\r\nA^K", "W1 a byte-order mark of UTF-8"},
+        {"\xFF\xFET\0\r\0\n\0"s,
+         "W1 a byte-order mark of UTF-16 W2 a line end of LF alone W2 the heading ??? holds no program"},
+        {"T\r\nA^K\r\nB\xC3\xA4^L\r\nC\xE2\x82\xAC^\xF0\x9F\x98\x80", "W3 " + utf8},
+        {"T\r\nA\xC3\xA4^K\r\nB\xE4^L\r\nC\xC3\xA4^M", ""},
+        {"T\xC3\r\nA^K", ""},
+        {"T\xC0\xA0\r\nA^K", ""},
+        {"T\r\nA^..\\K\r\nB^UB\\..\\L\r\nC^..M\\N..\r\nD^O\\..",
+         "W2 the key ..\\K holds \"..\" W3 the key UB\\..\\L holds \"..\" W5 the key O\\.. holds \"..\""},
+        {"T\r\nA^C:\\K\r\nB^ L\r\nC^M \r\nD^",
+         "W2 the key C:\\K names a drive W3 the key  L begins or ends with "
+         "a blank W4 the key M  begins or ends with a blank"},
+        {"T\r\nA\r\n>B\r\n>>C\r\n>D\r\nE\r\n>F\r\n>>G^K\r\n>H\r\n\r\n",
+         "W2 the heading A holds no program W9 the heading H holds no program W10 an empty line"},
+        {deep + std::string(19, '>') + "A^K", "W21 the heading H holds no program"},
+        {deep + std::string(20, '>') + "A^K\r\n" + std::string(20, '>') + "B^L", "W22 more than 20 levels"},
+    };
+    for (const auto& [file, expected] : cases) {
+        const CodePage codePage{.isLeadByte = IsLeadByte};
+        EXPECT_EQ(Briefly(CheckMenuFile(file, codePage, {}).findings), expected) << file.substr(0, 80);
+        EXPECT_EQ(Briefly(CheckMenuFile(InParts(file), codePage, {}).findings), expected)
+            << file.substr(0, 80);
+    }
+    EXPECT_EQ(CheckMenuFile("T\xC3\xA4\r\nA^K", {.isUtf8 = true}, {}).findings.size(), 0U);
+}
+
+TEST(MenuCheck, ShowsTheTreeAndTheKeys) {
+    const auto check =
+        CheckMenuFile(" T ^x\r\nA>\r\n>B>C^K>1\r\n>D\n\r\n>>E^\r\n>>>>F^L", {}, {.keys = true, .tree = true});
+    EXPECT_EQ(check.tree, " T \r\n  A>\r\n    BC [K1]\r\n    D?\r\n      E []\r\n  F [L]\r\n");
+    EXPECT_EQ(check.keys, (std::vector<std::string>{"K1", "", "L"}));
+}
+
+TEST(FileChecks, TellWhatIsOddInRecordsAndNames) {
+    const auto record = [](const char* user, int wsid) {
+        return UserWsidRecord(user, static_cast<std::int16_t>(wsid));
+    };
+    const std::pair<std::string, std::string> users[] = {
+        {record("anna", 1) + record("Anna", 99) + "fragment", ""},
+        {record("a", 0) + record("b", -1) + record("c", 100),
+         "W0 record 1 gives the user a the workstation number 0 W0 record 2 gives the user b the workstation "
+         "number -1 "
+         "W0 record 3 gives the user c the workstation number 100"},
+        {record("a", 1) + record("b", 2) + record("a", 2) + record("a", 3),
+         "W0 the user a has the records 1 and 3 W0 the user a has the records 3 and 4"},
+        {record("a", 3) + record("b", 2) + record("a", 2),
+         "W0 the user a has the records 1 and 3 "
+         "W0 the users a and b both have the workstation number 2"},
+    };
+    for (const auto& [file, expected] : users)
+        EXPECT_EQ(Briefly(CheckUserRecords(file, nullptr)), expected);
+    EXPECT_EQ(CheckUpdateRegister("001002").size(), 0U);
+    EXPECT_EQ(Briefly(CheckUpdateRegister("0010020")), "W0 the last record is cut off");
+    for (const char* name : {"UB.MNU", "a.Mnu"})
+        EXPECT_TRUE(IsMistakenMenuFileName(name)) << name;
+    for (const char* name : {"UB.mnu", ".MNU", "UB.MNU.bak", "UBMNU"})
+        EXPECT_FALSE(IsMistakenMenuFileName(name)) << name;
+}
+
+std::string Image(const std::string& machine, const std::string& rest = "") {
+    return "MZ" + std::string(58, '.') + "\x40\0\0\0PE\0\0"s + machine + rest;
+}
+
+TEST(FileChecks, TellALibraryThatTheMenuCannotUse) {
+    const std::string x86 = "\x4C\x01", x64 = "\x64\x86", routines = "\0GetRegValue\0SetRegValue\0"s;
+    struct {
+        std::string library, program, expected;
+    } const cases[] = {
+        {Image(x64, routines), Image(x64), ""},
+        {Image(x86, routines), "", ""}, // the menu may lie elsewhere
+        {Image(x86, routines), Image(x64), "E0 made for 32 bits, ObrinMenu.exe for 64 bits"},
+        {Image("\x64\xAA", routines), Image(x86), "E0 made for another processor, ObrinMenu.exe for 32 bits"},
+        {Image(x64, "\0_GetRegValue@12\0SetRegValue\0"s), Image(x64), "E0 without the routine GetRegValue"},
+        {"", "", "E0 no library of Windows"},
+        {Image("\x64"), "", "E0 no library of Windows"},
+        {"MZ" + std::string(58, '.') + "\xFF\xFF\xFF\xFFPE\0\0"s, "", "E0 no library of Windows"},
+    };
+    for (const auto& [library, program, expected] : cases)
+        EXPECT_EQ(Briefly(CheckSupportLibrary(library, program)), expected);
+}
+
+TEST(Finding, IsReportedInOrderAndOneLine) {
+    constexpr auto error = Finding::Kind::Error;
+    constexpr auto warning = Finding::Kind::Warning;
+    const std::vector<Finding> findings{{warning, 10, "d", "B"},
+                                        {error, 2, "b", "B"},
+                                        {warning, 2, "c", "B"},
+                                        {error, 0, "a", "B"},
+                                        {error, 3, "x", "A"}};
+    EXPECT_EQ(Report(findings),
+              "A:3: error: x\r\nB: error: a\r\nB:2: error: b\r\nB:2: warning: c\r\nB:10: warning: d\r\n");
+    EXPECT_EQ(Summary(findings, 1), "3 errors, 2 warnings in 1 menu file\r\n");
+    EXPECT_TRUE(HasErrors(findings));
+    EXPECT_FALSE(HasErrors({findings.front()}));
+    EXPECT_EQ(Shown("a\r\n\x1B\x7F\xE4", nullptr), "a????\xE4");
+    EXPECT_EQ(Shown(std::string(300, 'x'), nullptr), std::string(200, 'x') + "...");
+}
+
+} // namespace
+} // namespace obrin
