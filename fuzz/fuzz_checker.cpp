@@ -18,10 +18,10 @@ bool MenuTakes(std::string_view file, obrin::LeadByteTest isLeadByte) {
     }
 }
 
-// Another part at each call, in other memory.
+// Parts that grow, each time in other memory.
 obrin::MoreText InParts(std::string_view text, std::size_t size) {
     return [=, memory = std::string()](std::string_view rest) mutable {
-        const auto part = text.substr(0, size);
+        const auto part = text.substr(0, std::max(size, rest.size()));
         text.remove_prefix(part.size());
         memory = std::string(rest).append(part);
         return std::string_view(memory);
