@@ -60,6 +60,7 @@ TEST(MenuCheck, FindsEverythingThatIsWrongOrOdd) {
          "E2 the key 1 is a number E3 the key 1 is a number E3 the key 1 is there already, in line 2 "
          "E5 the key K is there already, in line 4 E6 the key K is there already, in line 4"},
         {"T\r\nA^\x81^\r\nB^\x81^", "E3 the key \x81^ is there already, in line 2"},
+        {"T\r\nA^K\r\nLonger^K", "E3 the key K is there already, in line 2"},
         {many, ""},
         {many + "\rB^K\r>C^K", "E32769 more entries than a menu can count"},
         {"T\nA^K\n", "W1 " + lineFeed},
