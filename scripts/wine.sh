@@ -232,7 +232,8 @@ start_session() {
   session_processes+=($!)
   # Wine ends its desktop and service processes when the last program with a window ends, and starting them for
   # each test costs seconds, with the test runner's pipe in their hands. So one minimised program stays.
-  if ! run_wine start /min winemine </dev/null >/dev/null 2>&1 || ! wait_until 20 window_manager_runs; then
+  if ! wait_until 20 window_manager_runs || ! run_wine start /min winemine </dev/null >/dev/null 2>&1 ||
+    ! wait_until 20 keeper_stays; then
     echo "The hidden desktop did not start" >&2
     return 1
   fi
@@ -240,4 +241,10 @@ start_session() {
 
 window_manager_runs() {
   xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'
+}
+
+# The window manager has its window: with it stand the desktop and the services, which would otherwise be started by
+# the first test.
+keeper_stays() {
+  xprop -root _NET_CLIENT_LIST | grep -q 'window id # 0x'
 }

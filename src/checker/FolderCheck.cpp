@@ -116,7 +116,7 @@ private:
         std::map<std::string, const char*> captionOf; // by document: most are the same for every system
         for (const auto& [id, caption] : items) {
             for (const auto& name : names)
-                captionOf.emplace(DocumentOf(id, SystemCode(name, isLeadByte)).value_or(""), caption);
+                captionOf.emplace(DocumentOf(id, name, isLeadByte).value_or(""), caption);
         }
         for (const auto& [document, caption] : captionOf) {
             if (!FileExists(PathOf(document)))

@@ -1,5 +1,6 @@
 #include "menu/MenuCommands.h"
 
+#include "menu/MenuDefinition.h"
 #include "resources/Ids.h"
 
 #include <algorithm>
@@ -47,13 +48,13 @@ std::optional<std::string_view> HostProgramOf(int item) {
     return Find(hostPrograms, item);
 }
 
-std::optional<std::string> DocumentOf(int item, std::string_view systemCode) {
+std::optional<std::string> DocumentOf(int item, std::string_view menuFileName, LeadByteTest isLeadByte) {
     const auto document = Find(documents, item);
     if (!document)
         return std::nullopt;
     std::string path(*document);
     if (const auto place = path.find(systemCodePlace); place != std::string::npos)
-        path.replace(place, 1, systemCode);
+        path.replace(place, 1, SystemCode(menuFileName, isLeadByte));
     return path;
 }
 

@@ -109,7 +109,7 @@ void MenuTree::Attach(HWND treeView, Events treeEvents) {
 }
 
 LRESULT CALLBACK MenuTree::Procedure(HWND, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                                     DWORD_PTR self) {
+                                     DWORD_PTR self) noexcept {
     return AtBoundary([=] { return reinterpret_cast<MenuTree*>(self)->OnMessage(message, wParam, lParam); });
 }
 

@@ -59,7 +59,7 @@ void frmMain::Show() {
     SetForegroundWindow(window);
 }
 
-LRESULT CALLBACK frmMain::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT CALLBACK frmMain::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
     if (message == WM_NCCREATE) {
         auto* self = static_cast<frmMain*>(reinterpret_cast<const CREATESTRUCTA*>(lParam)->lpCreateParams);
         self->window = window;
@@ -138,7 +138,7 @@ void frmMain::OnCommand(int id, int notification) {
         return;
     else if (const auto program = HostProgramOf(id))
         RunHostProgram(*program);
-    else if (const auto document = DocumentOf(id, SystemCode(currentSystem, CodePageLeadByteTest())))
+    else if (const auto document = DocumentOf(id, currentSystem, CodePageLeadByteTest()))
         OpenUnexamined(window, document->c_str());
 }
 

@@ -33,7 +33,7 @@ void Dialog::ShowModeless(HWND owner, int resource) {
     ShowWindow(opened, SW_SHOWNOACTIVATE);
 }
 
-INT_PTR CALLBACK Dialog::Procedure(HWND dialogWindow, UINT message, WPARAM wParam, LPARAM lParam) {
+INT_PTR CALLBACK Dialog::Procedure(HWND dialogWindow, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
     if (message == WM_INITDIALOG) {
         SetWindowLongPtrA(dialogWindow, DWLP_USER, lParam);
         auto* made = reinterpret_cast<Dialog*>(lParam);

@@ -51,7 +51,7 @@ protected:
     UINT dpi = USER_DEFAULT_SCREEN_DPI;
 
 private:
-    static INT_PTR CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    static INT_PTR CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
     INT_PTR Handle(UINT message, WPARAM wParam, LPARAM lParam);
     DialogLayout LayoutAt(UINT someDpi) const;
     SIZE OuterSize(const DialogLayout& layout, UINT someDpi) const;

@@ -29,7 +29,8 @@ void Paint(HWND box) {
     EndPaint(box, &paint);
 }
 
-LRESULT CALLBACK Procedure(HWND box, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR) {
+LRESULT CALLBACK Procedure(HWND box, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                           DWORD_PTR) noexcept {
     const auto target = reinterpret_cast<HDC>(wParam);
     switch (message) {
     case WM_COMMAND:
