@@ -1,11 +1,14 @@
 #include "end_to_end/Installation.h"
 
 #include "common/Lines.h"
+#include "platform/Events.h"
 #include "platform/File.h"
 #include "platform/Folder.h"
 #include "platform/Workstation.h"
 #include "resources/Ids.h"
 #include "startup/UserRecords.h"
+
+#include <gtest/gtest.h>
 
 #include <array>
 #include <stdexcept>
@@ -15,13 +18,34 @@ namespace obrin::test {
 constexpr const char* logFile = "fenn.log";
 
 bool Eventually(const std::function<bool()>& condition) {
-    const ULONGLONG end = GetTickCount64() + 20'000;
+    // Once something has failed, the rest may fail for the same reason.
+    const ULONGLONG end = GetTickCount64() + (testing::Test::HasFailure() ? 1'000 : 20'000);
     while (!condition()) {
         if (GetTickCount64() > end)
             return false;
+        ProcessPendingEvents(); // of windows of this program
         Sleep(10);
     }
     return true;
+}
+
+bool KeepsForeground(HWND window) {
+    return Eventually([&, times = 0]() mutable {
+        times = GetForegroundWindow() == window ? times + 1 : 0;
+        return times > 10;
+    });
+}
+
+void PointAt(POINT place) {
+    EXPECT_TRUE(Eventually([&, arrived = 0]() mutable {
+        POINT pointer;
+        GetCursorPos(&pointer);
+        if (pointer.x == place.x && pointer.y == place.y)
+            return ++arrived > 5;
+        SetCursorPos(place.x, place.y);
+        arrived = 0;
+        return false;
+    }));
 }
 
 std::string TextOf(HWND window) {

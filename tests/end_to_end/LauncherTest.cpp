@@ -21,6 +21,7 @@ constexpr DWORD leftClick = MOUSEEVENTF_LEFTDOWN | MOUSEEVENTF_LEFTUP;
 constexpr DWORD rightClick = MOUSEEVENTF_RIGHTDOWN | MOUSEEVENTF_RIGHTUP;
 
 constexpr const char* noticeTitle = "Waiting for Fenn";
+constexpr const char* hostIsOpen = "Error Opening Obrin System";
 
 std::string RememberedSystem() {
     return SupportLibrary().GetRegValue(HKEY_LOCAL_MACHINE, "Software\\Obrin", "LastSystem");
@@ -33,28 +34,6 @@ void RememberSystem(const std::string& name) {
 void Key(BYTE key) {
     keybd_event(key, 0, 0, 0);
     keybd_event(key, 0, KEYEVENTF_KEYUP, 0);
-}
-
-// Waits until the window has kept the keyboard for a while: when another one closes, the display hands it
-// to and fro, and what is typed meanwhile is lost.
-bool KeepsForeground(HWND window) {
-    return Eventually([&, times = 0]() mutable {
-        times = GetForegroundWindow() == window ? times + 1 : 0;
-        return times > 10;
-    });
-}
-
-// Moves the real pointer. The display may report late where it was before, which undoes the move.
-void PointAt(POINT place) {
-    EXPECT_TRUE(Eventually([&, arrived = 0]() mutable {
-        POINT pointer;
-        GetCursorPos(&pointer);
-        if (pointer.x == place.x && pointer.y == place.y)
-            return ++arrived > 5;
-        SetCursorPos(place.x, place.y);
-        arrived = 0;
-        return false;
-    }));
 }
 
 // Clicks the real mouse on one of the tree's visible rows, counted from 0; `depth` is the node's.
@@ -72,6 +51,8 @@ void ClickRow(HWND tree, int row, int depth, DWORD downAndUp, int times = 1) {
 TEST(Launcher, FirstDayOfAUser) {
     const Installation installation(0);
     const std::string user = LoginName();
+    const std::string other = UserWsidRecord("other than " + user, 9);
+    WriteFileBytes("UserWSID.sys", other.substr(0, 102)); // the last record may be so short
     const Launcher launcher;
     const std::string title = "Please Select a WSID";
     EXPECT_TRUE(launcher.Texts(title).starts_with(
@@ -87,11 +68,12 @@ TEST(Launcher, FirstDayOfAUser) {
         launcher.Press(title, button);
     }
     ASSERT_TRUE(launcher.Menu());
-    EXPECT_EQ(ReadFileBytes("UserWSID.sys"), UserWsidRecord(user, 5));
+    EXPECT_EQ(ReadFileBytes("UserWSID.sys"), other + UserWsidRecord(user, 5));
     EXPECT_TRUE(FileExists("Menu 5.txt"));
     EXPECT_TRUE(ReadFileBytes("FennConfig.Sys").ends_with(",X,\\\r\nFiles 120\r\n"));
     EXPECT_EQ(installation.Logged("start"), Lines{"run core\\start -5"});
     EXPECT_TRUE(installation.HostTypes({"LOAD CORE\\STARTSYS", "RUN", "UB"}));
+    EXPECT_EQ(installation.Logged("down").front(), std::to_string('L')) << "sent, not posted";
     const HWND host = FindWindowA("ZafWindow", "Obrin-05");
     ASSERT_TRUE(host);
     EXPECT_FALSE(IsWindowVisible(host));
@@ -179,12 +161,20 @@ TEST(Launcher, SwitchesSystemsAndRemembersTheLast) {
     const Installation installation(5);
     WriteFileBytes("ZZ.mnu", "  Zoning  ^x\r\nFirst^ZZ\\One\r\nLast^ZZ\\Two\r\n");
     RememberSystem("UB.mnu");
+    SetEnvironmentVariableA("FENN_HANG", "LOAD CORE\\PROGRAMS\\CSBACKUP");
+    SetEnvironmentVariableA("FENN_HANG_MS", "500");
     const Launcher launcher;
     ASSERT_TRUE(installation.HostTypesLast("UB"));
     const auto files = EnumerateMenuFiles(); // in the order of the system list
     const auto zoning = std::ranges::find(files, "ZZ.mnu", &MenuFile::name) - files.begin();
     launcher.Send(WM_COMMAND, static_cast<WPARAM>(ID_SYSTEMS + zoning));
     EXPECT_EQ(TextOf(GetDlgItem(launcher.Menu(), IDC_LABEL1)), "Zoning");
+    const auto centre = [&](int label) {
+        RECT place;
+        GetWindowRect(GetDlgItem(launcher.Menu(), label), &place);
+        return (place.left + place.right) / 2;
+    };
+    EXPECT_NEAR(centre(IDC_LABEL1), centre(IDC_LABEL2), 1);
     const HWND tree = launcher.Tree();
     EXPECT_EQ(TreeView_GetCount(tree), 2U);
     EXPECT_TRUE(KeepsForeground(launcher.Menu()));
@@ -192,8 +182,10 @@ TEST(Launcher, SwitchesSystemsAndRemembersTheLast) {
     EXPECT_TRUE(Eventually([&] {
         return TreeView_GetSelection(tree) == TreeView_GetNextSibling(tree, TreeView_GetRoot(tree));
     })) << "the tree has kept the keyboard";
-    launcher.Send(WM_COMMAND, ID_BACKUP);
-    launcher.Send(WM_ENDSESSION, TRUE); // the Windows session ends
+    launcher.Send(WM_ENDSESSION, FALSE); // the Windows session was to end and does not
+    PostMessageA(launcher.Menu(), WM_COMMAND, ID_BACKUP, 0);
+    EXPECT_TRUE(Eventually([&] { return !installation.Logged("hang").empty(); }));
+    launcher.Send(WM_ENDSESSION, TRUE); // it ends, in the middle of a command
     EXPECT_EQ(launcher.ExitCode(), 0);
     EXPECT_TRUE(installation.HostTypes({"LOAD CORE\\STARTSYS", "RUN", "UB", "LOAD CORE\\STARTSYS", "RUN",
                                         "ZZ", "LOAD CORE\\PROGRAMS\\CSBACKUP", "RUN", "RUN CORE\\EXIT"}));
@@ -243,7 +235,6 @@ TEST(Launcher, RightClickSelectsAndOffersThePopup) {
 }
 
 TEST(Launcher, RefusesToRunBesideAnOpenHost) {
-    const std::string title = "Error Opening Obrin System";
     const std::string question = "Error: Fenn Already Open!! Please close before proceeding.\r\n\r\n"
                                  "Would you like us to show the Fenn Window Now?";
     const Installation installation(5);
@@ -254,10 +245,10 @@ TEST(Launcher, RefusesToRunBesideAnOpenHost) {
     for (const int answer : {IDNO, IDYES}) {
         WriteFileBytes("FennConfig.Sys", "x\r\n");
         const Launcher launcher;
-        EXPECT_NE(launcher.Texts(title).find(question), std::string::npos);
-        EXPECT_TRUE(SendDlgItemMessageA(launcher.Window(title), IDNO, WM_GETDLGCODE, 0, 0) &
+        EXPECT_NE(launcher.Texts(hostIsOpen).find(question), std::string::npos);
+        EXPECT_TRUE(SendDlgItemMessageA(launcher.Window(hostIsOpen), IDNO, WM_GETDLGCODE, 0, 0) &
                     DLGC_DEFPUSHBUTTON);
-        launcher.Press(title, answer);
+        launcher.Press(hostIsOpen, answer);
         EXPECT_EQ(launcher.ExitCode(), 0);
         EXPECT_TRUE(ReadFileBytes("FennConfig.Sys").starts_with("Drive S,")) << "rewritten all the same";
         EXPECT_EQ(IsWindowVisible(host) != FALSE, answer == IDYES);
@@ -268,10 +259,18 @@ TEST(Launcher, SecondMenuShowsTheFirstAndDoesNotHangWithIt) {
     const Installation installation(5);
     const Launcher first;
     ASSERT_TRUE(installation.HostTypesLast("UB"));
-    installation.EndHost(); // with a host open, the second one's answer would be another
+    EXPECT_TRUE(Launcher().Window(hostIsOpen)) << "comes first";
+    installation.EndHost();
     ShowWindow(first.Menu(), SW_SHOWMINNOACTIVE);
     EXPECT_EQ(Launcher().ExitCode(), 0);
     EXPECT_TRUE(Eventually([&] { return !IsIconic(first.Menu()); }));
+    const HWND cover = CreateWindowExA(0, "STATIC", "", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 900, 900,
+                                       nullptr, nullptr, nullptr, nullptr);
+    SetForegroundWindow(cover);
+    EXPECT_TRUE(KeepsForeground(cover));
+    EXPECT_EQ(Launcher().ExitCode(), 0);
+    EXPECT_TRUE(KeepsForeground(first.Menu()));
+    DestroyWindow(cover);
     first.Hang(true);
     EXPECT_EQ(Launcher().ExitCode(), 0);
     first.Hang(false);
@@ -335,14 +334,15 @@ TEST(Launcher, CanBeClosedByTheNoticeThatItWaits) {
 
 TEST(Launcher, WaitsWithADamagedNumberUntilItIsClosed) {
     const Installation installation(-7);
+    DeleteFileA("Fenn.exe"); // of which there would be a notice at once
     const Launcher launcher;
     HWND menu = nullptr;
     ASSERT_TRUE(Eventually([&] { return (menu = FindWindowA("ObrinMenu.frmMain", nullptr)) != nullptr; }));
     Sleep(300); // in which it must neither ask nor start the host
     EXPECT_TRUE(IsWindowEnabled(menu));
-    EXPECT_EQ(installation.Logged("start"), Lines{});
+    EXPECT_FALSE(launcher.Shown(noticeTitle));
     PostMessageA(menu, WM_CLOSE, 0, 0);
-    EXPECT_EQ(launcher.ExitCode(), 0);
+    EXPECT_EQ(launcher.ExitCode(), 0) << "and does not start it now";
 }
 
 void MakeSystems(int count) {
@@ -378,24 +378,32 @@ TEST(Launcher, EndsWithTheErrorOfAFault) {
         EXPECT_FALSE(launcher.Shown("Obrin System Menu"));
         launcher.Press(title, IDOK);
         EXPECT_EQ(launcher.ExitCode(), foreseen ? 0 : 1);
-        const Lines typed = installation.Logged("line");
-        EXPECT_EQ(std::ranges::count(typed, "RUN CORE\\EXIT"), 0) << "no orderly close";
     }
 }
 
-TEST(Launcher, TakesWhatIsOddButAllowedAndEndsWhenItsRegisterIsAFolder) {
+TEST(Launcher, TakesWhatIsOddButAllowedAndEndsWithTheErrorOfAnEvent) {
     const Installation installation(5);
     WriteFileBytes("UB.mnu", std::string(10'000'000, 'x') + "\rA^K\r"); // a title of 10 MB
     MakeSystems(98);
     RememberSystem("UB.mnu");
     DeleteFileA("Updated.txt");
     CreateFolder("Updated.txt");
-    const Launcher launcher;
-    ASSERT_TRUE(installation.HostTypesLast("UB"));
-    PostMessageA(launcher.Menu(), WM_COMMAND, IDC_COMMAND1, 0);
-    EXPECT_NE(launcher.Texts("ObrinMenu").find("Updated.txt"), std::string::npos);
-    launcher.Press("ObrinMenu", IDOK);
-    EXPECT_EQ(launcher.ExitCode(), 1);
+    WriteFileBytes("Ini", "no folder");
+    SetEnvironmentVariableA("TesselTemp", ".");
+    // In the menu window, and in a dialog.
+    for (const auto& [command, text] :
+         {std::pair{IDC_COMMAND1, "Updated.txt"}, {ID_TREE_PROPERTIES, "\\Ini"}}) {
+        const Launcher launcher;
+        ASSERT_TRUE(installation.HostTypesLast("UB"));
+        PostMessageA(launcher.Menu(), WM_COMMAND, static_cast<WPARAM>(command), 0);
+        EXPECT_NE(launcher.Texts("ObrinMenu").find(text), std::string::npos);
+        EXPECT_FALSE(IsWindowEnabled(launcher.Menu()));
+        SendMessageA(launcher.Menu(), WM_CLOSE, 0, 0); // of which nothing may come any more
+        launcher.Press("ObrinMenu", IDOK);
+        EXPECT_EQ(launcher.ExitCode(), 1);
+        EXPECT_TRUE(installation.HostTypesLast("UB")) << "no orderly close";
+        installation.EndHost();
+    }
 }
 
 } // namespace

@@ -3,7 +3,7 @@
 
 #include "end_to_end/Installation.h"
 
-#include "common/Text.h"
+#include "common/Twips.h"
 #include "menu/frmMain.h"
 #include "platform/Events.h"
 #include "platform/File.h"
@@ -57,6 +57,9 @@ TEST_F(MenuWindow, KeepsItsMarginsAtEverySize) {
         return text;
     };
     const std::string designed = margins();
+    RECT inside;
+    GetClientRect(menu, &inside);
+    EXPECT_EQ(inside.bottom, ToPixels(design::inner.height, GetDpiForWindow(menu))) << "with a menu bar";
     EXPECT_TRUE(designed.ends_with(" in front in front in front")) << designed;
     for (const SIZE size : {SIZE{1200, 900}, {1, 1}, {760, 560}}) {
         for (const int id : {IDC_FRAME1, IDC_LABEL5})
@@ -66,21 +69,23 @@ TEST_F(MenuWindow, KeepsItsMarginsAtEverySize) {
             EXPECT_EQ(margins(), designed);
         }
     }
+    PostMessageA(menu, WM_COMMAND, ID_ABOUT, 0);
+    EXPECT_EQ(GetWindow(launcher.Window("Obrin Software Systems"), GW_OWNER), menu);
+    EXPECT_FALSE(IsWindowEnabled(menu));
 }
 
 TEST_F(MenuWindow, PointerIsACrosshairFromTheLinkToTheBackground) {
-    SetForegroundWindow(menu);
+    EXPECT_TRUE(KeepsForeground(menu));
     const auto pointerOver = [](HWND window, int x, int y) {
         POINT place{x, y};
         ClientToScreen(window, &place);
+        PointAt(place);
+        // Once more what the move itself says: nothing tells when that has been handled.
+        const HWND under = WindowFromPoint(place);
+        SendMessageA(under, WM_SETCURSOR, reinterpret_cast<WPARAM>(under),
+                     MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
         CURSORINFO pointer{};
         pointer.cbSize = sizeof pointer;
-        // Two moves: the first one only enters the control. Nothing tells when a move that must change
-        // nothing has been handled, so each gets a moment.
-        for (const int step : {0, 1}) {
-            SetCursorPos(place.x + step, place.y);
-            Sleep(50);
-        }
         GetCursorInfo(&pointer);
         return pointer.hCursor;
     };
@@ -98,12 +103,6 @@ TEST_F(MenuWindow, PointerIsACrosshairFromTheLinkToTheBackground) {
     EXPECT_EQ(insideFrame(), arrow);
 }
 
-TEST_F(MenuWindow, AboutBoxIsModal) {
-    PostMessageA(menu, WM_COMMAND, ID_ABOUT, 0);
-    EXPECT_EQ(GetWindow(launcher.Window("Obrin Software Systems"), GW_OWNER), menu);
-    EXPECT_FALSE(IsWindowEnabled(menu));
-}
-
 LRESULT CALLBACK CountLinkClicks(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
                                  DWORD_PTR clicks) {
     if (message == WM_COMMAND && wParam == MAKEWPARAM(IDC_LABEL5, STN_CLICKED))
@@ -114,6 +113,7 @@ LRESULT CALLBACK CountLinkClicks(HWND window, UINT message, WPARAM wParam, LPARA
 TEST(MenuWindowHere, IsTheSameOnEveryScreenAndForEveryReader) {
     const Installation installation(5);
     WriteFileBytes("UB.mnu", "Water && Waste\r\nBackup^Core\\Programs\\CSBackup\r\n");
+    WriteFileBytes("Startup.bmp", Bmp(120, 90));
     frmMain menu;
     menu.Show();
     const HWND window = menu.Window();
@@ -121,6 +121,9 @@ TEST(MenuWindowHere, IsTheSameOnEveryScreenAndForEveryReader) {
     const HWND link = control(IDC_LABEL5);
     const HWND tree = GetDlgItem(control(IDC_FRAME1), IDC_TREEVIEW1);
     const HWND button = GetDlgItem(control(IDC_FRAME1), IDC_COMMAND1);
+    const std::vector<RECT> picture = Places(control(IDC_IMAGE1));
+    EXPECT_EQ(picture[0].right - picture[0].left, 120);
+    EXPECT_TRUE(SendMessageA(control(IDC_IMAGE1), STM_GETIMAGE, IMAGE_BITMAP, 0));
     SetWindowPos(window, nullptr, 0, 0, 600, 450, SWP_NOZORDER); // twice as large it still has the room
     IsTheSameAfterOtherScreens(window);
 

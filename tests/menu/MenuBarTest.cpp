@@ -1,4 +1,6 @@
 #include "menu/MenuCommands.h"
+
+#include "menu/SystemList.h"
 #include "platform/WindowsApi.h"
 #include "resources/Ids.h"
 
@@ -22,18 +24,17 @@ std::string Listed(HMENU menu) {
         else if (const auto program = HostProgramOf(id))
             lines.append(*program).append("\n");
         else
-            lines.append(DocumentOf(id, "UB").value_or(std::to_string(id))).append("\n");
+            lines.append(DocumentOf(id, "UB.mnu", nullptr).value_or(std::to_string(id))).append("\n");
     }
     return lines;
 }
 
-std::string Listed(int resource) {
-    return Listed(LoadMenuA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(resource)));
-}
-
 TEST(MenuBar, HasItsItemsInOrderAndEachDoesItsWork) {
-    EXPECT_EQ(Listed(IDR_MENU_BAR), R"(System List = 
-Dummy for Load = 499
+    const HMENU bar = LoadMenuA(Instance(), MAKEINTRESOURCEA(IDR_MENU_BAR));
+    FillSystemList(bar, {{"UB.mnu", "Utility"}, {"PR.mnu", "Payroll"}});
+    EXPECT_EQ(Listed(bar), R"(System List = 
+Utility = 400
+Payroll = 401
 &Core Programs = 
 &Backup = Core\Programs\CSBackup
 &Restore = Core\Programs\CSRestore
@@ -53,9 +54,9 @@ Obrin &Website = Help\Obrin-Web.url
 Obrin &User Website = Obrin-User.url
 A&bout Obrin = 314
 )");
-    EXPECT_EQ(Listed(IDR_TREE_POPUP), "TreeView Stuff = \n&Properties = 321\n&Help = 322\n");
-    EXPECT_EQ(DocumentOf(IDC_LABEL5, "UB"), "Help\\BetterIdea.url");
-    EXPECT_EQ(DocumentOf(ID_SYSTEM_HELP, "*"), "Help\\*\\Index.html");
+    EXPECT_EQ(Listed(LoadMenuA(Instance(), MAKEINTRESOURCEA(IDR_TREE_POPUP))),
+              "TreeView Stuff = \n&Properties = 321\n&Help = 322\n");
+    EXPECT_EQ(DocumentOf(IDC_LABEL5, "UB.mnu", nullptr), "Help\\BetterIdea.url");
 }
 
 } // namespace

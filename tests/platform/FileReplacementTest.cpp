@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <array>
+#include <thread>
 
 namespace obrin {
 namespace {
@@ -32,19 +33,26 @@ TEST(FileReplacement, WritesInPlaceWhatOthersHoldAndLeavesAloneWhatTheyLetNobody
     constexpr DWORD unheld = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     struct {
         DWORD share, attributes, refusal;
+        bool letsGoSoon = false;
     } const cases[] = {
         {unheld, FILE_ATTRIBUTE_HIDDEN, 0},
+        {0, FILE_ATTRIBUTE_NORMAL, 0, true},
         {FILE_SHARE_READ | FILE_SHARE_WRITE, FILE_ATTRIBUTE_HIDDEN, 0},
         {FILE_SHARE_READ, FILE_ATTRIBUTE_NORMAL, ERROR_SHARING_VIOLATION},
         {0, FILE_ATTRIBUTE_NORMAL, ERROR_SHARING_VIOLATION},
         {unheld, FILE_ATTRIBUTE_READONLY, ERROR_ACCESS_DENIED},
     };
-    for (const auto& [share, attributes, refusal] : cases) {
+    for (const auto& [share, attributes, refusal, letsGoSoon] : cases) {
         ReplaceFileBytes("f", old);
         SetFileAttributesA("f", attributes);
         DWORD error = 0;
         {
-            const UniqueFile holder = share == unheld ? nullptr : Hold("f", share);
+            UniqueFile holder = share == unheld ? nullptr : Hold("f", share);
+            const std::jthread other([&, letsGoSoon = letsGoSoon] {
+                Sleep(100);
+                if (letsGoSoon)
+                    holder.reset();
+            });
             if (share != 0)
                 ReplaceFileBytes("f", old); // right already
             try {

@@ -25,8 +25,8 @@ TEST(SupportLibrary, KeepsTextsInTheRegistry) {
     }
     machine.Set(key, "Number", REG_DWORD, "abcd");
     EXPECT_EQ(corvel.GetRegValue(HKEY_LOCAL_MACHINE, key, "Number"), "") << "no text";
-    machine.Set(key, "Open", REG_SZ, "abc"); // stored without its NUL
-    EXPECT_EQ(corvel.GetRegValue(HKEY_LOCAL_MACHINE, key, "Open"), "abc");
+    machine.Set(key, "Open", REG_EXPAND_SZ, "%TEMP%"); // stored without its NUL, and not expanded
+    EXPECT_EQ(corvel.GetRegValue(HKEY_LOCAL_MACHINE, key, "Open"), "%TEMP%");
 }
 
 TEST(Images, AreForWindows10AndTakeNothingFromTheirOwnFolder) {
@@ -62,12 +62,10 @@ TEST(Images, AreForWindows10AndTakeNothingFromTheirOwnFolder) {
 
 TEST(Picture, IsScaledWithTheScreen) {
     const test::ScratchFolder folder;
-    // 2 x 1 pixels of 24 bits.
-    std::string bmp("BM\x3E\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\2\0\0\0\1\0\0\0\1\0\x18\0", 30);
-    bmp.resize(62);
+    const std::string bmp = test::Bmp(4, 1);
     WriteFileBytes("p.bmp", bmp);
     const SIZE scaled = PictureSize(ScalePicture(LoadPicture("p.bmp").get(), 192).get());
-    EXPECT_EQ(scaled.cx, 4);
+    EXPECT_EQ(scaled.cx, 8);
     EXPECT_EQ(scaled.cy, 2);
     for (const std::string& bad : {std::string(), bmp.substr(0, 20), std::string(100, '\0')}) {
         WriteFileBytes("p.bmp", bad);

@@ -107,8 +107,12 @@ TEST_F(Properties, PagesAreShownByTheirTabsAndReachedByTheKeyboardInFrontOnly) {
                               GetParent(Item(IDC_TXT_MARGIN))};
         const std::pair<int, const char*> steps[] = {{0, "vvv"}, {1, "-vv"}, {0, "v-v"},
                                                      {2, "--v"}, {2, "--v"}, {1, "-v-"}};
-        for (const auto& [tab, visible] : steps) {
+        for (int before = 0; const auto& [tab, visible] : steps) {
+            const HWND inPage = Item(keyboardOrders[before][0]);
+            SetFocus(inPage);
             SelectTab(tab);
+            EXPECT_EQ(GetFocus(), tab == before ? inPage : tabs) << "never in a hidden page";
+            before = tab;
             std::string shown;
             for (const HWND page : pages) {
                 shown += IsWindowVisible(page) ? 'v' : '-';
@@ -223,6 +227,7 @@ TEST_F(Properties, MarginsAreTypedKeyByKeyAndStayUnlessTheSliderHasTheirValue) {
                 shown += Text(IDC_TXT_MARGIN).insert(caret, "|") + " ";
             }
             EXPECT_EQ(shown, states);
+            SendMessageA(dialog, WM_HSCROLL, TB_ENDTRACK, reinterpret_cast<LPARAM>(Item(IDC_SLD_MARGIN)));
             SetFocus(Item(IDC_SLD_MARGIN));
             EXPECT_EQ(Text(IDC_TXT_MARGIN), left);
             EXPECT_EQ(Send(IDC_SLD_MARGIN, TBM_GETPOS), slider) << typed;

@@ -28,12 +28,5 @@ TEST(HostKeys, AreUnsignedUpperCaseCodes) {
         << "a character of two bytes is typed as they are";
 }
 
-TEST(HostKeys, NumberIsPlainPaddedOrBehindABlank) {
-    EXPECT_EQ(HostStartArguments(5), "run core\\start -5");
-    EXPECT_EQ(StationCaption(5), "Obrin-05");
-    EXPECT_EQ(StationCaption(12), "Obrin-12");
-    EXPECT_EQ(StartSystem("UB"), "Load Core\\StartSys\rRun\rUB\r");
-}
-
 } // namespace
 } // namespace obrin

@@ -23,6 +23,7 @@ TEST(StartUp, RewritesTheConfigurationBeforeItShowsTheMenu) {
     CreateFolder("Core");
     WriteFileBytes("FennConfig.Sys", "DRIVE a\r\nFiles 1\r\n\r\ndrive b\r\n  \r\nDrive c\r\n\xE4last");
     const std::string expected = "Drive S," + ShortPath(CurrentFolder()) + ",X,\\\r\nFiles 1\r\n\xE4last\r\n";
+    EXPECT_TRUE(CreateHardLinkA("before", "FennConfig.Sys", nullptr));
     UniqueFile reader;
     for (const char* leftOnDisk :
          {"\r\nFiles 1\r\n\r\n\r\n  \r\n\r\n\xE4last\r\n", "\r\nFiles 1\r\n\xE4last\r\n"}) {
@@ -34,6 +35,7 @@ TEST(StartUp, RewritesTheConfigurationBeforeItShowsTheMenu) {
         reader.reset(
             CreateFileA("FennConfig.Sys", GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
     }
+    EXPECT_TRUE(ReadFileBytes("before").starts_with("DRIVE a")) << "replaced, not written in place";
 }
 
 TEST(StartUp, FailsWithTheOldConfigurationIntact) {
