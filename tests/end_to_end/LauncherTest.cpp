@@ -357,14 +357,9 @@ TEST(Launcher, EndsWithTheErrorOfAFault) {
              DeleteFileA("Corvel.dll"); // not needed yet
          },
          "Config File Not found!"},
-        {[] { RemoveDirectoryA("Core"); }, "Core\\TempOut.tmp"},
         {[] { DeleteFileA("Corvel.dll"); }, "Loading Corvel.dll"},
         {[] { WriteFileBytes("Corvel.dll", "x"); }, "Corvel.dll is no library for a program of "},
         {[] { DeleteFileA("UB.mnu"); }, "there is no menu file (*.mnu)"},
-        {[] { WriteFileBytes("UB.mnu", ""); }, "UB.mnu"},
-        {[] { WriteFileBytes("UB.mnu", "T\r\n>A^K\r\n"); }, "UB.mnu, line 2"},
-        {[] { WriteFileBytes("UB.mnu", ReadFileBytes("Fenn.exe")); }, "UB.mnu, line "},
-        {[] { WriteFileBytes("Startup.bmp", "no picture"); }, "Startup.bmp"},
         {[] { MakeSystems(99); }, "to the system list as item 99"},
     };
     for (const auto& [prepare, text] : faults) {

@@ -131,6 +131,9 @@ TEST(MenuWindowHere, IsTheSameOnEveryScreenAndForEveryReader) {
     GetWindowRect(control(IDC_LABEL1), &title);
     const auto font = reinterpret_cast<HFONT>(SendMessageA(control(IDC_LABEL1), WM_GETFONT, 0, 0));
     EXPECT_EQ(title.right - title.left, MeasureText(font, "Water & Waste").cx) << "as in the frame's caption";
+    LOGFONTA shape{};
+    GetObjectA(font, sizeof shape, &shape);
+    EXPECT_EQ(shape.lfHeight, -24) << "18 points, from the letters' top to their bottom";
 
     struct {
         HWND control;

@@ -239,6 +239,16 @@ TEST_F(Properties, MarginsAreTypedKeyByKeyAndStayUnlessTheSliderHasTheirValue) {
         EXPECT_EQ(Margin(3), "0.51 510");
         Send(IDC_SLD_MARGIN + 3, WM_KEYDOWN, VK_NEXT);
         EXPECT_EQ(Margin(3), "0.76 760");
+        HWND tips = nullptr;
+        do
+            tips = FindWindowExA(nullptr, tips, TOOLTIPS_CLASSA, nullptr);
+        while (tips != nullptr && GetWindow(tips, GW_OWNER) != dialog);
+        char told[80] = "";
+        TOOLINFOA tip{sizeof tip, 0,       dialog, reinterpret_cast<UINT_PTR>(Item(IDC_SLD_MARGIN + 3)),
+                      {},         nullptr, told,   0,
+                      nullptr};
+        SendMessageA(tips, TTM_GETTEXTA, sizeof told, reinterpret_cast<LPARAM>(&tip));
+        EXPECT_STREQ(told, "0.76") << "where the pointer rests on the slider";
     });
 }
 
