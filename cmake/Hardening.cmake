@@ -11,11 +11,16 @@ if(WIN32)
   add_link_options(-fstack-protector-strong -static -s -Wl,--gc-sections -Wl,--no-insert-timestamp
     -Wl,--major-subsystem-version,10,--minor-subsystem-version,0) # no older Windows starts it
 
-  find_program(GENPEIMG genpeimg REQUIRED)
+  find_program(GENPEIMG genpeimg)
+  if(NOT GENPEIMG)
+    message(WARNING "No genpeimg (of the MinGW-w64 tools): the images are not marked to run from a share")
+  endif()
 
   # Marks the image "copy to swap if run from a network": a lost connection does not end a running menu.
   function(runs_from_share target)
-    add_custom_command(TARGET ${target} POST_BUILD
-      COMMAND ${GENPEIMG} -p +n $<TARGET_FILE:${target}> VERBATIM)
+    if(GENPEIMG)
+      add_custom_command(TARGET ${target} POST_BUILD
+        COMMAND ${GENPEIMG} -p +n $<TARGET_FILE:${target}> VERBATIM)
+    endif()
   endfunction()
 endif()
