@@ -9,6 +9,8 @@ build_packages=(
   g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools
 )
 native_packages=(clang libclang-rt-dev clang-format)
+# Makes the administrator's guide from its text.
+guide_packages=(cmark-gfm)
 # libc6-i386 lets 64-bit Linux start the 32-bit Wine. A window manager, because without one every window that a
 # program shows costs two seconds; x11-utils to ask it things; imagemagick takes the pictures.
 wine_packages=(wine wine64 libc6-i386 xvfb openbox xdotool x11-utils imagemagick)

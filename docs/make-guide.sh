@@ -1,0 +1,40 @@
+#!/bin/bash
+# Makes the administrator's guide one HTML page that needs no other file: make-guide.sh VERSION PAGE
+set -euo pipefail
+version=$1
+page=$(realpath -m "$2")
+cd "$(dirname "${BASH_SOURCE[0]}")"
+
+# The pictures of a page, as part of its text: those lines consist of nothing else.
+embed_pictures() {
+  local line
+  while IFS= read -r line; do
+    if [[ $line =~ ^(.*src=\")([^\"]+\.png)(\".*)$ ]]; then
+      printf '%sdata:image/png;base64,%s%s\n' "${BASH_REMATCH[1]}" "$(base64 -w 0 "${BASH_REMATCH[2]}")" \
+        "${BASH_REMATCH[3]}"
+    else
+      printf '%s\n' "$line"
+    fi
+  done
+}
+
+# Gives every chapter a name and lists them all behind the title.
+add_contents() {
+  awk '
+    match($0, /^<h2>/) {
+      title = substr($0, 5, length($0) - 9)
+      contents = contents "<li><a href=\"#c" ++chapters "\">" title "</a></li>\n"
+      $0 = "<h2 id=\"c" chapters "\">" title "</h2>"
+    }
+    /^<h1>/ { head = $0; next }
+    { body = body $0 "\n" }
+    END { printf "%s\n<ul class=\"contents\">\n%s</ul>\n%s", head, contents, body }'
+}
+
+mkdir -p "$(dirname "$page")"
+{
+  cat guide-head.html
+  sed "s/@VERSION@/$version/g" administrator.md | cmark-gfm --extension table | add_contents | embed_pictures
+  printf '</body>\n</html>\n'
+} >"$page.new"
+mv "$page.new" "$page"
