@@ -17,6 +17,28 @@ namespace obrin::test {
 
 constexpr const char* logFile = "fenn.log";
 
+namespace {
+
+// Windows lets no program come to the front of the one that is being used, and so the tests could not bring
+// up the launcher to type into it. Off during the run, for this session only.
+class WithoutForegroundLock : public testing::Environment {
+    void SetUp() override {
+        SystemParametersInfoA(SPI_GETFOREGROUNDLOCKTIMEOUT, 0, &timeout, 0);
+        Set(0);
+    }
+    void TearDown() override { Set(timeout); }
+    static void Set(UINT_PTR milliseconds) {
+        SystemParametersInfoA(SPI_SETFOREGROUNDLOCKTIMEOUT, 0, reinterpret_cast<void*>(milliseconds), 0);
+    }
+
+    DWORD timeout = 0;
+};
+
+const testing::Environment* const withoutForegroundLock =
+    testing::AddGlobalTestEnvironment(new WithoutForegroundLock);
+
+} // namespace
+
 bool Eventually(const std::function<bool()>& condition) {
     // Once something has failed, the rest may fail for the same reason.
     const ULONGLONG end = GetTickCount64() + (testing::Test::HasFailure() ? 1'000 : 20'000);
@@ -56,7 +78,7 @@ std::string TextOf(HWND window) {
 }
 
 Installation::Installation(int wsid) {
-    RegDeleteTreeA(HKEY_LOCAL_MACHINE, "Software\\Obrin");
+    RegDeleteKeyValueA(HKEY_LOCAL_MACHINE, "Software\\Obrin", "LastSystem");
     std::array<char, MAX_PATH> tests{};
     GetModuleFileNameA(nullptr, tests.data(), tests.size());
     for (const char* program : {"ObrinMenu.exe", "Corvel.dll", "Fenn.exe"})
@@ -156,6 +178,9 @@ std::string Launcher::Texts(const std::string& caption) const {
 
 void Launcher::Press(const std::string& caption, int button) const {
     const HWND window = Window(caption);
+    // Windows gives the only button of a message box the number of Cancel.
+    if (GetDlgItem(window, button) == nullptr)
+        button = IDCANCEL;
     PostMessageA(window, WM_COMMAND, static_cast<WPARAM>(button),
                  reinterpret_cast<LPARAM>(GetDlgItem(window, button)));
     Eventually([&] { return !IsWindow(window) || !IsWindowVisible(window); });

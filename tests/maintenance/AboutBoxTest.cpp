@@ -3,6 +3,7 @@
 #include "maintenance/AboutTexts.h"
 #include "maintenance/LocalMachine.h"
 #include "platform/Font.h"
+#include "platform/Machine.h"
 #include "platform/ModalTest.h"
 #include "resources/Ids.h"
 
@@ -79,7 +80,8 @@ TEST_F(AboutBox, LeavesNothingBehind) {
     const auto [memory, objects] = usedAfter(10);
     const auto [memoryAfter, objectsAfter] = usedAfter(30);
     ASSERT_GT(memory, 0U);
-    EXPECT_LE(memoryAfter, memory + 64 * 1024);
+    // Windows' own caches and heaps grow for a while.
+    EXPECT_LE(memoryAfter, memory + (test::OnWine() ? 64 : 1024) * 1024);
     EXPECT_LT(objectsAfter, objects + 50) << "where the platform counts them";
 }
 
