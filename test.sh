@@ -8,7 +8,8 @@ source scripts/wine.sh
 usage() {
   cat <<'TEXT'
 usage: ./test.sh [--all] [--fuzz SECONDS]
-  Builds the presets native, x64 and x86. Runs the tests of native (the rules, with sanitizers) and x64 (under Wine).
+  Builds the presets native, x64 and x86. Runs the tests of native (the rules, with sanitizers) and x64 (under Wine),
+  and those of x64 once more out of their archive, as on a Windows machine.
   --all           also the tests of x86, and --fuzz 20
   --fuzz SECONDS  run the fuzz targets, SECONDS in all
 Exit code: 0 everything passed, 1 something failed, 2 nothing failed but a layer could not be run.
@@ -56,6 +57,35 @@ run_tests() {
   summary+=("$preset:" "$(sed -n '/ tests passed, /,$p' "$log")")
 }
 
+# Runs the archive of the tests in a new prefix, which must be as it was afterwards.
+run_archive() {
+  echo "Testing the archive of the tests"
+  local report=build/wine/archive/drive_c/ObrinTests/report.txt
+  rm -rf build/wine/archive
+  if ./package.sh --tests && (in_session archive unpack_and_run); then
+    summary+=("archive: $(tail -n 1 "$report" | tr -d '\r')")
+  else
+    [[ ! -f $report ]] || cat "$report"
+    failed+=("archive of the tests")
+  fi
+}
+
+unpack_and_run() {
+  local folder=$WINEPREFIX/drive_c/ObrinTests key='HKLM\Software\Obrin' before result=0
+  mkdir "$folder"
+  (cd "$folder" && cmake -E tar xf "$obrin_root"/dist/ObrinTests-*-x64.zip) || return
+  # A workstation that remembers a system.
+  run_wine reg add "$key" /v LastSystem /d 'A b.mnu' /f
+  run_wine reg add "$key\\Menu" /v LastSystem /d UB /f
+  before=$(run_wine reg query "$key" /s)
+  timeout 900 "$WINELOADER" cmd /c 'C:\ObrinTests\run-tests.cmd' || result=$?
+  if [[ $(run_wine reg query "$key" /s) != "$before" || -n $(find "$WINEPREFIX" -name 'ObrinTests-*') ]]; then
+    echo "run-tests.cmd has not put everything back"
+    result=1
+  fi
+  return "$result"
+} </dev/null >build/log/test-archive.txt 2>&1
+
 # Runs every fuzz target for its share of the time, on a copy of its seeds that grows from run to run.
 run_fuzz_targets() {
   local -a targets=()
@@ -101,7 +131,10 @@ done
 for preset in "${built[@]}"; do
   case $preset in
     native) run_tests native ;;
-    x64) run_tests x64 in_session x64 ;;
+    x64)
+      run_tests x64 in_session x64
+      run_archive
+      ;;
     x86)
       if ! $all; then
         continue
