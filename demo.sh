@@ -10,21 +10,23 @@ usage() {
 usage: ./demo.sh
   Builds the 64-bit programs, makes a demonstration installation below build/demo and starts the menu in it, on
   this desktop. What is done there is kept for the next time; remove build/demo to start over.
-usage: ./demo.sh --screenshot FILE [--dpi N] [--size WxH] [--do SCRIPT] [--without-host]
+usage: ./demo.sh --screenshot FILE [--dpi N] [--size WxH] [--do SCRIPT]
+                 [--without-host | --faulty-menu]
   Does the same as a new user on a hidden desktop, takes a picture of what is on the screen and closes the menu.
   --dpi N      the screen's resolution as Windows programs see it (96)
   --size WxH   the menu window's size in pixels, without its frame
   --do SCRIPT  bash script to run before the picture, to open a menu or a dialog; xdotool reaches the display, and
                MENU_WINDOW is the menu's window
   --without-host  in an installation whose host is missing: the notice that the menu waits for it
+  --faulty-menu   in an installation with a fault in a menu file: the box that the menu ends with
 TEXT
 }
 
-picture='' dpi=96 size='' script='' without_host=false
+picture='' dpi=96 size='' script='' fault=''
 while (($# > 0)); do
   case $1 in
-    --without-host)
-      without_host=true
+    --without-host | --faulty-menu)
+      fault=$1
       shift
       continue
       ;;
@@ -41,7 +43,7 @@ if [[ ! $dpi =~ ^[1-9][0-9]*$ || ! $size =~ ^([1-9][0-9]*x[1-9][0-9]*)?$ ]]; the
   usage >&2
   exit 64
 fi
-if [[ -z $picture && (-n $size || -n $script || $dpi != 96 || $without_host == true) ]]; then
+if [[ -z $picture && (-n $size || -n $script || $dpi != 96 || -n $fault) ]]; then
   usage >&2
   exit 64
 fi
@@ -143,10 +145,12 @@ take_picture() {
   # Menus are windows of their own and may stick out: everything on the empty screen belongs to the picture.
   import -silent -window root -trim +repage "$picture" || return
   wait_until 20 close_menu || give_up "The menu does not close" || return
-  wait "$menu_process" || {
-    echo "The menu ended with exit code $?" >&2
+  local code=0
+  wait "$menu_process" || code=$?
+  if ((code != exit_code)); then
+    echo "The menu ended with exit code $code" >&2
     return 1
-  }
+  fi
 }
 
 install_packages "${build_packages[@]}" "${wine_packages[@]}" "${font_packages[@]}"
@@ -161,11 +165,22 @@ else
   rm -rf build/screenshot "$wine_folder/screenshot"
   make_installation screenshot
   first_window='Obrin System Menu'
-  if $without_host; then
-    rm build/screenshot/host/Fenn.exe
-    first_window='Waiting for Fenn'
-  fi
+  exit_code=0
+  case $fault in
+    --without-host)
+      rm build/screenshot/host/Fenn.exe
+      first_window='Waiting for Fenn'
+      ;;
+    --faulty-menu)
+      # In every file, as any of them may be the first.
+      sed -i '2s/^/>>/' build/screenshot/host/*.mnu
+      first_window=ObrinMenu
+      exit_code=1
+      ;;
+  esac
   make_prefix screenshot
+  # A share's drive, for the folders that pictures show.
+  ln -sfn "$obrin_root/build/screenshot" "$WINEPREFIX/dosdevices/s:"
   printf '\n[Control Panel\\\\Desktop]\n"LogPixels"=dword:%08x\n' "$dpi" >>"$WINEPREFIX/pristine/user.reg"
   mkdir -p "$(dirname "$picture")"
   in_session screenshot take_picture

@@ -7,24 +7,26 @@ cd "$(dirname "${BASH_SOURCE[0]}")"
 
 # The pictures of a page, as part of its text: those lines consist of nothing else.
 embed_pictures() {
-  local line
+  local line picture
   while IFS= read -r line; do
     if [[ $line =~ ^(.*src=\")([^\"]+\.png)(\".*)$ ]]; then
-      printf '%sdata:image/png;base64,%s%s\n' "${BASH_REMATCH[1]}" "$(base64 -w 0 "${BASH_REMATCH[2]}")" \
-        "${BASH_REMATCH[3]}"
+      picture=$(base64 -w 0 "${BASH_REMATCH[2]}") || return
+      printf '%sdata:image/png;base64,%s%s\n' "${BASH_REMATCH[1]}" "$picture" "${BASH_REMATCH[3]}"
     else
       printf '%s\n' "$line"
     fi
   done
 }
 
-# Gives every chapter a name and lists them all behind the title.
+# Gives every chapter its title as a name for links, and lists them all behind the page's title.
 add_contents() {
   awk '
     match($0, /^<h2>/) {
       title = substr($0, 5, length($0) - 9)
-      contents = contents "<li><a href=\"#c" ++chapters "\">" title "</a></li>\n"
-      $0 = "<h2 id=\"c" chapters "\">" title "</h2>"
+      name = tolower(title)
+      gsub(/[^a-z0-9]+/, "-", name)
+      contents = contents "<li><a href=\"#" name "\">" title "</a></li>\n"
+      $0 = "<h2 id=\"" name "\">" title "</h2>"
     }
     /^<h1>/ { head = $0; next }
     { body = body $0 "\n" }
