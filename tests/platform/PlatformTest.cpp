@@ -60,6 +60,27 @@ TEST(Images, AreForWindows10AndTakeNothingFromTheirOwnFolder) {
     }
 }
 
+TEST(Images, SayWhatTheyAre) {
+    const std::pair<const char*, const char*> descriptions[] = {
+        {"ObrinMenu.exe", "Obrin system menu"},
+        {"ObrinCheck.exe", "Obrin installation checker"},
+        {"Corvel.dll", "Obrin support library"}};
+    for (const auto& [name, description] : descriptions) {
+        std::vector<char> version(GetFileVersionInfoSizeA(name, nullptr));
+        GetFileVersionInfoA(name, 0, static_cast<DWORD>(version.size()), version.data());
+        const auto text = [&](const std::string& field) {
+            void* value = nullptr;
+            UINT size = 0;
+            VerQueryValueA(version.data(), ("\\StringFileInfo\\040904E4\\" + field).c_str(), &value, &size);
+            return std::string(value == nullptr ? "" : static_cast<const char*>(value));
+        };
+        EXPECT_EQ(text("FileDescription") + "|" + text("OriginalFilename") + "|" + text("ProductName") + "|" +
+                      text("FileVersion") + "|" + text("ProductVersion"),
+                  std::string(description) + "|" + name +
+                      "|Obrin Core System|" OBRIN_PROJECT_VERSION "|" OBRIN_PROJECT_VERSION);
+    }
+}
+
 TEST(Picture, IsScaledWithTheScreen) {
     const test::ScratchFolder folder;
     const std::string bmp = test::Bmp(4, 1);
