@@ -143,6 +143,7 @@ std::vector<BareWindow::Copied> BareWindow::CopyChildren(HWND from, HWND to) {
 void BareWindow::RecordStep(int step) {
     const auto record = [](const std::vector<Copied>& copies) {
         std::vector<Moved> moved;
+        moved.reserve(copies.size());
         for (const auto& [original, copy] : copies)
             moved.push_back({copy, PlaceOf(original)});
         return moved;

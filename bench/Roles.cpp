@@ -81,7 +81,7 @@ LRESULT CALLBACK LateHostProcedure(HWND window, UINT message, WPARAM wParam, LPA
 
 // Started as "run core\start -5".
 int PlayLateHost(std::string_view station) {
-    TheLateHost().caption = StationCaption(-std::atoi(station.data()));
+    TheLateHost().caption = StationCaption(-std::stoi(std::string(station)));
     const HWND window = CreateRoleWindow(hostWindowClass, "", LateHostProcedure);
     CreateWindowExA(0, WC_STATICA, "", WS_CHILD, 0, 0, 10, 10, window, nullptr, nullptr, nullptr);
     ShowWindow(window, SW_SHOWNOACTIVATE);

@@ -49,7 +49,7 @@ int Run(std::span<char*> names) {
     int failed = 0;
     PrintHead();
     for (const auto& [name, measure] : measurements) {
-        const auto isNamed = [&](const char* argument) { return argument == name; };
+        const auto isNamed = [&name = name](const char* argument) { return argument == name; };
         if (!names.empty() && std::ranges::none_of(names, isNamed))
             continue;
         try {

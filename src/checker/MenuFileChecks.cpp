@@ -57,7 +57,7 @@ MenuCheck CheckMenuFile(const std::string& path, std::string& memory, const Code
 std::vector<MenuCheck> CheckMenuFiles(const std::vector<std::string>& paths, MenuWishes wishes,
                                       const CheckProgress& progress) {
     const CodePage codePage{.isLeadByte = CodePageLeadByteTest(), .isUtf8 = GetACP() == CP_UTF8};
-    std::string memory(1024 * 1024, '\0'); // the same for all: new memory takes longer than reading into it
+    std::string memory(1 << 20, '\0'); // the same for all: new memory takes longer than reading into it
     std::vector<MenuCheck> checks;
     for (const auto& path : paths) {
         progress(checks.size(), paths.size());

@@ -59,7 +59,7 @@ void PictureBox::Scale(UINT dpi) {
     UniqueBitmap old(reinterpret_cast<HBITMAP>(
         SendMessageA(window, STM_SETIMAGE, IMAGE_BITMAP, reinterpret_cast<LPARAM>(copy.get()))));
     if (old == scaled)
-        old.release(); // one and the same
+        (void)old.release(); // one and the same
     scaled = std::move(copy);
 }
 
