@@ -9,6 +9,7 @@ build_packages=(
   g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools
 )
 native_packages=(clang libclang-rt-dev clang-format)
+tidy_packages=(clang-tidy)
 # Makes the administrator's guide from its text.
 guide_packages=(cmark-gfm)
 # libc6-i386 lets 64-bit Linux start the 32-bit Wine. A window manager, because without one every window that a
