@@ -129,7 +129,7 @@ void Compare(
     }
 }
 
-Fault MenuFile(std::string contents, std::string finding) {
+Fault MenuFile(const std::string& contents, std::string finding) {
     return {[=] { WriteFileBytes("UB.mnu", contents); }, std::move(finding)};
 }
 
@@ -202,7 +202,7 @@ TEST(Checker, SaysOfTheRestWhatTheMenuDoes) {
             held.reset(CreateFileA(file, GENERIC_READ, 0, nullptr, OPEN_ALWAYS, 0, nullptr));
         };
     };
-    const auto write = [](const char* file, std::string contents) {
+    const auto write = [](const char* file, const std::string& contents) {
         return [=] { WriteFileBytes(file, contents); };
     };
     // But for the configuration, which the menu itself looks at, root may write read-only files under Wine.

@@ -45,7 +45,7 @@ inline void IsTheSameAfterOtherScreens(HWND window) {
         SendMessageA(window, WM_SETTINGCHANGE, 0, 0);
         const std::vector<RECT> places = Places(window);
         ASSERT_EQ(places.size(), first.size());
-        EXPECT_TRUE(EqualRect(&places[0], &suggested)) << "the size that was asked for";
+        EXPECT_TRUE(EqualRect(&places.front(), &suggested)) << "the size that was asked for";
         for (std::size_t i = 0; i < first.size(); ++i) {
             // Fonts do not grow evenly.
             const double factor = dpi / 96.0, slack = dpi == 96 ? 1 : 0.15 * factor * first[i].right + 4;
