@@ -11,13 +11,13 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
     // Whatever is loaded from here on comes from the system's folder: this one is open to every operator. The
     // suite's own library is asked for by its place.
     SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
-    return obrin::AtBoundary([] {
+    obrin::frmMain menu; // outlives the box of an error, which lets its window's events through
+    return obrin::AtBoundary([&] {
         // The shell opens documents and shortcuts through components that need it.
         CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE);
         const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_WIN95_CLASSES};
         InitCommonControlsEx(&controls);
 
-        obrin::frmMain menu;
         bool shown = false;
         obrin::Main({.windowClass = obrin::menuWindowClass, .caption = obrin::menuCaption, .show = [&] {
                          menu.Show();

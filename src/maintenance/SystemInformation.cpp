@@ -3,6 +3,7 @@
 #include "maintenance/RegistryText.h"
 #include "platform/Failure.h"
 #include "platform/File.h"
+#include "platform/Handle.h"
 
 #include <array>
 
@@ -41,8 +42,7 @@ bool StartProgram(const std::string& path) {
     if (!CreateProcessA(path.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
                         &window, &process))
         return false;
-    CloseHandle(process.hThread);
-    CloseHandle(process.hProcess);
+    const UniqueHandle startedThread(process.hThread), startedProcess(process.hProcess);
     return true;
 }
 

@@ -84,8 +84,8 @@ void frmAbout::Adjust(DialogLayout& layout) const {
 void frmAbout::LaidOut() {
     constexpr int iconSize = 32; // at 96 DPI
     const int pixels = MulDiv(iconSize, static_cast<int>(dpi), USER_DEFAULT_SCREEN_DPI);
-    UniqueIcon newIcon(static_cast<HICON>(LoadImageA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(IDI_OBRIN),
-                                                     IMAGE_ICON, pixels, pixels, LR_DEFAULTCOLOR)));
+    UniqueIcon newIcon(static_cast<HICON>(
+        LoadImageA(Instance(), MAKEINTRESOURCEA(IDI_OBRIN), IMAGE_ICON, pixels, pixels, LR_DEFAULTCOLOR)));
     SendMessageA(picIcon, STM_SETICON, reinterpret_cast<WPARAM>(newIcon.get()), 0);
     icon = std::move(newIcon); // only now may the old one go
 

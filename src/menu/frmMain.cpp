@@ -273,8 +273,8 @@ void frmMain::Form_DpiChanged(UINT newDpi, const RECT& suggested) {
 
 // The user has chosen another font, theme or colour scheme.
 void frmMain::Form_LooksChanged(UINT message, WPARAM wParam, LPARAM lParam) {
-    // Windows tells top-level windows only.
-    if (message == WM_SYSCOLORCHANGE) {
+    // Of the other two Windows tells top-level windows only.
+    if (message != WM_THEMECHANGED) {
         for (const HWND control : {TreeView1.Window(), Frame1, Command1})
             SendMessageA(control, message, wParam, lParam);
     }
@@ -424,9 +424,5 @@ void frmMain::RunHostProgram(std::string_view program) {
     hostLink.SendHostCommand(LoadAndRun(program));
     AfterHostCommand();
 }
-
-// The step behind every host command. The window stays as it is: an operator starts one program after the
-// other.
-void frmMain::AfterHostCommand() {}
 
 } // namespace obrin

@@ -65,7 +65,7 @@ private:
     void LoadSystem(const std::string& fileName);
     void RunSelectedProgram();
     void RunHostProgram(std::string_view program);
-    void AfterHostCommand();
+    void AfterHostCommand() {} // the window stays as it is: one program is started after the other
 
     std::optional<SupportLibrary> corvel; // from the load on
     HWND window = nullptr;

@@ -44,8 +44,8 @@ public:
     STDMETHOD(get_accState)(VARIANT child, VARIANT* state) override {
         const HRESULT result = standard->get_accState(child, state);
         if (SUCCEEDED(result) && state->vt == VT_I4)
-            state->lVal |= STATE_SYSTEM_LINKED | STATE_SYSTEM_FOCUSABLE |
-                           (GetFocus() == label ? STATE_SYSTEM_FOCUSED : 0);
+            state->lVal = (state->lVal & ~STATE_SYSTEM_READONLY) | STATE_SYSTEM_LINKED |
+                          STATE_SYSTEM_FOCUSABLE | (GetFocus() == label ? STATE_SYSTEM_FOCUSED : 0);
         return result;
     }
     STDMETHOD(get_accDefaultAction)(VARIANT, BSTR* action) override {
@@ -107,7 +107,12 @@ public:
     }
     STDMETHOD(get_accFocus)(VARIANT* child) override { return standard->get_accFocus(child); }
     STDMETHOD(get_accSelection)(VARIANT* children) override { return standard->get_accSelection(children); }
-    STDMETHOD(accSelect)(LONG flags, VARIANT child) override { return standard->accSelect(flags, child); }
+    STDMETHOD(accSelect)(LONG flags, VARIANT child) override {
+        if (flags != SELFLAG_TAKEFOCUS)
+            return standard->accSelect(flags, child);
+        SetFocus(label); // which a label by itself refuses
+        return S_OK;
+    }
     STDMETHOD(accLocation)(LONG* left, LONG* top, LONG* width, LONG* height, VARIANT child) override {
         return standard->accLocation(left, top, width, height, child);
     }

@@ -17,8 +17,8 @@ BOOL CALLBACK Tell(HWND control, LPARAM message) {
 } // namespace
 
 INT_PTR Dialog::ShowModal(HWND owner, int resource) {
-    const INT_PTR result = DialogBoxParamA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(resource), owner,
-                                           Procedure, reinterpret_cast<LPARAM>(this));
+    const INT_PTR result = DialogBoxParamA(Instance(), MAKEINTRESOURCEA(resource), owner, Procedure,
+                                           reinterpret_cast<LPARAM>(this));
     if (result == -1 && window == nullptr)
         ThrowLastError("Opening a dialog");
     window = nullptr;
@@ -26,8 +26,8 @@ INT_PTR Dialog::ShowModal(HWND owner, int resource) {
 }
 
 void Dialog::ShowModeless(HWND owner, int resource) {
-    const HWND opened = CreateDialogParamA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(resource), owner,
-                                           Procedure, reinterpret_cast<LPARAM>(this));
+    const HWND opened = CreateDialogParamA(Instance(), MAKEINTRESOURCEA(resource), owner, Procedure,
+                                           reinterpret_cast<LPARAM>(this));
     if (opened == nullptr)
         ThrowLastError("Opening a dialog");
     ShowWindow(opened, SW_SHOWNOACTIVATE);
@@ -40,7 +40,7 @@ INT_PTR CALLBACK Dialog::Procedure(HWND dialogWindow, UINT message, WPARAM wPara
         made->window = dialogWindow;
         made->dpi = GetDpiForWindow(dialogWindow);
         made->design.emplace(dialogWindow);
-        const HICON icon = LoadIconA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(IDI_OBRIN));
+        const HICON icon = LoadIconA(Instance(), MAKEINTRESOURCEA(IDI_OBRIN));
         SendMessageA(dialogWindow, WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(icon));
     }
     auto* dialog = reinterpret_cast<Dialog*>(GetWindowLongPtrA(dialogWindow, DWLP_USER));

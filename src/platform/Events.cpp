@@ -31,7 +31,7 @@ UniqueHandle StartPauses() {
 }
 
 // Processes events until `signal`, if there is one, is signalled. Returns false when `window` was closed
-// first.
+// or the program ended first.
 bool ProcessEventsUntil(HWND window, HANDLE signal) {
     const DWORD signals = signal != nullptr ? 1 : 0;
     while (IsWindow(window)) {
@@ -41,22 +41,24 @@ bool ProcessEventsUntil(HWND window, HANDLE signal) {
             ThrowLastError("Waiting for the host or an event of the menu window");
         if (woken < signals)
             return true;
-        ProcessPendingEvents();
+        if (!ProcessPendingEvents())
+            return false;
     }
     return false;
 }
 
 } // namespace
 
-void ProcessPendingEvents() {
+bool ProcessPendingEvents() {
     MSG message;
     while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
         if (message.message == WM_QUIT) {
             PostQuitMessage(static_cast<int>(message.wParam)); // it is for the loop outside
-            return;
+            return false;
         }
         Dispatch(message);
     }
+    return true;
 }
 
 int RunEvents() {
@@ -69,11 +71,16 @@ int RunEvents() {
 // Events are looked for only when they wake it: to look after each try costs the machine more than the try.
 bool WaitUntil(HWND window, const std::function<bool()>& condition) {
     const UniqueHandle pauses = StartPauses();
-    while (!condition()) {
-        if (!ProcessEventsUntil(window, pauses.get()))
+    // The window may be closed already, by the events of what the caller did before.
+    for (int tries = 1; IsWindow(window); ++tries) {
+        if (condition())
+            return true;
+        // Now and then in any case: where a try takes longer than a pause, the next one is always due.
+        constexpr int often = 16;
+        if ((tries % often == 0 && !ProcessPendingEvents()) || !ProcessEventsUntil(window, pauses.get()))
             return false;
     }
-    return true;
+    return false;
 }
 
 void WaitUntilClosed(HWND window) {

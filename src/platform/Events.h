@@ -8,15 +8,15 @@
 namespace obrin {
 
 /// Processes the events that are pending, once. Any handler may run meanwhile, also one that closes the
-/// window: callers check.
-void ProcessPendingEvents();
+/// window: callers check. Returns false when one of them is the program's end, which stays for RunEvents.
+bool ProcessPendingEvents();
 
 /// Runs the program's events until it ends; the keyboard moves between the controls of each window. Returns
 /// the exit code.
 int RunEvents();
 
 /// Tries about every 13 ms until `condition` holds, without a time limit, and processes the events that
-/// arrive in between. Returns false when `window` was closed first. Throws RunTimeError.
+/// arrive in between. Returns false when `window` was closed or the program ended first. Throws RunTimeError.
 bool WaitUntil(HWND window, const std::function<bool()>& condition);
 
 /// Processes events until `window` is closed.

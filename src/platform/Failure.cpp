@@ -26,12 +26,15 @@ bool ending = false;
 
 } // namespace
 
-std::string PlatformText(DWORD code) {
+std::string PlatformText(DWORD code, const std::string& subject) {
     char text[512];
     const DWORD length = FormatMessageA(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
                                         code, 0, text, sizeof text, nullptr);
     std::string result(text, length);
     result.erase(result.find_last_not_of("\r\n ") + 1);
+    constexpr std::string_view gap = "%1";
+    if (const auto place = result.find(gap); place != std::string::npos)
+        result.replace(place, gap.size(), subject);
     return result.empty() ? "Error " + std::to_string(code) : result;
 }
 

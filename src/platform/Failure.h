@@ -11,8 +11,8 @@ namespace obrin {
 /// The title of message boxes that have none of their own.
 constexpr const char* applicationTitle = "ObrinMenu";
 
-/// The platform's sentence for an error code.
-std::string PlatformText(DWORD code);
+/// The platform's sentence for an error code. Some have a gap for the name of what they are about.
+std::string PlatformText(DWORD code, const std::string& subject = "The file");
 
 /// Throws the calling thread's last error with what was being done.
 [[noreturn]] void ThrowLastError(const std::string& doing);

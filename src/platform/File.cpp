@@ -104,6 +104,20 @@ void File::Flush() {
     }
 }
 
+void File::AwaitTurn(bool toWrite) {
+    constexpr DWORD pause = 25; // milliseconds
+    constexpr int mostTries = 20;
+    OVERLAPPED place{}; // far behind the end of any file, where it is in nobody's way
+    place.Offset = 0xFFFFFFFE;
+    place.OffsetHigh = 0x7FFFFFFF;
+    const DWORD how = LOCKFILE_FAIL_IMMEDIATELY | (toWrite ? LOCKFILE_EXCLUSIVE_LOCK : 0U);
+    for (int tries = 1; !LockFileEx(handle.get(), how, 0, 1, 0, &place) && tries < mostTries; ++tries) {
+        if (GetLastError() != ERROR_LOCK_VIOLATION)
+            return; // a file system without locks
+        Sleep(pause);
+    }
+}
+
 void File::FlushAndClose() {
     Flush();
     Close();

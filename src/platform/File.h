@@ -39,6 +39,10 @@ public:
     void Seek(std::uint64_t position);
     /// Makes the current position the end of the file. Throws RunTimeError.
     void EndHere();
+    /// Keeps the other menus, which do the same, from reading (`toWrite`) or from writing this file in place
+    /// until it is closed. Other programs notice nothing. Waits half a second at most: a menu that hangs in
+    /// the middle of it holds up nobody.
+    void AwaitTurn(bool toWrite);
     /// Waits until the written bytes are on disk. Throws RunTimeError, which is where a share reports what it
     /// could not store.
     void Flush();

@@ -13,7 +13,7 @@ namespace {
 // Nothing when the file cannot be read.
 std::optional<std::string> PresentBytes(const std::string& path) {
     try {
-        return ReadFileBytes(path);
+        return ReadReplaceableBytes(path);
     } catch (const RunTimeError&) {
         return std::nullopt;
     }
@@ -80,6 +80,7 @@ public:
     // Writes the file in place. Throws RunTimeError, before IsNeeded with the file untouched.
     void Copy() {
         File inPlace(target, File::Use::InPlace);
+        inPlace.AwaitTurn(true);
         needed = true;
         inPlace.Write(bytes);
         inPlace.EndHere();
@@ -125,6 +126,12 @@ void PutInPlace(Spare& spare) {
 }
 
 } // namespace
+
+std::string ReadReplaceableBytes(const std::string& path) {
+    File file(path, File::Use::Read);
+    file.AwaitTurn(false);
+    return file.ReadToEnd();
+}
 
 void ReplaceFileBytes(const std::string& path, std::string_view bytes, std::optional<std::string> present) {
     const DWORD attributes = GetFileAttributesA(path.c_str());

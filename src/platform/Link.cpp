@@ -31,8 +31,8 @@ LRESULT OnMessage(HWND label, UINT message, WPARAM wParam, LPARAM lParam) {
         return key != nullptr && key->wParam == VK_RETURN ? DLGC_WANTMESSAGE : DLGC_STATIC;
     }
     case WM_KEYDOWN:
-        if (wParam == VK_RETURN || wParam == VK_SPACE)
-            Click(label);
+        if ((wParam == VK_RETURN || wParam == VK_SPACE) && (HIWORD(lParam) & KF_REPEAT) == 0)
+            Click(label); // once, however long the key is held
         return 0;
     case WM_SETFOCUS:
     case WM_KILLFOCUS:
@@ -42,6 +42,8 @@ LRESULT OnMessage(HWND label, UINT message, WPARAM wParam, LPARAM lParam) {
         return result;
     }
     case WM_PAINT: {
+        // All of it: the mark of the focus, drawn twice on what was not painted anew, is gone.
+        InvalidateRect(label, nullptr, TRUE);
         const LRESULT result = DefSubclassProc(label, message, wParam, lParam);
         DrawFocus(label);
         return result;

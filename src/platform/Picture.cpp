@@ -46,16 +46,20 @@ SIZE PictureSize(HBITMAP picture) {
 }
 
 void PictureBox::Load(const std::string& path, UINT dpi) {
-    picture = LoadPicture(path);
-    Scale(dpi);
+    UniqueBitmap loaded = LoadPicture(path);
+    Show(loaded.get(), dpi);
+    picture = std::move(loaded);
 }
 
 void PictureBox::Scale(UINT dpi) {
-    if (!picture)
-        return;
+    if (picture)
+        Show(picture.get(), dpi);
+}
+
+void PictureBox::Show(HBITMAP original, UINT dpi) {
     // The control must have let go of the old picture before it is deleted. Of some pictures it makes a copy,
     // which it then hands over as the old one.
-    UniqueBitmap copy = ScalePicture(picture.get(), dpi);
+    UniqueBitmap copy = ScalePicture(original, dpi);
     UniqueBitmap old(reinterpret_cast<HBITMAP>(
         SendMessageA(window, STM_SETIMAGE, IMAGE_BITMAP, reinterpret_cast<LPARAM>(copy.get()))));
     if (old == scaled)

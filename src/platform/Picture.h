@@ -29,6 +29,8 @@ public:
     void Scale(UINT dpi);
 
 private:
+    void Show(HBITMAP original, UINT dpi);
+
     HWND window = nullptr;
     UniqueBitmap picture, scaled;
 };

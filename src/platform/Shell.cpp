@@ -10,7 +10,10 @@ DWORD Open(HWND owner, const char* file, const char* parameters) {
     if (result > lastRefusal)
         return 0;
     const DWORD error = GetLastError();
-    return error != 0 ? error : ERROR_GEN_FAILURE;
+    if (error != 0)
+        return error;
+    // The small ones, such as of a missing file, are the platform's own codes.
+    return result != 0 ? static_cast<DWORD>(result) : ERROR_NOT_ENOUGH_MEMORY;
 }
 
 void OpenUnexamined(HWND owner, const char* file) {

@@ -8,8 +8,7 @@ namespace obrin {
 
 std::string StringOfTable(int id) {
     std::array<char, 256> text;
-    const int length =
-        LoadStringA(GetModuleHandleA(nullptr), static_cast<UINT>(id), text.data(), text.size());
+    const int length = LoadStringA(Instance(), static_cast<UINT>(id), text.data(), text.size());
     if (length == 0)
         ThrowLastError("Reading string " + std::to_string(id) + " of the program");
     return {text.data(), static_cast<std::size_t>(length)};

@@ -118,9 +118,8 @@ void Form2::CreatePages() {
     }
 
     for (std::size_t i = 0; i < Frame.size(); ++i) {
-        Frame[i] = CreateDialogParamA(GetModuleHandleA(nullptr),
-                                      MAKEINTRESOURCEA(IDD_PAGE_GENERAL + static_cast<int>(i)), window,
-                                      PageProcedure, 0);
+        Frame[i] = CreateDialogParamA(Instance(), MAKEINTRESOURCEA(IDD_PAGE_GENERAL + static_cast<int>(i)),
+                                      window, PageProcedure, 0);
         if (Frame[i] == nullptr)
             ThrowLastError("Opening the Properties dialog");
         AddPage(Frame[i]);

@@ -56,7 +56,7 @@ void HostNotice::Form_Load() {
     SetWindowTextA(Control(IDC_FOLDER), CurrentFolder().c_str());
     if (refused != 0)
         SetWindowTextA(Control(IDC_REASON),
-                       (program + " could not be started: " + PlatformText(refused)).c_str());
+                       (program + " could not be started: " + PlatformText(refused, program)).c_str());
     constexpr LPARAM step = 200; // milliseconds; a livelier bar would cost more than the wait itself
     SendMessageA(Control(IDC_PROGRESS), PBM_SETMARQUEE, TRUE, step);
 }

@@ -17,7 +17,7 @@ namespace {
 void RewriteHostConfiguration() {
     constexpr const char* configuration = "FennConfig.Sys";
     constexpr const char* temporary = "Core\\TempOut.tmp";
-    std::string present = ReadFileBytes(configuration);
+    std::string present = ReadReplaceableBytes(configuration);
     const std::string blanked = BlankDriveLines(present, UpperCase);
     WriteFileBytes(temporary, blanked);
     // Not read back from the temporary file: a workstation that starts at the same instant empties it. And
@@ -57,13 +57,14 @@ BOOL CALLBACK KeepFirstShown(HWND window, LPARAM kept) {
     return FALSE;
 }
 
-// What a menu that is still loading shows: the question for its number, that it waits for the host, an error.
-// The menu window itself when it shows nothing yet.
-HWND ShownByLoadingMenu(HWND menu) {
-    HWND shown = menu;
+// Of a menu that is still loading: the question for its number, that it waits for the host, an error. It may
+// show nothing yet, and then nothing comes to the front.
+void ShowWhatLoadingMenuShows(HWND menu) {
+    HWND shown = nullptr;
     EnumThreadWindows(GetWindowThreadProcessId(menu, nullptr), KeepFirstShown,
                       reinterpret_cast<LPARAM>(&shown));
-    return shown;
+    if (shown != nullptr)
+        SetForegroundWindow(shown);
 }
 
 } // namespace
@@ -80,7 +81,7 @@ void Main(const MenuWindow& menu) {
     else if (const HWND other = FindWindowA(nullptr, menu.caption))
         ShowOtherMenu(other);
     else if (const HWND loading = FindWindowA(menu.windowClass, nullptr))
-        SetForegroundWindow(ShownByLoadingMenu(loading)); // a second one would type into the same host
+        ShowWhatLoadingMenuShows(loading); // a second one would type into the same host
     else
         menu.show();
 }

@@ -23,6 +23,24 @@ UniqueFile Hold(const std::string& path, DWORD share) {
     return UniqueFile(CreateFileA(path.c_str(), GENERIC_READ, share, nullptr, OPEN_EXISTING, 0, nullptr));
 }
 
+TEST(FileReplacement, IsWholeWhileSeveralWriteInPlace) {
+    const test::ScratchFolder folder;
+    const std::array<std::string, 2> contents{std::string(100, 'a'), std::string(50'000, 'b')};
+    ReplaceFileBytes("f", contents[0]);
+    const UniqueFile holder = Hold("f", FILE_SHARE_READ | FILE_SHARE_WRITE);
+    constexpr int rounds = 12;
+    const std::jthread other([&] {
+        for (int i = 0; i < rounds; ++i)
+            ReplaceFileBytes("f", contents[static_cast<std::size_t>(i % 2)]);
+    });
+    for (int i = 0; i < 20 * rounds; ++i) {
+        if (i % 20 == 0)
+            ReplaceFileBytes("f", contents[static_cast<std::size_t>(i / 20 % 2)]);
+        const std::string seen = ReadReplaceableBytes("f");
+        EXPECT_TRUE(std::ranges::count(contents, seen) == 1) << seen.size();
+    }
+}
+
 TEST(FileReplacement, WritesInPlaceWhatOthersHoldAndLeavesAloneWhatTheyLetNobodyWrite) {
     const test::ScratchFolder folder;
     ReplaceFileBytes("f", "first");
