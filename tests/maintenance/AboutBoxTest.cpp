@@ -81,7 +81,7 @@ TEST_F(AboutBox, LeavesNothingBehind) {
     const auto [memoryAfter, objectsAfter] = usedAfter(30);
     ASSERT_GT(memory, 0U);
     // Windows' own caches and heaps grow for a while.
-    EXPECT_LE(memoryAfter, memory + (test::OnWine() ? 64 : 1024) * 1024);
+    EXPECT_LE(memoryAfter, memory + (test::OnWine() ? std::size_t{64} : 1024) * 1024);
     EXPECT_LT(objectsAfter, objects + 50) << "where the platform counts them";
 }
 
