@@ -1,6 +1,7 @@
 #include "menu/MenuTree.h"
 
 #include "platform/Failure.h"
+#include "platform/Window.h"
 
 #include <algorithm>
 
@@ -55,12 +56,18 @@ void MenuTree::Fill(std::vector<MenuEntry> entries) {
 
     const RedrawPause pause(window);
     std::vector<HTREEITEM> items(nodes.size() + 1, TVI_ROOT); // by tree index
-    for (const auto& level : levels) {
+    for (auto& level : levels) {
+        // Windows walks all siblings to the place behind the last, but none to the place before the first.
+        // Wine knows the last one, and counts anew all visible nodes behind a new one: those of the top
+        // level, which has few on both.
+        const bool atTop = &level == levels.data();
+        if (!atTop)
+            std::ranges::reverse(level);
         for (const std::size_t i : level) {
             const MenuEntry& entry = nodes[i];
             TVINSERTSTRUCTA insertion{};
             insertion.hParent = items[static_cast<std::size_t>(entry.parent)];
-            insertion.hInsertAfter = TVI_LAST;
+            insertion.hInsertAfter = atTop ? TVI_LAST : TVI_FIRST;
             insertion.item.mask = TVIF_TEXT | TVIF_PARAM;
             insertion.item.pszText = const_cast<char*>(entry.text.c_str());
             insertion.item.lParam = static_cast<LPARAM>(i);
@@ -105,12 +112,17 @@ bool MenuTree::IsProgramNode() const {
 void MenuTree::Attach(HWND treeView, Events treeEvents) {
     window = treeView;
     events = std::move(treeEvents);
-    SetWindowSubclass(window, Procedure, 0, reinterpret_cast<DWORD_PTR>(this));
+    SetWindowLongPtrA(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    ownProcedure = PutBefore(window, Procedure);
 }
 
-LRESULT CALLBACK MenuTree::Procedure(HWND, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                                     DWORD_PTR self) noexcept {
-    return AtBoundary([=] { return reinterpret_cast<MenuTree*>(self)->OnMessage(message, wParam, lParam); });
+LRESULT CALLBACK MenuTree::Procedure(HWND tree, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+    auto* self = reinterpret_cast<MenuTree*>(GetWindowLongPtrA(tree, GWLP_USERDATA));
+    return AtBoundary([=] { return self->OnMessage(message, wParam, lParam); });
+}
+
+LRESULT MenuTree::OwnAnswer(UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+    return CallWindowProcW(ownProcedure, window, message, wParam, lParam);
 }
 
 LRESULT MenuTree::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -118,7 +130,7 @@ LRESULT MenuTree::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_GETDLGCODE: {
         // Enter is the tree's own key here, not the default button's.
         const auto* key = reinterpret_cast<const MSG*>(lParam);
-        const LRESULT code = DefSubclassProc(window, message, wParam, lParam);
+        const LRESULT code = OwnAnswer(message, wParam, lParam);
         return key != nullptr && key->wParam == VK_RETURN ? code | DLGC_WANTMESSAGE : code;
     }
     case WM_CHAR:
@@ -127,7 +139,7 @@ LRESULT MenuTree::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         events.run();
         return 0; // the tree would beep
     case WM_LBUTTONDBLCLK: {
-        const LRESULT result = DefSubclassProc(window, message, wParam, lParam);
+        const LRESULT result = OwnAnswer(message, wParam, lParam);
         events.run();
         return result;
     }
@@ -144,7 +156,7 @@ LRESULT MenuTree::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     default:
         break;
     }
-    return DefSubclassProc(window, message, wParam, lParam);
+    return OwnAnswer(message, wParam, lParam);
 }
 
 void MenuTree::RightMouseDown() {

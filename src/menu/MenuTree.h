@@ -37,9 +37,9 @@ public:
     bool IsProgramNode() const;
 
 private:
-    static LRESULT CALLBACK Procedure(HWND tree, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                                      DWORD_PTR self) noexcept;
+    static LRESULT CALLBACK Procedure(HWND tree, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
     LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT OwnAnswer(UINT message, WPARAM wParam, LPARAM lParam);
     void RightMouseDown();
     void MenuKey();
 
@@ -47,6 +47,7 @@ private:
     const MenuEntry* SelectedNode() const;
 
     HWND window = nullptr;
+    WNDPROC ownProcedure = nullptr; // the stock tree view's
     Events events;
     std::optional<DWORD> rightClickLatch; // set while clicks put in by the menu are to come: since when, ms
     std::vector<MenuEntry> nodes;         // an item's lParam is its position here

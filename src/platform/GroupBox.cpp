@@ -1,6 +1,7 @@
 #include "platform/GroupBox.h"
 
 #include "platform/Theme.h"
+#include "platform/Window.h"
 
 namespace obrin {
 
@@ -12,10 +13,15 @@ void Fill(HWND box, HDC target) {
     FillRect(target, &inner, GetSysColorBrush(COLOR_BTNFACE));
 }
 
+LRESULT OwnAnswer(HWND box, UINT message, WPARAM wParam, LPARAM lParam) {
+    const auto ownProcedure = reinterpret_cast<WNDPROC>(GetWindowLongPtrA(box, GWLP_USERDATA));
+    return CallWindowProcW(ownProcedure, box, message, wParam, lParam);
+}
+
 // The inside, then caption and border on it.
 LRESULT Print(HWND box, HDC target, LPARAM what) {
     Fill(box, target);
-    return DefSubclassProc(box, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(target), what);
+    return OwnAnswer(box, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(target), what);
 }
 
 // Inside and border reach the screen at once: erased first, the border would flicker while the window is
@@ -29,8 +35,7 @@ void Paint(HWND box) {
     EndPaint(box, &paint);
 }
 
-LRESULT CALLBACK Procedure(HWND box, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                           DWORD_PTR) noexcept {
+LRESULT CALLBACK Procedure(HWND box, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
     const auto target = reinterpret_cast<HDC>(wParam);
     switch (message) {
     case WM_COMMAND:
@@ -50,14 +55,15 @@ LRESULT CALLBACK Procedure(HWND box, UINT message, WPARAM wParam, LPARAM lParam,
         Paint(box);
         return 0;
     default:
-        return DefSubclassProc(box, message, wParam, lParam);
+        return OwnAnswer(box, message, wParam, lParam);
     }
 }
 
 } // namespace
 
 void HoldControls(HWND groupBox) {
-    SetWindowSubclass(groupBox, Procedure, 0, 0);
+    SetWindowLongPtrA(groupBox, GWLP_USERDATA,
+                      reinterpret_cast<LONG_PTR>(PutBefore(groupBox, Procedure)));
 }
 
 } // namespace obrin

@@ -16,6 +16,11 @@ HWND CreateControl(HWND parent, const char* controlClass, int id, DWORD style, c
     return control;
 }
 
+WNDPROC PutBefore(HWND control, WNDPROC procedure) {
+    return reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrW(control, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
+}
+
 void CentreOnScreen(HWND window, SIZE outer) {
     MONITORINFO monitor{};
     monitor.cbSize = sizeof monitor;

@@ -9,6 +9,12 @@ namespace obrin {
 HWND CreateControl(HWND parent, const char* controlClass, int id, DWORD style, const char* text = "",
                    DWORD extendedStyle = 0);
 
+/// Puts a procedure in front of a stock control's own and returns that one, for CallWindowProcW: the control
+/// stays the Unicode window that it is. For controls that get thousands of messages at once; the common
+/// controls' way, SetWindowSubclass, looks its procedures up twice a message, which under Wine asks another
+/// process.
+WNDPROC PutBefore(HWND control, WNDPROC procedure);
+
 /// Gives a window its size in pixels, frame included, or as much of it as fits, in the middle of the screen
 /// that Windows chose for it.
 void CentreOnScreen(HWND window, SIZE outer);
