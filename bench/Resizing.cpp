@@ -82,6 +82,7 @@ private:
     static void Move(const std::vector<Moved>& controls);
 
     HWND window = nullptr;
+    MenuTree tree;
     std::vector<Copied> controls, controlsInFrame;
     std::array<Step, stepCount> steps;
     int current = -1;
@@ -107,11 +108,9 @@ BareWindow::BareWindow(HWND menu) {
         if (GetDlgCtrlID(original) == IDC_FRAME1)
             controlsInFrame = CopyChildren(original, copy);
     }
-    MenuTree tree;
     tree.Attach(GetDlgItem(GetDlgItem(window, IDC_FRAME1), IDC_TREEVIEW1), {});
-    tree.Fill(
-        ParseMenuDefinition(ReadFileBytes(Installation::system), Installation::system, CodePageLeadByteTest())
-            .entries);
+    tree.Fill(ParseMenuDefinition(ReadFileBytes(Installation::system), Installation::system,
+                                  CodePageLeadByteTest()));
     ShowWindow(window, SW_SHOWNORMAL);
 }
 

@@ -5,16 +5,18 @@
 
 namespace {
 
-// The entries of a file, checked; none of one that is refused.
-std::vector<obrin::MenuEntry> Entries(std::string_view file, obrin::LeadByteTest isLeadByte) {
+// What a file holds, checked; nothing of one that is refused.
+obrin::MenuDefinition Definition(std::string_view file, obrin::LeadByteTest isLeadByte) {
     try {
-        auto entries = obrin::ParseMenuDefinition(file, "UB.mnu", isLeadByte).entries;
+        auto definition = obrin::ParseMenuDefinition(file, "UB.mnu", isLeadByte);
+        const auto& entries = definition.entries;
         for (std::size_t i = 0; i < entries.size(); ++i) {
             const auto parent = static_cast<std::size_t>(entries[i].parent);
             Require(parent <= i); // a heading that stands above the entry
             Require(parent == 0 || entries[parent - 1].key.empty());
+            Require(entries[i].text.data()[entries[i].text.size()] == '\0');
         }
-        return entries;
+        return definition;
     } catch (const obrin::RunTimeError&) {
         return {};
     }
@@ -24,14 +26,16 @@ std::vector<obrin::MenuEntry> Entries(std::string_view file, obrin::LeadByteTest
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     std::string file(Text(data, size));
-    Entries(file, nullptr);
-    const auto entries = Entries(file, IsLeadByte);
+    Definition(file, nullptr);
+    const auto definition = Definition(file, IsLeadByte);
+    const auto& entries = definition.entries;
     // Second bytes that look like marks are none: the tree is that of any others.
     for (std::size_t i = 0; i + 1 < file.size(); ++i) {
         if (IsLeadByte(file[i]) && (file[++i] == '^' || file[i] == '\\'))
             file[i] = '~';
     }
-    const auto plain = Entries(file, nullptr);
+    const auto plainDefinition = Definition(file, nullptr);
+    const auto& plain = plainDefinition.entries;
     Require(plain.empty() || plain.size() == entries.size()); // keys may have become equal
     for (std::size_t i = 0; i < plain.size(); ++i) {
         Require(plain[i].text.size() == entries[i].text.size());

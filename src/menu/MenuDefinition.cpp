@@ -24,6 +24,8 @@ public:
         , isLeadByte(leadByteTest)
         , sink(taker) {}
 
+    void ReserveKeys(std::size_t count) { keyLines.reserve(std::min<std::size_t>(count, mostEntries)); }
+
     void Parse() {
         const auto header = NextLine();
         if (!header) {
@@ -124,16 +126,20 @@ private:
 // Keeps everything and ends with the first fault.
 class DefinitionSink : public MenuSink {
 public:
-    DefinitionSink(std::string_view name, LeadByteTest leadByteTest)
+    DefinitionSink(std::string_view file, std::string_view name, LeadByteTest leadByteTest)
         : fileName(name)
-        , isLeadByte(leadByteTest) {}
+        , isLeadByte(leadByteTest) {
+        // Each NUL takes the place of a field's or a line's end, but behind a last line without one.
+        definition.texts = std::make_unique_for_overwrite<char[]>(file.size() + 1);
+        end = definition.texts.get();
+    }
 
     void TakeHeader(std::string_view line) override { definition.title = HeaderTitle(line, isLeadByte); }
     void TakeEntry(const MenuLine& entry) override {
-        definition.entries.push_back(
-            {.text = entry.isProgram ? WithoutDepthMarks(entry.text) : std::string(entry.text),
-             .key = std::string(entry.key),
-             .parent = entry.parent});
+        const bool unmarked = entry.isProgram;
+        definition.entries.push_back({.text = Keep(entry.text, unmarked),
+                                      .key = unmarked ? Keep(entry.key, unmarked) : std::string_view(),
+                                      .parent = entry.parent});
     }
     void TakeFault(const MenuFault& fault) override {
         throw RunTimeError(PlatformError::InvalidData, std::string(fileName) + ", line " +
@@ -143,8 +149,18 @@ public:
     MenuDefinition definition;
 
 private:
+    std::string_view Keep(std::string_view text, bool unmarked) {
+        char* const start = end;
+        end = unmarked && text.find(depthMark) != std::string_view::npos
+                  ? std::ranges::remove_copy(text, end, depthMark).out
+                  : std::ranges::copy(text, end).out;
+        *end++ = '\0';
+        return {start, static_cast<std::size_t>(end - 1 - start)};
+    }
+
     std::string_view fileName;
     LeadByteTest isLeadByte;
+    char* end; // of the texts
 };
 
 } // namespace
@@ -168,7 +184,9 @@ std::string WithoutDepthMarks(std::string_view text) {
 }
 
 void ReadMenuDefinition(std::string_view file, LeadByteTest isLeadByte, MenuSink& sink) {
-    Parser(LineReader(file, fieldEnd), isLeadByte, sink).Parse();
+    Parser parser(LineReader(file, fieldEnd), isLeadByte, sink);
+    parser.ReserveKeys(static_cast<std::size_t>(std::ranges::count(file, '\r')));
+    parser.Parse();
 }
 
 void ReadMenuDefinition(MoreText file, LeadByteTest isLeadByte, MenuSink& sink) {
@@ -177,7 +195,7 @@ void ReadMenuDefinition(MoreText file, LeadByteTest isLeadByte, MenuSink& sink) 
 
 MenuDefinition ParseMenuDefinition(std::string_view file, std::string_view fileName,
                                    LeadByteTest isLeadByte) {
-    DefinitionSink sink(fileName, isLeadByte);
+    DefinitionSink sink(file, fileName, isLeadByte);
     ReadMenuDefinition(file, isLeadByte, sink);
     return std::move(sink.definition);
 }

@@ -7,22 +7,25 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace obrin {
 
-/// One node of the tree. Its tree index is its position in the file, counted from 1.
+/// One node of the tree. Its tree index is its position in the file, counted from 1. Its text and key are its
+/// definition's, with a NUL behind each.
 struct MenuEntry {
-    std::string text;
-    std::string key;         ///< host program path; empty for headings
+    std::string_view text;
+    std::string_view key;    ///< host program path; empty for headings
     std::int16_t parent = 0; ///< tree index of the heading above it; 0 at top level
 };
 
 struct MenuDefinition {
     std::string title; ///< blanks at its ends kept
     std::vector<MenuEntry> entries;
+    std::unique_ptr<char[]> texts; ///< of all entries: one by one, they would take most of the time
 };
 
 /// Whether a file of this name is a menu definition: something in front of ".mnu" in lower case.

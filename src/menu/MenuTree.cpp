@@ -38,11 +38,12 @@ private:
 void MenuTree::Clear() {
     const RedrawPause pause(window);
     Send(window, TVM_DELETEITEM, 0, TVI_ROOT);
-    nodes.clear();
+    shown = {};
 }
 
-void MenuTree::Fill(std::vector<MenuEntry> entries) {
-    nodes = std::move(entries);
+void MenuTree::Fill(MenuDefinition definition) {
+    shown = std::move(definition);
+    const std::vector<MenuEntry>& nodes = shown.entries;
     // Level by level, since a tree view may look for a node's parent in the order in which its nodes came:
     // with thousands of programs in front of the last headings, most of the time would go there.
     std::vector<std::size_t> depths(nodes.size() + 1); // by tree index, from 1; the root's is 0
@@ -58,22 +59,29 @@ void MenuTree::Fill(std::vector<MenuEntry> entries) {
     std::vector<HTREEITEM> items(nodes.size() + 1, TVI_ROOT); // by tree index
     for (auto& level : levels) {
         // Windows walks all siblings to the place behind the last, but none to the place before the first.
-        // Wine knows the last one, and counts anew all visible nodes behind a new one: those of the top
-        // level, which has few on both.
+        // Wine knows the last one, and counts all visible nodes behind a new one anew: those of the top
+        // level, of which there are few in practice.
         const bool atTop = &level == levels.data();
-        if (!atTop)
-            std::ranges::reverse(level);
+        for (auto first = level.begin(); !atTop && first != level.end();) {
+            const auto siblings = std::ranges::equal_range(first, level.end(), nodes[*first].parent, {},
+                                                           [&](std::size_t i) { return nodes[i].parent; });
+            std::ranges::reverse(siblings);
+            first = siblings.end();
+        }
         for (const std::size_t i : level) {
             const MenuEntry& entry = nodes[i];
             TVINSERTSTRUCTA insertion{};
             insertion.hParent = items[static_cast<std::size_t>(entry.parent)];
             insertion.hInsertAfter = atTop ? TVI_LAST : TVI_FIRST;
             insertion.item.mask = TVIF_TEXT | TVIF_PARAM;
-            insertion.item.pszText = const_cast<char*>(entry.text.c_str());
+            insertion.item.pszText = const_cast<char*>(entry.text.data());
             insertion.item.lParam = static_cast<LPARAM>(i);
-            items[i + 1] = reinterpret_cast<HTREEITEM>(Send(window, TVM_INSERTITEMA, 0, &insertion));
+            // Straight to the stock tree view: that, too, counts with thousands of nodes.
+            items[i + 1] = reinterpret_cast<HTREEITEM>(
+                OwnAnswer(TVM_INSERTITEMA, 0, reinterpret_cast<LPARAM>(&insertion)));
             if (items[i + 1] == nullptr)
-                throw RunTimeError(ERROR_NOT_ENOUGH_MEMORY, "Adding " + entry.text + " to the tree");
+                throw RunTimeError(ERROR_NOT_ENOUGH_MEMORY,
+                                   "Adding " + std::string(entry.text) + " to the tree");
         }
     }
     // A tree view selects its first node when it gets the keyboard; without a selection its keys do nothing.
@@ -93,13 +101,12 @@ const MenuEntry* MenuTree::SelectedNode() const {
     item.mask = TVIF_PARAM;
     item.hItem = selected;
     Send(window, TVM_GETITEMA, 0, &item);
-    return &nodes[static_cast<std::size_t>(item.lParam)];
+    return &shown.entries[static_cast<std::size_t>(item.lParam)];
 }
 
-const std::string& MenuTree::SelectedKey() const {
-    static const std::string none;
+std::string_view MenuTree::SelectedKey() const {
     const MenuEntry* node = SelectedNode();
-    return node == nullptr ? none : node->key;
+    return node == nullptr ? std::string_view() : node->key;
 }
 
 bool MenuTree::IsProgramNode() const {

@@ -6,8 +6,7 @@
 
 #include <functional>
 #include <optional>
-#include <string>
-#include <vector>
+#include <string_view>
 
 namespace obrin {
 
@@ -29,10 +28,10 @@ public:
     /// Empties the tree.
     void Clear();
     /// Fills the empty tree, all nodes collapsed. Throws RunTimeError when the tree takes no more.
-    void Fill(std::vector<MenuEntry> entries);
+    void Fill(MenuDefinition definition);
 
     /// The key of the selected node; empty for a heading and without a selection.
-    const std::string& SelectedKey() const;
+    std::string_view SelectedKey() const;
     /// True when the selected node has a text and a key.
     bool IsProgramNode() const;
 
@@ -50,7 +49,7 @@ private:
     WNDPROC ownProcedure = nullptr; // the stock tree view's
     Events events;
     std::optional<DWORD> rightClickLatch; // set while clicks put in by the menu are to come: since when, ms
-    std::vector<MenuEntry> nodes;         // an item's lParam is its position here
+    MenuDefinition shown;                 // an item's lParam is its entry's position here
 };
 
 } // namespace obrin

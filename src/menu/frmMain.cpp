@@ -369,7 +369,7 @@ void frmMain::Command1_Click() {
 
 // The popup of the selected program, at a place of the screen; headings have none.
 void frmMain::PopUp(int x, int y) {
-    const std::string& key = TreeView1.SelectedKey();
+    const std::string_view key = TreeView1.SelectedKey();
     if (key.empty())
         return;
     propertiesKey = key;
@@ -409,7 +409,7 @@ void frmMain::LoadSystem(const std::string& fileName) {
     SetWindowTextA(TreeView1.Window(), title.c_str()); // shown nowhere: a screen reader's name for the tree
     SetLabel(Label1, title);
     Form_Resize(); // title and picture are centred by their own widths
-    TreeView1.Fill(std::move(definition.entries));
+    TreeView1.Fill(std::move(definition));
     hostLink.SendHostCommand(StartSystem(SystemCode(fileName, isLeadByte)));
 }
 

@@ -48,7 +48,7 @@ TEST(MenuDefinition, LinesBecomeNodes) {
         std::string nodes;
         for (const auto& [text, key, parent] :
              ParseMenuDefinition(std::string("T\r\n") + lines, "UB.mnu", IsLeadByte).entries)
-            nodes += text + "|" + key + "|" + std::to_string(parent) + " ";
+            nodes.append(text).append("|").append(key).append("|").append(std::to_string(parent)) += " ";
         EXPECT_EQ(nodes, expected);
     }
 }

@@ -17,7 +17,8 @@ std::string Shape(const MenuTree& tree, HTREEITEM item) {
         query.cchTextMax = sizeof text;
         TreeView_GetItem(tree.Window(), &query);
         TreeView_SelectItem(tree.Window(), item);
-        shape += text + (tree.IsProgramNode() ? "=" + tree.SelectedKey() + " " : tree.SelectedKey());
+        const std::string key(tree.SelectedKey());
+        shape += text + (tree.IsProgramNode() ? "=" + key + " " : key);
         if (const HTREEITEM child = TreeView_GetChild(tree.Window(), item))
             shape += "(" + Shape(tree, child) + ")";
     }
@@ -29,12 +30,10 @@ TEST(MenuTree, HasTheEntriesInTheirOrderAndCollapsed) {
                                         nullptr, nullptr, nullptr);
     MenuTree tree;
     tree.Attach(window, {});
-    const std::vector<MenuEntry> entries{{"a", "", 0},   {"b", "K1", 1}, {"c", "", 1},
-                                         {"d", "K2", 3}, {"", "K3", 1},  {"e", "K4", 0}};
     for (int round = 0; round < 2; ++round) { // another system takes the place of the first
         tree.Clear();
         EXPECT_FALSE(tree.IsProgramNode());
-        tree.Fill(entries);
+        tree.Fill(ParseMenuDefinition("T\ra\r>b^K1\r>c\r>>d^K2\r>^K3\re^K4", "", nullptr));
         EXPECT_FALSE(tree.IsProgramNode()) << "nothing is selected";
         EXPECT_EQ(tree.SelectedKey(), "");
         const HTREEITEM a = TreeView_GetRoot(window);
