@@ -1,21 +1,22 @@
 // The floor of start-up and memory: as little program as can start the host, wait for its windows in the
 // launcher's way and then show a window with the launcher's menu bar and a tree of the same nodes.
-// Started in an installation as "bare.exe UB.mnu".
+// Started in an installation as "bare.exe UB.mnu". With "all" behind it, it makes the launcher's other calls
+// too once the host is there: marker file, registry, picture, captions, and the system's start in the host.
 
 #include "resources/Ids.h"
 
 #include "platform/WindowsApi.h"
 
+#include <cstring>
+
 namespace {
 
 constexpr const char* className = "ObrinBench.Bare";
 
-HWND hostCommandWindow;
+HWND hostCommandWindow, picture, labels[5];
 
-void TypeExit() {
-    for (const char* key = "RUN CORE\xDC"
-                           "EXIT\r";
-         *key != '\0'; ++key) {
+void Type(const char* key) {
+    for (; *key != '\0'; ++key) {
         SendMessageA(hostCommandWindow, WM_KEYDOWN, static_cast<unsigned char>(*key), 0);
         SendMessageA(hostCommandWindow, WM_KEYUP, static_cast<unsigned char>(*key), 0);
     }
@@ -24,7 +25,8 @@ void TypeExit() {
 LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_CLOSE:
-        TypeExit();
+        Type("RUN CORE\xDC"
+             "EXIT\r");
         DestroyWindow(window);
         return 0;
     case WM_DESTROY:
@@ -87,9 +89,36 @@ void FillTree(HWND tree, const char* fileName) {
     SendMessageA(tree, WM_SETREDRAW, TRUE, 0);
 }
 
+void CreateOtherControls(HWND window) {
+    constexpr DWORD style = WS_CHILD | WS_VISIBLE;
+    picture = CreateWindowExA(0, WC_STATICA, "", style | SS_BITMAP, 450, 120, 0, 0, window, nullptr, nullptr,
+                              nullptr);
+    for (HWND& label : labels)
+        label =
+            CreateWindowExA(0, WC_STATICA, "", style, 450, 20, 200, 18, window, nullptr, nullptr, nullptr);
+}
+
+void MakeOtherCalls(HWND window) {
+    CloseHandle(CreateFileA("Menu 5.txt", GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
+    char text[MAX_PATH];
+    DWORD size = sizeof text;
+    RegGetValueA(HKEY_LOCAL_MACHINE, "Software\\Obrin", "LastSystem", RRF_RT_REG_SZ, nullptr, text, &size);
+    GetFileAttributesA(text);
+    SendMessageA(
+        picture, STM_SETIMAGE, IMAGE_BITMAP,
+        reinterpret_cast<LPARAM>(LoadImageA(nullptr, "Startup.bmp", IMAGE_BITMAP, 0, 0, LR_LOADFROMFILE)));
+    SetWindowTextA(window, "Obrin bench");
+    for (const HWND label : labels)
+        SetWindowTextA(label, "Utility Billing");
+    Type("LOAD CORE\xDCSTARTSYS\rRUN\rUB\r");
+}
+
 } // namespace
 
-int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR fileName, int) {
+int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR arguments, int) {
+    char* const all = std::strchr(arguments, ' ');
+    if (all != nullptr)
+        *all = '\0';
     const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_WIN95_CLASSES};
     InitCommonControlsEx(&controls);
     WNDCLASSEXA windowClass{};
@@ -106,13 +135,17 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR fileName, int) {
                                       WS_CHILD | WS_VISIBLE | TVS_HASLINES | TVS_LINESATROOT | TVS_HASBUTTONS,
                                       20, 30, 380, 410, window, nullptr, instance, nullptr);
 
+    if (all != nullptr)
+        CreateOtherControls(window);
     ShellExecuteA(window, "open", "Fenn.exe", "run core\\start -5", nullptr, SW_SHOWNORMAL);
     WaitFor(window, "ZafWindow", nullptr);
     const HWND station = WaitFor(window, nullptr, "Obrin-05");
     ShowWindow(station, SW_HIDE);
     hostCommandWindow = FindWindowExA(station, nullptr, nullptr, nullptr);
 
-    FillTree(tree, fileName);
+    FillTree(tree, arguments);
+    if (all != nullptr)
+        MakeOtherCalls(window);
     ShowWindow(window, SW_SHOWNORMAL);
     SetForegroundWindow(window);
     MSG message;

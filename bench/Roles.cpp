@@ -69,8 +69,10 @@ LRESULT CALLBACK LateHostProcedure(HWND window, UINT message, WPARAM wParam, LPA
         if (wParam == FALSE && host.shown != 0 && host.hidden == 0)
             host.hidden = Now();
         return 0;
-    case askHidingDelay:
-        return host.hidden == 0 ? 0 : static_cast<LRESULT>(Seconds(host.hidden - host.shown) * 1e6);
+    case askCaptionTime:
+        return host.shown;
+    case askHidingTime:
+        return host.hidden;
     case WM_DESTROY:
         PostQuitMessage(0);
         return 0;

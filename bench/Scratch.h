@@ -25,6 +25,9 @@ class Installation {
 public:
     static constexpr int wsid = 5;
     static constexpr const char* system = "UB.mnu";
+    static constexpr const char* bare = "bare.exe UB.mnu";            ///< as little as shows a menu
+    static constexpr const char* bareWithAll = "bare.exe UB.mnu all"; ///< with the other calls of a start
+    static constexpr const char* bareClass = "ObrinBench.Bare";
 
     explicit Installation(const std::string& host);
 
