@@ -5,8 +5,13 @@
 #include "Program.h"
 #include "Scratch.h"
 
+#include "common/Lines.h"
 #include "menu/frmMain.h"
+#include "platform/File.h"
+#include "platform/Workstation.h"
 #include "startup/HostLink.h"
+
+#include <stdexcept>
 
 namespace obrin::bench {
 
@@ -36,6 +41,39 @@ Start StartAndEnd(const std::string& commandLine, const char* windowClass) {
     return {.milliseconds = 1e3 * Seconds(shown - start), .megabytes = memory / (1024 * 1024)};
 }
 
+// By Wine's own trace, which bench.sh leads into a file: each time that the launcher's thread opens, lists or
+// looks for something below the installation, but for the host's program, which the shell does.
+double CountOpens(std::string_view trace) {
+    const std::size_t own = trace.find(":trace:file:CreateFileW L\"UserWSID.sys\"");
+    if (own == std::string_view::npos)
+        throw std::runtime_error("no trace of the launcher's files: run bench.sh");
+    const std::string thread(trace.substr(trace.rfind('\n', own) + 1, 4));
+    double opens = 0;
+    LineReader lines(trace, LoneLf::EndsLine);
+    while (const auto line = lines.Next()) {
+        const auto has = [&](const char* text) { return line->find(text) != std::string_view::npos; };
+        const auto calls = [&](const char* name) {
+            return line->starts_with(thread + ":trace:file:" + name + " L\"");
+        };
+        if ((calls("CreateFileW") || calls("GetFileAttributesW") || calls("FindFirstFileExW")) &&
+            (!has(":\\") || has("ObrinBench")) && !has("Fenn.exe"))
+            ++opens;
+    }
+    return opens;
+}
+
+Row MeasureOpens() {
+    const Installation installation(OwnFolder() + "Fenn.exe");
+    for (int i = 3; i < 98; ++i)
+        WriteFileBytes("S" + std::to_string(i) + ".mnu", "Title of a system^\r\n");
+    StartAndEnd("ObrinMenu.exe", menuWindowClass); // gives the configuration its drive line
+    SetEnvironmentVariableA("WINEDEBUG", "+file");
+    StartAndEnd("ObrinMenu.exe", menuWindowClass);
+    SetEnvironmentVariableA("WINEDEBUG", "-all");
+    return Within("opens and look-ups of a start with 98 menu files", "times",
+                  CountOpens(ReadFileBytes(EnvironmentVariable("OBRIN_TRACE"))), 98 + 10);
+}
+
 } // namespace
 
 std::vector<Row> MeasureStart() {
@@ -62,6 +100,7 @@ std::vector<Row> MeasureStart() {
     return {
         WithinRatio("start to the shown menu, host there at once", "ms", medians, 1.10),
         WithinRatio("peak private memory", "MB", {product, floor, product / floor}, 1.20),
+        MeasureOpens(),
     };
 }
 

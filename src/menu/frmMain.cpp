@@ -193,15 +193,14 @@ bool frmMain::Form_Load() {
 
     const std::string lastSystem(
         TrimBlanks(corvel->GetRegValue(HKEY_LOCAL_MACHINE, registryKey, lastSystemValue)));
-    if (!lastSystem.empty() && FileExists(lastSystem)) {
-        LoadSystem(lastSystem);
-    } else {
-        if (MnuFiles.empty())
-            throw RunTimeError(PlatformError::InvalidIndex,
-                               "Showing the first system: there is no menu file (*.mnu) in " +
-                                   CurrentFolder());
-        LoadSystem(MnuFiles.front().name);
-    }
+    const auto file = lastSystem.empty() ? std::nullopt : ReadFileIfThere(lastSystem);
+    if (file)
+        LoadSystem(lastSystem, *file);
+    else if (!MnuFiles.empty())
+        mnuSystems_Click(0);
+    else
+        throw RunTimeError(PlatformError::InvalidIndex,
+                           "Showing the first system: there is no menu file (*.mnu) in " + CurrentFolder());
     return IsWindow(window);
 }
 
@@ -391,14 +390,15 @@ void frmMain::mnuAboutObrin_Click() {
 // --- Systems and programs ---
 
 void frmMain::mnuSystems_Click(std::size_t index) {
-    LoadSystem(MnuFiles[index].name);
+    const std::string& name = MnuFiles[index].name;
+    LoadSystem(name, ReadFileBytes(name));
 }
 
-void frmMain::LoadSystem(const std::string& fileName) {
+void frmMain::LoadSystem(const std::string& fileName, std::string_view file) {
     currentSystem = fileName;
     TreeView1.Clear();
     const LeadByteTest isLeadByte = CodePageLeadByteTest();
-    MenuDefinition definition = ParseMenuDefinition(ReadFileBytes(fileName), fileName, isLeadByte);
+    MenuDefinition definition = ParseMenuDefinition(file, fileName, isLeadByte);
     // With its folder: the platform looks for a bare name in other folders too.
     const std::string pictureFile = EnsureTrailingBackslash(CurrentFolder(), isLeadByte) + "Startup.bmp";
     if (NormalFileExists(pictureFile))

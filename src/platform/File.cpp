@@ -137,6 +137,18 @@ std::string ReadFileBytes(const std::string& path) {
     return File(path, File::Use::Read).ReadToEnd();
 }
 
+std::optional<std::string> ReadFileIfThere(const std::string& path) {
+    try {
+        File file(path, File::Use::Read);
+        file.AwaitTurn(false);
+        return file.ReadToEnd();
+    } catch (const RunTimeError&) {
+        if (FileExists(path))
+            throw;
+        return std::nullopt;
+    }
+}
+
 std::string ReadFirstLine(const std::string& path) {
     File file(path, File::Use::Read);
     std::string start = file.Read(firstLineBytes);

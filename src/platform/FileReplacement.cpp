@@ -13,7 +13,7 @@ namespace {
 // Nothing when the file cannot be read.
 std::optional<std::string> PresentBytes(const std::string& path) {
     try {
-        return ReadReplaceableBytes(path);
+        return ReadFileIfThere(path);
     } catch (const RunTimeError&) {
         return std::nullopt;
     }
@@ -127,18 +127,12 @@ void PutInPlace(Spare& spare) {
 
 } // namespace
 
-std::string ReadReplaceableBytes(const std::string& path) {
-    File file(path, File::Use::Read);
-    file.AwaitTurn(false);
-    return file.ReadToEnd();
-}
-
 void ReplaceFileBytes(const std::string& path, std::string_view bytes, std::optional<std::string> present) {
+    if (present == bytes)
+        return;
     const DWORD attributes = GetFileAttributesA(path.c_str());
     const bool exists = attributes != INVALID_FILE_ATTRIBUTES;
-    if (exists && !present)
-        present = PresentBytes(path);
-    if (present == bytes)
+    if (exists && !present && (present = PresentBytes(path)) == bytes)
         return;
     std::string doing = "Writing " + path; // the file that the user knows
     if (exists && (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) != 0)

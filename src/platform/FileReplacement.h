@@ -7,9 +7,6 @@
 
 namespace obrin {
 
-/// All bytes of such a file, but not while another menu writes it in place. Throws RunTimeError.
-std::string ReadReplaceableBytes(const std::string& path);
-
 /// Gives a file new contents without ever being without the old or the new ones: they are complete on disk,
 /// under a name beside it, before they take the file's place, its rights and its attributes. Where that is
 /// refused, because others have the file open or its users may write but not delete, it is written in place,

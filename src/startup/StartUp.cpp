@@ -8,16 +8,17 @@
 #include "startup/HostConfiguration.h"
 #include "startup/HostLink.h"
 
+#include <optional>
 #include <utility>
 
 namespace obrin {
 
 namespace {
 
-void RewriteHostConfiguration() {
-    constexpr const char* configuration = "FennConfig.Sys";
+constexpr const char* configuration = "FennConfig.Sys";
+
+void RewriteHostConfiguration(std::string present) {
     constexpr const char* temporary = "Core\\TempOut.tmp";
-    std::string present = ReadReplaceableBytes(configuration);
     const std::string blanked = BlankDriveLines(present, UpperCase);
     WriteFileBytes(temporary, blanked);
     // Not read back from the temporary file: a workstation that starts at the same instant empties it. And
@@ -70,12 +71,13 @@ void ShowWhatLoadingMenuShows(HWND menu) {
 } // namespace
 
 void Main(const MenuWindow& menu) {
-    if (!FileExists("FennConfig.sys")) {
+    std::optional<std::string> present = ReadFileIfThere(configuration);
+    if (!present) {
         MessageBoxA(nullptr, "Config File Not found!", "Error!", MB_OK);
         return;
     }
     // Before the test for an open host: the drive line is right from now on, whatever the test says.
-    RewriteHostConfiguration();
+    RewriteHostConfiguration(std::move(*present));
     if (OpenHost() != nullptr)
         OfferOpenHost();
     else if (const HWND other = FindWindowA(nullptr, menu.caption))
