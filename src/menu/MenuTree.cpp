@@ -128,7 +128,7 @@ LRESULT CALLBACK MenuTree::Procedure(HWND tree, UINT message, WPARAM wParam, LPA
     return AtBoundary([=] { return self->OnMessage(message, wParam, lParam); });
 }
 
-LRESULT MenuTree::OwnAnswer(UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+LRESULT MenuTree::OwnAnswer(UINT message, WPARAM wParam, LPARAM lParam) {
     return CallWindowProcW(ownProcedure, window, message, wParam, lParam);
 }
 
