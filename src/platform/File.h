@@ -65,9 +65,9 @@ private:
 /// All bytes of a file. Throws RunTimeError.
 std::string ReadFileBytes(const std::string& path);
 
-/// All bytes of a file, or nothing when no file (no folder) of that name exists; not while another menu writes
-/// it in place. A look at a share is waited for: this takes one where FileExists and a read would take two.
-/// Throws RunTimeError.
+/// All bytes of a file, or nothing when no file (no folder) of that name exists; not while another menu
+/// writes it in place. A look at a share is waited for: this takes one where FileExists and a read would take
+/// two. Throws RunTimeError.
 std::optional<std::string> ReadFileIfThere(const std::string& path);
 
 /// The first line of a file, of which no more is read than needed. Throws RunTimeError, also for a file
