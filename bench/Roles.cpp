@@ -70,9 +70,9 @@ LRESULT CALLBACK LateHostProcedure(HWND window, UINT message, WPARAM wParam, LPA
             host.hidden = Now();
         return 0;
     case askCaptionTime:
-        return host.shown;
+        return static_cast<LRESULT>(host.shown); // whole in the 64-bit build, which alone is run
     case askHidingTime:
-        return host.hidden;
+        return static_cast<LRESULT>(host.hidden);
     case WM_DESTROY:
         PostQuitMessage(0);
         return 0;
