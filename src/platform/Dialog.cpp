@@ -17,8 +17,11 @@ BOOL CALLBACK Tell(HWND control, LPARAM message) {
 } // namespace
 
 INT_PTR Dialog::ShowModal(HWND owner, int resource) {
-    const INT_PTR result = DialogBoxParamA(Instance(), MAKEINTRESOURCEA(resource), owner, Procedure,
-                                           reinterpret_cast<LPARAM>(this));
+    // Nothing that the procedure should have stopped comes through here.
+    const INT_PTR result = [&]() noexcept {
+        return DialogBoxParamA(Instance(), MAKEINTRESOURCEA(resource), owner, Procedure,
+                               reinterpret_cast<LPARAM>(this));
+    }();
     if (result == -1 && window == nullptr)
         ThrowLastError("Opening a dialog");
     window = nullptr;

@@ -61,7 +61,7 @@ bool ProcessPendingEvents() {
     return true;
 }
 
-int RunEvents() {
+int RunEvents() noexcept {
     MSG message;
     while (GetMessageA(&message, nullptr, 0, 0) > 0)
         Dispatch(message);

@@ -12,8 +12,8 @@ namespace obrin {
 bool ProcessPendingEvents();
 
 /// Runs the program's events until it ends; the keyboard moves between the controls of each window. Returns
-/// the exit code.
-int RunEvents();
+/// the exit code. Nothing that a procedure should have stopped comes through here.
+int RunEvents() noexcept;
 
 /// Tries about every 13 ms until `condition` holds, without a time limit, and processes the events that
 /// arrive in between. Returns false when `window` was closed or the program ended first. Throws RunTimeError.

@@ -26,8 +26,6 @@ std::string PlatformText(DWORD code, const std::string& subject = "The file");
 bool IsEndingWithError();
 
 /// Runs the body of a window, dialog or subclass procedure: no exception may cross the platform's callback.
-/// The procedures themselves are noexcept, so that one without this ends at once and not somewhere further
-/// out.
 template <class Body>
 auto AtBoundary(Body&& body) noexcept {
     try {

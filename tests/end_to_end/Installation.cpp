@@ -1,7 +1,6 @@
 #include "end_to_end/Installation.h"
 
 #include "common/Lines.h"
-#include "platform/Events.h"
 #include "platform/File.h"
 #include "platform/Folder.h"
 #include "platform/Workstation.h"
@@ -45,7 +44,6 @@ bool Eventually(const std::function<bool()>& condition) {
     while (!condition()) {
         if (GetTickCount64() > end)
             return false;
-        ProcessPendingEvents(); // of windows of this program
         Sleep(10);
     }
     return true;

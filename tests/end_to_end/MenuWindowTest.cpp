@@ -131,9 +131,11 @@ TEST(MenuWindowHere, IsTheSameOnEveryScreenAndForEveryReader) {
     GetWindowRect(control(IDC_LABEL1), &title);
     const auto font = reinterpret_cast<HFONT>(SendMessageA(control(IDC_LABEL1), WM_GETFONT, 0, 0));
     EXPECT_EQ(title.right - title.left, MeasureText(font, "Water & Waste").cx) << "as in the frame's caption";
+    SendMessageA(window, WM_DPICHANGED, MAKEWPARAM(144, 144), reinterpret_cast<LPARAM>(&title));
     LOGFONTA shape{};
-    GetObjectA(font, sizeof shape, &shape);
-    EXPECT_EQ(shape.lfHeight, -24) << "18 points, from the letters' top to their bottom";
+    GetObjectA(reinterpret_cast<HFONT>(SendMessageA(control(IDC_LABEL1), WM_GETFONT, 0, 0)), sizeof shape,
+               &shape);
+    EXPECT_EQ(shape.lfHeight, -36) << "18 points, from the letters' top to their bottom";
 
     struct {
         HWND control;
