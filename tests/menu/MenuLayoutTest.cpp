@@ -69,6 +69,7 @@ TEST(MenuLayout, CentresByTheOuterWidthAndPutsTheLinkIntoTheInnerCorner) {
 }
 
 TEST(Twips, AreAFixedPartOfAnInch) {
+    EXPECT_EQ(ToPixels(1000, 96), 67) << "66.7";
     for (const unsigned dpi : {96U, 120U, 144U, 192U}) {
         EXPECT_EQ(ToPixels(-720, dpi), -static_cast<int>(dpi) / 2);
         for (const int pixels : {-7, 0, 1, 333, 30'000})

@@ -151,7 +151,7 @@ TEST_F(Properties, OpensADamagedFileAtOnceWithinTheLimitsOfItsControls) {
         EXPECT_EQ(Margin(0) + "|" + Margin(1) + "|" + Margin(2) + "|" + Margin(3),
                   "0.25 250|4 4000|0.25 250|1.235 1235");
     });
-    EXPECT_LT(GetTickCount64() - start, 5000U);
+    EXPECT_LT(GetTickCount64() - start, 20'000U) << "laid out whole, half a minute on a machine at rest";
 }
 
 TEST_F(Properties, ApplySavesAndStaysOkSavesAndCloses) {
