@@ -232,8 +232,8 @@ start_session() {
   session_processes+=($!)
   # Wine ends its desktop and service processes when the last program with a window ends, and starting them for
   # each test costs seconds, with the test runner's pipe in their hands. So one minimised program stays.
-  if ! wait_until 20 window_manager_runs || ! run_wine start /min winemine </dev/null >/dev/null 2>&1 ||
-    ! wait_until 20 keeper_stays; then
+  if ! wait_until 60 window_manager_runs || ! run_wine start /min winemine </dev/null >/dev/null 2>&1 ||
+    ! wait_until 60 keeper_stays; then
     echo "The hidden desktop did not start" >&2
     return 1
   fi

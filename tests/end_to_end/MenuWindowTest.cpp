@@ -132,10 +132,20 @@ TEST(MenuWindowHere, IsTheSameOnEveryScreenAndForEveryReader) {
     const auto font = reinterpret_cast<HFONT>(SendMessageA(control(IDC_LABEL1), WM_GETFONT, 0, 0));
     EXPECT_EQ(title.right - title.left, MeasureText(font, "Water & Waste").cx) << "as in the frame's caption";
     SendMessageA(window, WM_DPICHANGED, MAKEWPARAM(144, 144), reinterpret_cast<LPARAM>(&title));
-    LOGFONTA shape{};
-    GetObjectA(reinterpret_cast<HFONT>(SendMessageA(control(IDC_LABEL1), WM_GETFONT, 0, 0)), sizeof shape,
-               &shape);
-    EXPECT_EQ(shape.lfHeight, -36) << "18 points, from the letters' top to their bottom";
+    struct {
+        HWND control;
+        const char* face;
+        LONG height; // from the letters' top to their bottom
+    } const fonts[] = {{control(IDC_LABEL1), "Comic Sans MS", 36},
+                       {control(IDC_LABEL4), "Georgia", 20},
+                       {link, "Georgia", 20},
+                       {button, "MS Sans Serif", 16}};
+    for (const auto& [lettered, face, height] : fonts) {
+        LOGFONTA shape{};
+        GetObjectA(reinterpret_cast<HFONT>(SendMessageA(lettered, WM_GETFONT, 0, 0)), sizeof shape, &shape);
+        EXPECT_STREQ(shape.lfFaceName, face);
+        EXPECT_EQ(shape.lfHeight, -height) << face;
+    }
 
     struct {
         HWND control;

@@ -61,6 +61,7 @@ private:
 TEST_F(UpdateWindow, CopiesOnceAndAgainOnEveryResizeAndEntersTheWorkstation) {
     Update(5, [](HWND window, std::size_t shown) {
         EXPECT_TRUE(IsWindowVisible(window));
+        EXPECT_EQ(IsWindowVisible(GetDlgItem(window, IDOK)) != FALSE, shown > 6) << "once all are copied";
         // The notification alone: how often a display tells of a real resize is its own affair.
         if (captions.back() == "Complete" && shown < 18)
             SendMessageA(window, WM_SIZE, SIZE_RESTORED, 0);

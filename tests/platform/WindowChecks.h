@@ -19,7 +19,8 @@ inline BOOL CALLBACK AddPlace(HWND control, LPARAM places) {
     EXPECT_TRUE(font == 0 || GetObjectType(reinterpret_cast<HGDIOBJ>(font)) == OBJ_FONT)
         << "freed while in use";
     RECT place;
-    GetWindowRect(control, &place);
+    if (SendMessageA(control, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&place)) == 0)
+        GetWindowRect(control, &place); // but for combo boxes, which have a list
     MapWindowPoints(nullptr, GetAncestor(control, GA_PARENT), reinterpret_cast<POINT*>(&place), 2);
     reinterpret_cast<std::vector<RECT>*>(places)->push_back(place);
     return TRUE;
@@ -39,7 +40,8 @@ inline void IsTheSameAfterOtherScreens(HWND window) {
         // As the platform would have it, unless the window knows better.
         SIZE scaled{MulDiv(first[0].right - first[0].left, static_cast<int>(dpi), 96),
                     MulDiv(first[0].bottom - first[0].top, static_cast<int>(dpi), 96)};
-        SendMessageA(window, WM_GETDPISCALEDSIZE, dpi, reinterpret_cast<LPARAM>(&scaled));
+        if (SIZE own{}; SendMessageA(window, WM_GETDPISCALEDSIZE, dpi, reinterpret_cast<LPARAM>(&own)) != 0)
+            scaled = own;
         RECT suggested{first[0].left, first[0].top, first[0].left + scaled.cx, first[0].top + scaled.cy};
         SendMessageA(window, WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&suggested));
         SendMessageA(window, WM_SETTINGCHANGE, 0, 0);
