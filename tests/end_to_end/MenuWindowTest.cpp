@@ -166,6 +166,10 @@ TEST(MenuWindowHere, IsTheSameOnEveryScreenAndForEveryReader) {
     }
     EXPECT_EQ(GetNextDlgTabItem(window, button, FALSE), link);
     EXPECT_EQ(GetNextDlgTabItem(window, link, FALSE), tree);
+    SetFocus(button);
+    SendMessageA(window, WM_ACTIVATE, WA_INACTIVE, 0);
+    SetFocus(window);
+    EXPECT_EQ(GetFocus(), button) << "back from another window";
     int clicks = 0;
     SetWindowSubclass(window, CountLinkClicks, 0, reinterpret_cast<DWORD_PTR>(&clicks));
     for (const WPARAM key : {WPARAM{VK_RETURN}, WPARAM{VK_SPACE}, WPARAM{VK_DOWN}})

@@ -29,6 +29,12 @@ TEST(SupportLibrary, KeepsTextsInTheRegistry) {
     EXPECT_EQ(corvel.GetRegValue(HKEY_LOCAL_MACHINE, key, "Open"), "%TEMP%");
 }
 
+TEST(UpperCase, IsThatOfTheCodePage) {
+    if (GetACP() == 1252) {
+        EXPECT_EQ(UpperCase("z\xE4\xDF"), "Z\xC4\xDF");
+    }
+}
+
 TEST(Images, AreForWindows10AndTakeNothingFromTheirOwnFolder) {
     // Loaded by Windows from the system's folder, whatever lies in the program's; the last one by the
     // manifest.
