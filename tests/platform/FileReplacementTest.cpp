@@ -82,7 +82,7 @@ TEST(FileReplacement, WritesInPlaceWhatOthersHoldAndLeavesAloneWhatTheyLetNobody
         }
         EXPECT_EQ(error, refusal) << share;
         EXPECT_EQ(ReadFileBytes("f"), refusal == 0 ? "new" : old) << share;
-        EXPECT_TRUE(GetFileAttributesA("f") & (attributes | FILE_ATTRIBUTE_ARCHIVE));
+        EXPECT_EQ(GetFileAttributesA("f") & FILE_ATTRIBUTE_HIDDEN, attributes & FILE_ATTRIBUTE_HIDDEN);
         SetFileAttributesA("f", FILE_ATTRIBUTE_NORMAL);
         EXPECT_EQ(ListNormalFiles("."), Names{"f"}) << "nothing beside it";
     }
