@@ -62,8 +62,7 @@ LRESULT CALLBACK Procedure(HWND box, UINT message, WPARAM wParam, LPARAM lParam)
 } // namespace
 
 void HoldControls(HWND groupBox) {
-    SetWindowLongPtrA(groupBox, GWLP_USERDATA,
-                      reinterpret_cast<LONG_PTR>(PutBefore(groupBox, Procedure)));
+    SetWindowLongPtrA(groupBox, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(PutBefore(groupBox, Procedure)));
 }
 
 } // namespace obrin
