@@ -12,6 +12,13 @@ if ! clang-tidy --version | grep -q 'version 14\.'; then
   exit
 fi
 
+for preset in native x64; do
+  if [[ ! -f build/$preset/compile_commands.json ]]; then
+    echo "clang-tidy: the preset $preset is not configured" >&2
+    exit 1
+  fi
+done
+
 # The sources that a preset builds, of those in the repository.
 sources_of() {
   sed -n "s|^ *\"file\": \"$PWD/\(.*\)\",\{0,1\}$|\1|p" "build/$1/compile_commands.json" | sort -u |
