@@ -16,7 +16,7 @@ namespace obrin::bench {
 namespace {
 
 constexpr std::size_t fileCount = 98;
-constexpr std::size_t fileSize = 20 * 1024 * 1024;
+constexpr std::size_t fileSize = std::size_t{20} * 1024 * 1024;
 constexpr std::size_t entries = 400;
 
 std::string NameOf(std::size_t file) {
