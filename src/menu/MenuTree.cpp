@@ -63,10 +63,10 @@ void MenuTree::Fill(MenuDefinition definition) {
         // level, of which there are few in practice.
         const bool atTop = &level == levels.data();
         for (auto first = level.begin(); !atTop && first != level.end();) {
-            const auto siblings = std::ranges::equal_range(first, level.end(), nodes[*first].parent, {},
-                                                           [&](std::size_t i) { return nodes[i].parent; });
-            std::ranges::reverse(siblings);
-            first = siblings.end();
+            const auto end = std::find_if(
+                first, level.end(), [&](std::size_t i) { return nodes[i].parent != nodes[*first].parent; });
+            std::reverse(first, end);
+            first = end;
         }
         for (const std::size_t i : level) {
             const MenuEntry& entry = nodes[i];
