@@ -76,7 +76,7 @@ bool WaitUntil(HWND window, const std::function<bool()>& condition) {
         if (condition())
             return true;
         // Now and then in any case: where a try takes longer than a pause, the next one is always due.
-        constexpr int often = 16;
+        constexpr int often = 128;
         if ((tries % often == 0 && !ProcessPendingEvents()) || !ProcessEventsUntil(window, pauses.get()))
             return false;
     }

@@ -57,7 +57,7 @@ void HostNotice::Form_Load() {
     if (refused != 0)
         SetWindowTextA(Control(IDC_REASON),
                        (program + " could not be started: " + PlatformText(refused, program)).c_str());
-    constexpr LPARAM step = 200; // milliseconds; a livelier bar would cost more than the wait itself
+    constexpr LPARAM step = 500; // milliseconds; a livelier bar would cost more than the wait itself
     SendMessageA(Control(IDC_PROGRESS), PBM_SETMARQUEE, TRUE, step);
 }
 
