@@ -68,7 +68,8 @@ int RunEvents() noexcept {
     return static_cast<int>(message.wParam);
 }
 
-// Events are looked for only when they wake it: to look after each try costs the machine more than the try.
+// Events are processed only when they wake it, and only every second pause is one that they can end: to look
+// for them after each try, or to wait for them as well, costs the machine more than the try.
 bool WaitUntil(HWND window, const std::function<bool()>& condition) {
     const UniqueHandle pauses = StartPauses();
     // The window may be closed already, by the events of what the caller did before.
@@ -77,7 +78,11 @@ bool WaitUntil(HWND window, const std::function<bool()>& condition) {
             return true;
         // Now and then in any case: where a try takes longer than a pause, the next one is always due.
         constexpr int often = 128;
-        if ((tries % often == 0 && !ProcessPendingEvents()) || !ProcessEventsUntil(window, pauses.get()))
+        if (tries % often == 0 && !ProcessPendingEvents())
+            return false;
+        if (tries % 2 != 0)
+            WaitForSingleObject(pauses.get(), INFINITE);
+        else if (!ProcessEventsUntil(window, pauses.get()))
             return false;
     }
     return false;

@@ -13,20 +13,29 @@ void HostLink::StartHost(HWND menu, std::int16_t wsid) {
     const DWORD refusal = Open(menu, hostProgram, HostStartArguments(wsid).c_str());
     const std::string caption = StationCaption(wsid);
     HostNotice notice(menu, caption, refusal);
-    HWND found = nullptr;
-    const auto waitFor = [&](const char* windowClass, const char* windowCaption) {
-        return WaitUntil(menu, [&] {
-            found = FindWindowA(windowClass, windowCaption);
+    const auto waitFor = [&](const auto& lookUp) {
+        HWND found = nullptr;
+        WaitUntil(menu, [&] {
+            found = lookUp();
             if (found == nullptr)
                 notice.ShowWhenDue();
             return found != nullptr;
         });
+        return found;
     };
     // Any window of the host will do first, one of another instance too; the caption behind it is this one's.
     // The children of that first window tell nothing that is needed, so they are not looked up.
-    if (!waitFor(hostWindowClass, nullptr) || !waitFor(nullptr, caption.c_str()))
+    if (waitFor([] { return FindWindowA(hostWindowClass, nullptr); }) == nullptr)
         return;
-    const HWND station = found;
+    int tries = 0;
+    const HWND station = waitFor([&] {
+        // A window of any class will do, but to ask all windows of the machine for their captions costs most
+        // of the wait: mostly only the host's are asked.
+        constexpr int often = 64;
+        return FindWindowA(tries++ % often == 0 ? nullptr : hostWindowClass, caption.c_str());
+    });
+    if (station == nullptr)
+        return;
     ShowWindow(station, SW_HIDE);
     hostCommandWindow = FindWindowExA(station, nullptr, nullptr, nullptr);
 }
