@@ -137,7 +137,7 @@ Row MeasureShape(const char* what, int programs) {
         if (SendMessageA(filled, TVM_GETCOUNT, 0, 0) != entryCount)
             throw std::runtime_error("the tree is not complete");
     }
-    return WithinRatio(what, "ms", medians, 1.25);
+    return WithinRatio(what, "ms", medians, 1.10);
 }
 
 } // namespace

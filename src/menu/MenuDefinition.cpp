@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <forward_list>
+#include <functional>
 #include <limits>
 #include <optional>
-#include <unordered_map>
 
 namespace obrin {
 
@@ -12,10 +12,54 @@ namespace {
 
 constexpr char fieldEnd = '^';
 constexpr char depthMark = '>';
+constexpr std::int16_t mostEntries = std::numeric_limits<std::int16_t>::max();
 
 std::string_view FirstField(std::string_view line, LeadByteTest isLeadByte) {
     return line.substr(0, FindCharacter(line, fieldEnd, isLeadByte));
 }
+
+// The keys of a file and the lines in which they stand. In two blocks: to make and free a node for each of
+// thousands of keys would take longer than the rest of the parse.
+class KeyLines {
+public:
+    // The line in which the key stands already, or else 0: then it stands in this one now.
+    int Add(std::string_view key, int line) {
+        if (2 * keys.size() >= places.size())
+            Grow();
+        std::uint16_t& place = PlaceOf(key);
+        if (place != free)
+            return keys[place - 1U].line;
+        keys.push_back({.key = key, .line = line});
+        place = static_cast<std::uint16_t>(keys.size()); // there are never more keys than entries
+        return 0;
+    }
+
+private:
+    struct KeyLine {
+        std::string_view key;
+        int line;
+    };
+
+    static constexpr std::uint16_t free = 0;
+
+    // Where the key is, or the free place for it.
+    std::uint16_t& PlaceOf(std::string_view key) {
+        auto place = std::hash<std::string_view>{}(key);
+        while (places[place & (places.size() - 1)] != free &&
+               keys[places[place & (places.size() - 1)] - 1U].key != key)
+            ++place;
+        return places[place & (places.size() - 1)];
+    }
+
+    void Grow() {
+        places.assign(std::max<std::size_t>(4 * places.size(), 256), free);
+        for (std::size_t i = 0; i < keys.size(); ++i)
+            PlaceOf(keys[i].key) = static_cast<std::uint16_t>(i + 1);
+    }
+
+    std::vector<KeyLine> keys;
+    std::vector<std::uint16_t> places; // a power of two; each with the number of a key, from 1, or free
+};
 
 class Parser {
 public:
@@ -23,8 +67,6 @@ public:
         : lines(std::move(file))
         , isLeadByte(leadByteTest)
         , sink(taker) {}
-
-    void ReserveKeys(std::size_t count) { keyLines.reserve(std::min<std::size_t>(count, mostEntries)); }
 
     void Parse() {
         const auto header = NextLine();
@@ -82,11 +124,10 @@ private:
         if (key.empty())
             return;
         // Nodes are found by index or by key, so a number cannot be a key.
-        if (key.find_first_not_of("0123456789") == std::string_view::npos)
+        if (std::ranges::all_of(key, [](char byte) { return byte >= '0' && byte <= '9'; }))
             Fault(MenuFault::Kind::NumberAsKey, "the key " + std::string(key) + " is a number");
-        if (const auto [first, isNew] = keyLines.try_emplace(key, lineNumber); !isNew)
-            Fault(MenuFault::Kind::KeyTwice, "the key " + std::string(key) + " is there already",
-                  first->second);
+        if (const int first = keyLines.Add(key, lineNumber); first != 0)
+            Fault(MenuFault::Kind::KeyTwice, "the key " + std::string(key) + " is there already", first);
     }
 
     std::int16_t ParentAt(std::size_t depth) {
@@ -107,7 +148,6 @@ private:
             {.kind = kind, .reason = std::move(reason), .line = lineNumber, .firstLine = firstLine});
     }
 
-    static constexpr std::int16_t mostEntries = std::numeric_limits<std::int16_t>::max();
     static constexpr std::size_t deepest = mostEntries; // deeper than any entry with a heading can be
     static constexpr std::int16_t noParent = 0;
     static constexpr std::int16_t missing = 0;      // no heading of this depth
@@ -119,7 +159,7 @@ private:
     int lineNumber = 0;
     std::int16_t counter = 0;                       // of entry lines; the tree index of the entry at hand
     std::vector<std::int16_t> headings = {missing}; // per depth the last heading's tree index
-    std::unordered_map<std::string_view, int> keyLines;
+    KeyLines keyLines;
     std::forward_list<std::string> ownKeys; // marked ones, and those that outlive their line
 };
 
@@ -129,6 +169,8 @@ public:
     DefinitionSink(std::string_view file, std::string_view name, LeadByteTest leadByteTest)
         : fileName(name)
         , isLeadByte(leadByteTest) {
+        constexpr std::size_t usualLine = 32; // bytes; more room is taken as it is needed
+        definition.entries.reserve(std::min<std::size_t>(file.size() / usualLine, mostEntries));
         // Each NUL takes the place of a field's or a line's end, but behind a last line without one.
         definition.texts = std::make_unique_for_overwrite<char[]>(file.size() + 1);
         end = definition.texts.get();
@@ -184,9 +226,7 @@ std::string WithoutDepthMarks(std::string_view text) {
 }
 
 void ReadMenuDefinition(std::string_view file, LeadByteTest isLeadByte, MenuSink& sink) {
-    Parser parser(LineReader(file, fieldEnd), isLeadByte, sink);
-    parser.ReserveKeys(static_cast<std::size_t>(std::ranges::count(file, '\r')));
-    parser.Parse();
+    Parser(LineReader(file, fieldEnd), isLeadByte, sink).Parse();
 }
 
 void ReadMenuDefinition(MoreText file, LeadByteTest isLeadByte, MenuSink& sink) {

@@ -56,8 +56,9 @@ TEST(MenuDefinition, LinesBecomeNodes) {
 TEST(MenuDefinition, IsRefusedWithFileAndLine) {
     std::string most = "T\r";
     for (int i = 0; i < 32767; ++i)
-        most += "A\r";
+        most += "A^K" + std::to_string(i) + "\r";
     EXPECT_EQ(ParseMenuDefinition(most, "UB.mnu", IsLeadByte).entries.size(), 32767U);
+    const std::string again = most.substr(0, most.rfind("A^")) + "A^K0";
     const std::string level = "there is no heading one level above this entry";
     const std::pair<std::string, std::string> cases[] = {
         {"", "1: the file has no header line"},
@@ -66,6 +67,7 @@ TEST(MenuDefinition, IsRefusedWithFileAndLine) {
         {"T\r\nA\r\n>B\r\nC\r\n>>D^K", "5: " + level},
         {"T\r\n>A^K", "2: " + level},
         {"T\r\nA^K\r\nB\r\n>C^K", "4: the key K is there already"},
+        {again, "32768: the key K0 is there already"},
         {"T\r\nA^123", "2: the key 123 is a number"},
         {most + "A", "32769: more entries than a menu can count"},
     };
