@@ -129,7 +129,7 @@ std::vector<Row> MeasureSettings() {
     return {
         WithinRatio("saving a settings file", "us", saving, 1.25),
         WithinRatio("loading a settings file", "us", loading, 1.25),
-        WithinRatio("opening the Properties dialog", "ms", opening, 1.5),
+        WithinRatio("opening the Properties dialog", "ms", opening, 1.2),
     };
 }
 

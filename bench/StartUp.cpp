@@ -98,7 +98,7 @@ std::vector<Row> MeasureStart() {
     const double product = Median(productMemory);
     const double floor = Median(floorMemory);
     return {
-        WithinRatio("start to the shown menu, host there at once", "ms", medians, 1.3),
+        WithinRatio("start to the shown menu, host there at once", "ms", medians, 1.10),
         WithinRatio("peak private memory", "MB", {product, floor, product / floor}, 1.20),
         MeasureOpens(),
     };

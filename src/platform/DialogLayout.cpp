@@ -49,8 +49,16 @@ DialogDesign::DialogDesign(HWND dialog) {
 }
 
 void DialogDesign::AddControlsOf(HWND parent) {
-    for (HWND control = GetWindow(parent, GW_CHILD); control != nullptr;
-         control = GetWindow(control, GW_HWNDNEXT)) {
+    // All at once: to go from each to the next costs more than what is asked of it.
+    std::vector<HWND> controls;
+    const auto add = [](HWND control, LPARAM list) -> BOOL {
+        reinterpret_cast<std::vector<HWND>*>(list)->push_back(control);
+        return TRUE;
+    };
+    EnumChildWindows(parent, add, reinterpret_cast<LPARAM>(&controls));
+    for (const HWND control : controls) {
+        if (GetAncestor(control, GA_PARENT) != parent)
+            continue; // a part of a control
         RECT place;
         // A combo box is as high as it is with its list.
         if (SendMessageA(control, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&place)) == 0)

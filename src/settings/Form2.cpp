@@ -10,6 +10,8 @@
 #include "settings/Margins.h"
 #include "settings/SettingsStore.h"
 
+#include <algorithm>
+
 namespace obrin {
 
 namespace {
@@ -22,6 +24,8 @@ constexpr std::array<const char*, 3> tabCaptions{"General", "Page Settings", "Pa
 // As much as can be typed into a box. The platform takes half a minute to lay out the ten megabytes of a
 // damaged file.
 constexpr std::size_t longestText = 32767;
+
+constexpr UINT_PTR tipsDue = 1; // a timer
 
 // The element of a control array that an id names; out of the array's range for the id of another control.
 std::size_t ElementOf(int id, int firstId) {
@@ -52,6 +56,10 @@ INT_PTR Form2::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             from->hwndFrom != TabStrip1 || from->code != static_cast<UINT>(TCN_SELCHANGE))
             return FALSE;
         TabStrip1_Click();
+        return TRUE;
+    case WM_TIMER:
+        KillTimer(window, tipsDue);
+        PrepareTips();
         return TRUE;
     default:
         return FALSE;
@@ -87,6 +95,9 @@ void Form2::Form_Load() {
     PrepareSliders();
     LoadSettings();
     SetFocus(TabStrip1);
+    // Nobody can ask for a tip sooner, and the dialog stands sooner without them.
+    constexpr UINT delay = 200; // milliseconds
+    SetTimer(window, tipsDue, delay, nullptr);
 }
 
 // A page hands on what its controls say.
@@ -123,27 +134,30 @@ void Form2::CreatePages() {
         if (Frame[i] == nullptr)
             ThrowLastError("Opening the Properties dialog");
         AddPage(Frame[i]);
-        // Visible behind the first page, and out of the keyboard's reach.
-        EnableWindow(Frame[i], FALSE);
-        SetWindowPos(Frame[i], HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     }
     LayPages();
-    BringToFront(shownPage);
 
+    const auto add = [](HWND item, LPARAM list) -> BOOL {
+        reinterpret_cast<std::vector<HWND>*>(list)->push_back(item);
+        return TRUE;
+    };
+    EnumChildWindows(window, add, reinterpret_cast<LPARAM>(&items));
     cmbOrientation = Item(IDC_CMB_ORIENTATION);
     for (const char* item : {"Portrait", "Landscape"})
         SendMessageA(cmbOrientation, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item));
 }
 
-// Over the tab strip's client area.
+// Over the tab strip's client area, one behind the other. Those behind are visible, and, disabled, out of the
+// keyboard's reach.
 void Form2::LayPages() {
     RECT inner;
     GetWindowRect(TabStrip1, &inner);
     MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&inner), 2);
     SendMessageA(TabStrip1, TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&inner));
     for (const HWND page : Frame)
-        SetWindowPos(page, nullptr, inner.left, inner.top, inner.right - inner.left, inner.bottom - inner.top,
-                     SWP_NOZORDER | SWP_NOACTIVATE);
+        SetWindowPos(page, HWND_BOTTOM, inner.left, inner.top, inner.right - inner.left,
+                     inner.bottom - inner.top, SWP_NOACTIVATE);
+    BringToFront(shownPage);
 }
 
 void Form2::BringToFront(std::size_t page) {
@@ -195,30 +209,33 @@ void Form2::cmbOrientation_Click() {
 void Form2::PrepareSliders() {
     constexpr int tick = 250; // a quarter of an inch; a click beside the slider's knob moves it that far too
     constexpr int keyStep = 10; // a hundredth
-    sliderTips =
-        CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0,
-                        0, 0, 0, window, nullptr, nullptr, nullptr);
-    if (sliderTips == nullptr)
-        ThrowLastError("Opening the Properties dialog");
     for (std::size_t i = 0; i < sldMargin.size(); ++i) {
         txtMargin[i] = Item(IDC_TXT_MARGIN + static_cast<int>(i));
         const HWND slider = sldMargin[i] = Item(IDC_SLD_MARGIN + static_cast<int>(i));
-        SendMessageA(slider, TBM_SETRANGEMIN, FALSE, smallestMargin);
-        SendMessageA(slider, TBM_SETRANGEMAX, FALSE, largestMargin);
+        SendMessageA(slider, TBM_SETRANGE, FALSE, MAKELPARAM(smallestMargin, largestMargin));
         SendMessageA(slider, TBM_SETTICFREQ, tick, 0);
         SendMessageA(slider, TBM_SETPAGESIZE, 0, tick);
         SendMessageA(slider, TBM_SETLINESIZE, 0, keyStep);
-
-        TOOLINFOA tip{};
-        tip.cbSize = sizeof tip;
-        tip.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
-        tip.hwnd = window;
-        tip.uId = reinterpret_cast<UINT_PTR>(slider);
-        std::string none;
-        tip.lpszText = none.data();
-        SendMessageA(sliderTips, TTM_ADDTOOLA, 0, reinterpret_cast<LPARAM>(&tip));
-        sldMargin_Change(i);
     }
+}
+
+void Form2::PrepareTips() {
+    sliderTips =
+        CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0,
+                        0, 0, 0, window, nullptr, nullptr, nullptr);
+    for (std::size_t i = 0; i < sldMargin.size(); ++i)
+        TellTips(TTM_ADDTOOLA, i);
+}
+
+void Form2::TellTips(UINT message, std::size_t index) {
+    std::string text = ShortestThousandths(SliderValue(index));
+    TOOLINFOA tip{};
+    tip.cbSize = sizeof tip;
+    tip.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+    tip.hwnd = window;
+    tip.uId = reinterpret_cast<UINT_PTR>(sldMargin[index]);
+    tip.lpszText = text.data();
+    SendMessageA(sliderTips, message, 0, reinterpret_cast<LPARAM>(&tip));
 }
 
 int Form2::SliderValue(std::size_t index) const {
@@ -227,13 +244,8 @@ int Form2::SliderValue(std::size_t index) const {
 
 void Form2::sldMargin_Change(std::size_t index) {
     shownMargin[index] = SliderValue(index);
-    std::string text = ShortestThousandths(SliderValue(index));
-    TOOLINFOA tip{};
-    tip.cbSize = sizeof tip;
-    tip.hwnd = window;
-    tip.uId = reinterpret_cast<UINT_PTR>(sldMargin[index]);
-    tip.lpszText = text.data();
-    SendMessageA(sliderTips, TTM_UPDATETIPTEXTA, 0, reinterpret_cast<LPARAM>(&tip));
+    if (sliderTips != nullptr)
+        TellTips(TTM_UPDATETIPTEXTA, index);
     WriteMarginText(index);
 }
 
@@ -245,9 +257,9 @@ void Form2::WriteMarginText(std::size_t index) {
         return; // the caret stays, and what was typed can be undone
     DWORD caret = 0;
     SendMessageA(box, EM_GETSEL, 0, reinterpret_cast<LPARAM>(&caret));
-    SetWindowTextA(box, text.c_str());
-    const std::size_t kept = KeptCaret(before, caret, text);
-    SendMessageA(box, EM_SETSEL, kept, static_cast<LPARAM>(kept));
+    SetWindowTextA(box, text.c_str()); // sets the caret in front of it
+    if (const std::size_t kept = KeptCaret(before, caret, text); kept != 0)
+        SendMessageA(box, EM_SETSEL, kept, static_cast<LPARAM>(kept));
 }
 
 // Comes back here once when the slider's change writes the box; the slider has the box's value by then.
@@ -295,25 +307,29 @@ void Form2::LoadSettings() {
     for (std::size_t i = 0; i < settings.size(); ++i) {
         if (loaded[i])
             ShowValue(i, *loaded[i]);
+        else if (const auto margin = ElementOf(settings[i].control, IDC_SLD_MARGIN);
+                 margin < sldMargin.size())
+            sldMargin_Change(margin);
     }
 }
 
 void Form2::ShowValue(std::size_t setting, const std::string& value) {
-    const int control = settings[setting].control;
-    if (const auto margin = ElementOf(control, IDC_SLD_MARGIN); margin < sldMargin.size()) {
+    const int id = settings[setting].control;
+    if (const auto margin = ElementOf(id, IDC_SLD_MARGIN); margin < sldMargin.size()) {
         SendMessageA(sldMargin[margin], TBM_SETPOS, TRUE, MarginOf(value));
         // Also when the value was the same: the box may hold something else that was typed.
         sldMargin_Change(margin);
         return;
     }
-    if (control == IDC_CMB_ORIENTATION) {
+    const HWND control = Item(id);
+    if (control == cmbOrientation) {
         // So that the arrow keys go on from the item that is shown. The text below keeps its own case.
         const LRESULT item = SendMessageA(cmbOrientation, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
                                           reinterpret_cast<LPARAM>(value.c_str()));
         SendMessageA(cmbOrientation, CB_SETCURSEL, static_cast<WPARAM>(item), 0);
     }
-    SetWindowTextA(Item(control), value.substr(0, longestText).c_str());
-    shown[setting] = WindowText(Item(control));
+    SetWindowTextA(control, value.substr(0, longestText).c_str());
+    shown[setting] = WindowText(control);
 }
 
 std::string Form2::ValueOf(std::size_t setting) const {
@@ -329,11 +345,8 @@ std::string Form2::ValueOf(std::size_t setting) const {
 }
 
 HWND Form2::Item(int id) const {
-    for (const HWND page : Frame) {
-        if (const HWND item = GetDlgItem(page, id))
-            return item;
-    }
-    return nullptr;
+    const auto item = std::ranges::find(items, id, GetDlgCtrlID);
+    return item == items.end() ? nullptr : *item;
 }
 
 } // namespace obrin

@@ -8,6 +8,7 @@
 #include <array>
 #include <cstddef>
 #include <string>
+#include <vector>
 
 namespace obrin {
 
@@ -38,6 +39,8 @@ private:
 
     void CreatePages();
     void PrepareSliders();
+    void PrepareTips();
+    void TellTips(UINT message, std::size_t index);
     void LaidOut() override { LayPages(); }
     void LayPages();
     void BringToFront(std::size_t page);
@@ -59,6 +62,7 @@ private:
 
     HWND TabStrip1 = nullptr;
     std::array<HWND, 3> Frame{};
+    std::vector<HWND> items; // of the pages too: to ask for each by its id would take longer
     HWND cmbOrientation = nullptr;
     std::array<HWND, 4> txtMargin{};
     std::array<HWND, 4> sldMargin{};

@@ -40,16 +40,6 @@ TEST(MenuTree, HasTheEntriesInTheirOrderAndCollapsed) {
         EXPECT_EQ(TreeView_GetNextVisible(window, a), TreeView_GetNextSibling(window, a)) << "collapsed";
         EXPECT_EQ(Shape(tree, a), "a(b=K1 c(d=K2 )K3)e=K4 ") << "K3 has no text: not a program's";
     }
-    std::string file = "T\ra\r";
-    std::string shape = "a(";
-    for (int i = 0; i < 1001; ++i) { // more than are inserted backwards
-        const std::string key = "K" + std::to_string(i);
-        file += ">b^" + key + "\r";
-        shape += "b=" + key + " ";
-    }
-    tree.Clear();
-    tree.Fill(ParseMenuDefinition(file, "", nullptr));
-    EXPECT_EQ(Shape(tree, TreeView_GetRoot(window)), shape + ")");
     DestroyWindow(window);
 }
 

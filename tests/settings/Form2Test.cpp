@@ -235,14 +235,17 @@ TEST_F(Properties, MarginsAreTypedKeyByKeyAndStayUnlessTheSliderHasTheirValue) {
         Press(IDC_APPLY);
         EXPECT_TRUE(Saved("TopMargin         =     2.05")) << "the slider's value, not the text";
         EXPECT_EQ(Margin(1), "0.5 500") << "the others stay";
-        Send(IDC_SLD_MARGIN + 3, WM_KEYDOWN, VK_RIGHT);
-        EXPECT_EQ(Margin(3), "0.51 510");
-        Send(IDC_SLD_MARGIN + 3, WM_KEYDOWN, VK_NEXT);
-        EXPECT_EQ(Margin(3), "0.76 760");
+        MSG message; // the tips come when the dialog stands
+        GetMessageA(&message, dialog, WM_TIMER, WM_TIMER);
+        DispatchMessageA(&message);
         HWND tips = nullptr;
         do
             tips = FindWindowExA(nullptr, tips, TOOLTIPS_CLASSA, nullptr);
         while (tips != nullptr && GetWindow(tips, GW_OWNER) != dialog);
+        Send(IDC_SLD_MARGIN + 3, WM_KEYDOWN, VK_RIGHT);
+        EXPECT_EQ(Margin(3), "0.51 510");
+        Send(IDC_SLD_MARGIN + 3, WM_KEYDOWN, VK_NEXT);
+        EXPECT_EQ(Margin(3), "0.76 760");
         char told[80] = "";
         TOOLINFOA tip{sizeof tip, 0,       dialog, reinterpret_cast<UINT_PTR>(Item(IDC_SLD_MARGIN + 3)),
                       {},         nullptr, told,   0,
