@@ -75,6 +75,9 @@ std::vector<std::size_t> OrderOf(const std::vector<MenuEntry>& entries, bool lev
 }
 
 double ShowByBareCalls(HWND tree, const std::vector<MenuEntry>& entries, Way way) {
+    std::vector<std::string> texts;
+    for (const MenuEntry& entry : entries)
+        texts.emplace_back(entry.text);
     const std::vector<std::size_t> order = OrderOf(entries, way.levelByLevel);
     std::vector<HTREEITEM> items(entries.size() + 1, TVI_ROOT);
     std::vector<HTREEITEM> lastChildren(entries.size() + 1, way.behindLast ? TVI_LAST : TVI_FIRST);
@@ -87,7 +90,7 @@ double ShowByBareCalls(HWND tree, const std::vector<MenuEntry>& entries, Way way
                    const auto parent = static_cast<std::size_t>(entries[i].parent);
                    insertion.hParent = items[parent];
                    insertion.hInsertAfter = lastChildren[parent];
-                   insertion.item.pszText = const_cast<char*>(entries[i].text.data());
+                   insertion.item.pszText = texts[i].data();
                    items[i + 1] = reinterpret_cast<HTREEITEM>(
                        SendMessageA(tree, TVM_INSERTITEMA, 0, reinterpret_cast<LPARAM>(&insertion)));
                    if (!way.behindLast)

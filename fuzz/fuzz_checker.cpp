@@ -11,7 +11,7 @@ namespace {
 
 bool MenuTakes(std::string_view file, obrin::LeadByteTest isLeadByte) {
     try {
-        obrin::ParseMenuDefinition(file, "UB.mnu", isLeadByte);
+        obrin::ParseMenuDefinition(std::string(file), "UB.mnu", isLeadByte);
         return true;
     } catch (const obrin::RunTimeError&) {
         return false;

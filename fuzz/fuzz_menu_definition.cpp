@@ -8,13 +8,13 @@ namespace {
 // What a file holds, checked; nothing of one that is refused.
 obrin::MenuDefinition Definition(std::string_view file, obrin::LeadByteTest isLeadByte) {
     try {
-        auto definition = obrin::ParseMenuDefinition(file, "UB.mnu", isLeadByte);
+        auto definition = obrin::ParseMenuDefinition(std::string(file), "UB.mnu", isLeadByte);
         const auto& entries = definition.entries;
         for (std::size_t i = 0; i < entries.size(); ++i) {
             const auto parent = static_cast<std::size_t>(entries[i].parent);
             Require(parent <= i); // a heading that stands above the entry
             Require(parent == 0 || entries[parent - 1].key.empty());
-            Require(entries[i].text.data()[entries[i].text.size()] == '\0');
+            Require(entries[i].key.empty() || entries[i].text.find('>') == std::string_view::npos);
         }
         return definition;
     } catch (const obrin::RunTimeError&) {

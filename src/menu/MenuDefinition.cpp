@@ -97,6 +97,7 @@ private:
         MenuLine entry{.line = lineNumber,
                        .depth = parent == noParent ? 0 : depth,
                        .isProgram = false,
+                       .isMarked = false,
                        .text = wholeLine.substr(depth),
                        .key = {},
                        .wholeLine = wholeLine,
@@ -109,7 +110,8 @@ private:
             entry.isProgram = true;
             entry.text = wholeLine.substr(depth, separator - depth);
             entry.key = FirstField(wholeLine.substr(separator + 1), isLeadByte); // more fields mean nothing
-            if (!lines.LinesLast() || entry.key.find(depthMark) != std::string_view::npos)
+            entry.isMarked = wholeLine.find(depthMark, depth) != std::string_view::npos;
+            if (!lines.LinesLast() || entry.isMarked)
                 entry.key = ownKeys.emplace_front(WithoutDepthMarks(entry.key));
             CheckKey(entry.key);
         } else {
@@ -166,21 +168,18 @@ private:
 // Keeps everything and ends with the first fault.
 class DefinitionSink : public MenuSink {
 public:
-    DefinitionSink(std::string_view file, std::string_view name, LeadByteTest leadByteTest)
+    DefinitionSink(std::string file, std::string_view name, LeadByteTest leadByteTest)
         : fileName(name)
         , isLeadByte(leadByteTest) {
         constexpr std::size_t usualLine = 32; // bytes; more room is taken as it is needed
         definition.entries.reserve(std::min<std::size_t>(file.size() / usualLine, mostEntries));
-        // Each NUL takes the place of a field's or a line's end, but behind a last line without one.
-        definition.texts = std::make_unique_for_overwrite<char[]>(file.size() + 1);
-        end = definition.texts.get();
+        definition.file = std::make_unique<const std::string>(std::move(file));
     }
 
     void TakeHeader(std::string_view line) override { definition.title = HeaderTitle(line, isLeadByte); }
     void TakeEntry(const MenuLine& entry) override {
-        const bool unmarked = entry.isProgram;
-        definition.entries.push_back({.text = Keep(entry.text, unmarked),
-                                      .key = unmarked ? Keep(entry.key, unmarked) : std::string_view(),
+        definition.entries.push_back({.text = entry.isMarked ? Unmarked(entry.text) : entry.text,
+                                      .key = entry.isMarked ? Unmarked(entry.key) : entry.key,
                                       .parent = entry.parent});
     }
     void TakeFault(const MenuFault& fault) override {
@@ -191,18 +190,12 @@ public:
     MenuDefinition definition;
 
 private:
-    std::string_view Keep(std::string_view text, bool unmarked) {
-        char* const start = end;
-        end = unmarked && text.find(depthMark) != std::string_view::npos
-                  ? std::ranges::remove_copy(text, end, depthMark).out
-                  : std::ranges::copy(text, end).out;
-        *end++ = '\0';
-        return {start, static_cast<std::size_t>(end - 1 - start)};
+    std::string_view Unmarked(std::string_view text) {
+        return definition.unmarked.emplace_front(WithoutDepthMarks(text));
     }
 
     std::string_view fileName;
     LeadByteTest isLeadByte;
-    char* end; // of the texts
 };
 
 } // namespace
@@ -233,10 +226,9 @@ void ReadMenuDefinition(MoreText file, LeadByteTest isLeadByte, MenuSink& sink) 
     Parser(LineReader(std::move(file), fieldEnd), isLeadByte, sink).Parse();
 }
 
-MenuDefinition ParseMenuDefinition(std::string_view file, std::string_view fileName,
-                                   LeadByteTest isLeadByte) {
-    DefinitionSink sink(file, fileName, isLeadByte);
-    ReadMenuDefinition(file, isLeadByte, sink);
+MenuDefinition ParseMenuDefinition(std::string file, std::string_view fileName, LeadByteTest isLeadByte) {
+    DefinitionSink sink(std::move(file), fileName, isLeadByte);
+    ReadMenuDefinition(*sink.definition.file, isLeadByte, sink);
     return std::move(sink.definition);
 }
 

@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <forward_list>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -15,7 +16,7 @@
 namespace obrin {
 
 /// One node of the tree. Its tree index is its position in the file, counted from 1. Its text and key are its
-/// definition's, with a NUL behind each.
+/// definition's.
 struct MenuEntry {
     std::string_view text;
     std::string_view key;    ///< host program path; empty for headings
@@ -25,7 +26,8 @@ struct MenuEntry {
 struct MenuDefinition {
     std::string title; ///< blanks at its ends kept
     std::vector<MenuEntry> entries;
-    std::unique_ptr<char[]> texts; ///< of all entries: one by one, they would take most of the time
+    std::unique_ptr<const std::string> file; ///< in which the texts are: copies would take most of the time
+    std::forward_list<std::string> unmarked; ///< texts that the file has with depth marks in them
 };
 
 /// Whether a file of this name is a menu definition: something in front of ".mnu" in lower case.
@@ -40,7 +42,7 @@ std::string_view SystemCode(std::string_view menuFileName, LeadByteTest isLeadBy
 /// Throws RunTimeError, naming file and line, for a file without a header line, an entry without a heading
 /// above it, a key that the file has twice or that is a number, and the 32,768th entry. Nothing is repaired:
 /// a tree that differs from its file would start the wrong programs.
-MenuDefinition ParseMenuDefinition(std::string_view file, std::string_view fileName, LeadByteTest isLeadByte);
+MenuDefinition ParseMenuDefinition(std::string file, std::string_view fileName, LeadByteTest isLeadByte);
 
 /// What is wrong with a line of a menu file: the reason for which it is refused.
 struct MenuFault {
@@ -57,7 +59,8 @@ struct MenuLine {
     int line;
     std::size_t depth; ///< 0 at top level
     bool isProgram;
-    std::string_view text; ///< of a program with the depth marks within, which its node goes without
+    bool isMarked;         ///< a program's with depth marks within, which its node goes without
+    std::string_view text; ///< with these marks
     std::string_view key;
     std::string_view wholeLine;
     bool isPlain; ///< the whole line holds printable ASCII only

@@ -15,6 +15,14 @@ LRESULT Send(HWND tree, UINT message, WPARAM wParam, Argument* argument) {
     return SendMessageA(tree, message, wParam, reinterpret_cast<LPARAM>(argument));
 }
 
+// As the platform itself would, of a text without a NUL behind it.
+void Widen(std::string_view text, std::wstring& wide) {
+    wide.resize(text.size()); // no code page makes more of it
+    const int size = MultiByteToWideChar(CP_ACP, 0, text.data(), static_cast<int>(text.size()), wide.data(),
+                                         static_cast<int>(wide.size()));
+    wide.resize(static_cast<std::size_t>(size));
+}
+
 // No repaint while a tree with thousands of nodes changes: each would cost one.
 class RedrawPause {
 public:
@@ -57,7 +65,8 @@ void MenuTree::Fill(MenuDefinition definition) {
 
     const RedrawPause pause(window);
     std::vector<HTREEITEM> items(nodes.size() + 1, TVI_ROOT); // by tree index
-    TVINSERTSTRUCTA insertion{};
+    std::wstring text;
+    TVINSERTSTRUCTW insertion{};
     // Windows walks all siblings to the place behind the last, which hundreds below one heading do not make
     // felt. To insert them backwards would spare it that, but Wine finds such nodes later when it removes
     // them: that costs it a tenth of the whole, and at the top level, where it counts the nodes behind a new
@@ -68,11 +77,12 @@ void MenuTree::Fill(MenuDefinition definition) {
         for (const std::size_t i : level) {
             const MenuEntry& entry = nodes[i];
             insertion.hParent = items[static_cast<std::size_t>(entry.parent)];
-            insertion.item.pszText = const_cast<char*>(entry.text.data());
+            Widen(entry.text, text);
+            insertion.item.pszText = text.data();
             insertion.item.lParam = static_cast<LPARAM>(i);
             // Straight to the stock tree view: that, too, counts with thousands of nodes.
             items[i + 1] = reinterpret_cast<HTREEITEM>(
-                OwnAnswer(TVM_INSERTITEMA, 0, reinterpret_cast<LPARAM>(&insertion)));
+                OwnAnswer(TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&insertion)));
             if (items[i + 1] == nullptr)
                 throw RunTimeError(ERROR_NOT_ENOUGH_MEMORY,
                                    "Adding " + std::string(entry.text) + " to the tree");

@@ -193,9 +193,8 @@ bool frmMain::Form_Load() {
 
     const std::string lastSystem(
         TrimBlanks(corvel->GetRegValue(HKEY_LOCAL_MACHINE, registryKey, lastSystemValue)));
-    const auto file = lastSystem.empty() ? std::nullopt : ReadFileIfThere(lastSystem);
-    if (file)
-        LoadSystem(lastSystem, *file);
+    if (auto file = lastSystem.empty() ? std::nullopt : ReadFileIfThere(lastSystem))
+        LoadSystem(lastSystem, std::move(*file));
     else if (!MnuFiles.empty())
         mnuSystems_Click(0);
     else
@@ -394,11 +393,11 @@ void frmMain::mnuSystems_Click(std::size_t index) {
     LoadSystem(name, ReadFileBytes(name));
 }
 
-void frmMain::LoadSystem(const std::string& fileName, std::string_view file) {
+void frmMain::LoadSystem(const std::string& fileName, std::string file) {
     currentSystem = fileName;
     TreeView1.Clear();
     const LeadByteTest isLeadByte = CodePageLeadByteTest();
-    MenuDefinition definition = ParseMenuDefinition(file, fileName, isLeadByte);
+    MenuDefinition definition = ParseMenuDefinition(std::move(file), fileName, isLeadByte);
     // With its folder: the platform looks for a bare name in other folders too.
     const std::string pictureFile = EnsureTrailingBackslash(CurrentFolder(), isLeadByte) + "Startup.bmp";
     if (NormalFileExists(pictureFile))

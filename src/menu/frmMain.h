@@ -63,7 +63,7 @@ private:
     Size OwnSize(HWND control) const;
     void PopUp(int x, int y);
 
-    void LoadSystem(const std::string& fileName, std::string_view file);
+    void LoadSystem(const std::string& fileName, std::string file);
     void RunSelectedProgram();
     void RunHostProgram(std::string_view program);
     void AfterHostCommand() {} // the window stays as it is: one program is started after the other
