@@ -12,7 +12,6 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <cstring>
 #include <map>
 
 namespace obrin::test {
@@ -86,28 +85,116 @@ Files Everything() {
     return files;
 }
 
-void SetAttributes(const std::string& path, DWORD attributes) {
-    EXPECT_TRUE(SetFileAttributesA(path.c_str(), attributes)) << path;
+constexpr bool is64 = sizeof(void*) == 8;
+
+void Replace(std::string& text, std::string_view from, std::string_view to) {
+    for (auto place = text.find(from); place != std::string::npos; place = text.find(from, place + to.size()))
+        text.replace(place, from.size(), to);
 }
 
-void RememberSystem(const char* name) {
-    RegSetKeyValueA(HKEY_LOCAL_MACHINE, "Software\\Obrin", "LastSystem", REG_SZ, name,
-                    static_cast<DWORD>(std::strlen(name)));
+// With the bytes that the list of faulty installations writes in other ways.
+std::string Meant(std::string text) {
+    Replace(text, "{user}", LoginName());
+    Replace(text, "{bits}", is64 ? "32" : "64");
+    Replace(text, "\\r", "\r");
+    Replace(text, "\\n", "\n");
+    Replace(text, "\\0", "\0"s);
+    for (auto place = text.find("\\x"); place != std::string::npos; place = text.find("\\x", place + 1))
+        text.replace(place, 4, 1, static_cast<char>(std::stoi(text.substr(place + 2, 2), nullptr, 16)));
+    for (auto place = text.find('{'); place != std::string::npos; place = text.find('{', place)) {
+        const auto colon = text.find(':', place), end = text.find('}', place);
+        std::string many;
+        for (int count = std::stoi(text.substr(place + 1)); count > 0; --count)
+            many += text.substr(colon + 1, end - colon - 1);
+        text.replace(place, end + 1 - place, many);
+    }
+    return text;
 }
 
-struct Fault {
-    std::function<void()> make;
-    std::string finding; ///< somewhere in what the checker says
-};
+// What the words of that list do to a file.
+void Do(const std::string& word, const std::string& file, const std::string& text, UniqueFile& held) {
+    const auto setAttributes = [&](DWORD attributes) { SetFileAttributesA(file.c_str(), attributes); };
+    const auto patch = [&](std::string_view from, std::string_view to) {
+        std::string bytes = ReadFileBytes(file);
+        bytes.replace(bytes.find(from), from.size(), to);
+        WriteFileBytes(file, bytes);
+    };
+    if (word == "write") {
+        WriteFileBytes(file, text);
+    } else if (word == "delete") {
+        DeleteFileA(file.c_str());
+    } else if (word == "folder") {
+        CreateFolder(file);
+    } else if (word == "rmdir") {
+        RemoveDirectoryA(file.c_str());
+    } else if (word == "readonly") {
+        File(file, File::Use::ReadWrite).Close();
+        setAttributes(FILE_ATTRIBUTE_READONLY);
+    } else if (word == "hide") {
+        setAttributes(FILE_ATTRIBUTE_HIDDEN);
+    } else if (word == "hold") {
+        held.reset(CreateFileA(file.c_str(), GENERIC_READ, 0, nullptr, OPEN_ALWAYS, 0, nullptr));
+    } else if (word == "otherbits") {
+        const auto machine = [](bool bits64) { return "PE\0\0"s + (bits64 ? "\x64\x86" : "\x4C\x01"); };
+        patch(machine(is64), machine(!is64));
+    } else if (word == "without") {
+        patch(text, std::string(text.size(), '?'));
+    } else if (word == "systems") {
+        for (int i = 1; i < std::stoi(file); ++i)
+            WriteFileBytes(std::to_string(i) + ".mnu", "T\r\n");
+    } else if (word == "user") {
+        WriteFileBytes("UserWSID.sys", ReadFileBytes("UserWSID.sys") +
+                                           UserWsidRecord(file, static_cast<std::int16_t>(std::stoi(text))));
+    } else if (word == "remember") {
+        RegSetKeyValueA(HKEY_LOCAL_MACHINE, "Software\\Obrin", "LastSystem", REG_SZ, file.c_str(),
+                        static_cast<DWORD>(file.size()));
+    } else {
+        ADD_FAILURE() << "no word of the list: " << word;
+    }
+}
 
-// Makes each faulty installation and compares: an error of the checker's, and the menu ends with one about
-// the same file and line; none, and the menu does not.
-void Compare(
-    const std::vector<Fault>& faults, const std::function<void()>& undo = [] {}) {
-    for (const auto& [make, finding] : faults) {
-        SCOPED_TRACE(finding);
+Lines Split(const std::string& text, const std::string& separator) {
+    Lines parts;
+    for (std::size_t start = 0, end = 0; end != std::string::npos; start = end + separator.size()) {
+        end = text.find(separator, start);
+        parts.push_back(text.substr(start, end - start));
+    }
+    return parts;
+}
+
+// The lines of a section of the list.
+Lines Faulty(const std::string& section) {
+    const HRSRC list = FindResourceA(nullptr, "FAULTY", RT_RCDATA);
+    const std::string text(static_cast<const char*>(LockResource(LoadResource(nullptr, list))),
+                           SizeofResource(nullptr, list));
+    Lines lines;
+    const auto start = text.find('[' + section + ']');
+    for (const std::string& line : Split(text.substr(start, text.find("\n\n", start) - start), "\n")) {
+        if (!line.empty() && line[0] != '[' && line[0] != ';')
+            lines.push_back(line);
+    }
+    return lines;
+}
+
+// Makes each faulty installation of a section and compares: an error of the checker's, and the menu ends with
+// one about the same file and line; none, and the menu does not.
+void Compare(const std::string& section) {
+    SetEnvironmentVariableA("TesselTemp", ".");
+    for (const std::string& line : Faulty(section)) {
+        SCOPED_TRACE(line.substr(0, 200));
         const Installation installation(5);
-        make();
+        UniqueFile held;
+        Lines steps = Split(line, " | ");
+        const std::string finding = Meant(steps.front());
+        for (auto step = steps.begin() + 1; step != steps.end(); ++step) {
+            const auto word = step->find(' ');
+            // A name with a blank has nothing behind it.
+            const auto name = step->starts_with("readonly") || step->starts_with("folder")
+                                  ? std::string::npos
+                                  : step->find(' ', word + 1);
+            Do(step->substr(0, word), Meant(step->substr(word + 1, name - word - 1)),
+               name == std::string::npos ? "" : Meant(step->substr(name + 1)), held);
+        }
         const Files before = Everything();
         const auto [output, exitCode] = RunChecker();
         EXPECT_TRUE(Everything() == before) << "nothing is changed";
@@ -119,210 +206,27 @@ void Compare(
         if (place != std::string::npos && error.find("Config File Not found!") == std::string::npos) {
             const auto start = output.rfind('\n', place) + 1;
             std::string named = output.substr(start, place - start);
-            if (const auto line = named.find(':'); line != std::string::npos)
-                named.replace(line, 1, ", line ");
+            if (const auto lineNumber = named.find(':'); lineNumber != std::string::npos)
+                named.replace(lineNumber, 1, ", line ");
             EXPECT_NE(error.find(named), std::string::npos) << error;
         }
-        undo();
+        held.reset();
         for (const auto& [path, times] : Everything())
-            SetAttributes(path, FILE_ATTRIBUTE_NORMAL);
+            SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
     }
-}
-
-Fault MenuFile(const std::string& contents, std::string finding) {
-    return {[=] { WriteFileBytes("UB.mnu", contents); }, std::move(finding)};
-}
-
-std::string Many(int entries) {
-    std::string file = "T";
-    for (int i = 0; i < entries; ++i)
-        file += "\rA^";
-    return file;
+    SetEnvironmentVariableA("TesselTemp", nullptr);
 }
 
 TEST(Checker, SaysOfMenuFilesWhatTheMenuDoes) {
-    const std::string noHeading = "error: there is no heading one level above this entry";
-    std::string deep = "T\r\n";
-    for (std::size_t depth = 0; depth < 21; ++depth)
-        deep += std::string(depth, '>') + "H\r\n";
-    const std::string none = "0 errors, 0 warnings in 1 menu file";
-    const auto pages = [] {
-        for (const char* folder : {"Help", "Help\\UB"})
-            CreateFolder(folder);
-        for (const char* page : {"Help\\Index.html", "Help\\UB\\Index.html", "Help\\Obrin-Web.url",
-                                 "Help\\BetterIdea.url", "Obrin-User.url"})
-            WriteFileBytes(page, "");
-    };
-    Compare({
-        {pages, none},
-        MenuFile("", "UB.mnu: error: the file has no header line"),
-        MenuFile("T\r\n>A^K", "UB.mnu:2: " + noHeading),
-        MenuFile("T\r\nA\r\n>>B^K", "UB.mnu:3: " + noHeading),
-        MenuFile("T\r\nA\r\n>>>B", "UB.mnu:3: " + noHeading),
-        MenuFile("T\r\nA\r\n>B\r\nC\r\n>>D^K", "UB.mnu:5: " + noHeading),
-        MenuFile("T\r\nA^K\r\n>B^L", "UB.mnu:3: " + noHeading),
-        MenuFile("T\r\n>", "UB.mnu:2: " + noHeading),
-        MenuFile("T\r\n" + std::string(40000, '>') + "A", "UB.mnu:2: " + noHeading),
-        MenuFile("T\r\n>A^1\r\nB^1", "UB.mnu:3: error: the key 1 is there already, in line 2"),
-        MenuFile("T\r\nA^K\r\nB^K", "UB.mnu:3: error: the key K is there already, in line 2"),
-        MenuFile("T\rA^K\rH\r>B^K", "UB.mnu:4: error: the key K is there already, in line 2"),
-        MenuFile("T\r\nA^K>L\r\nB^>KL^x", "UB.mnu:3: error: the key KL is there already"),
-        MenuFile("T\r\n^K\r\n^K", "UB.mnu:3: error: the key K is there already"),
-        MenuFile("T\r\nA\0^K\r\nB^K"s, "UB.mnu:3: error: the key K is there already"),
-        MenuFile("T\r\nA^0012^x", "UB.mnu:2: error: the key 0012 is a number"),
-        MenuFile(Many(32768), "UB.mnu:32769: error: more entries than a menu can count"),
-        MenuFile(Many(32767), "0 errors"),
-        MenuFile("T\r\nA^k\r\nB^K", "0 errors"),
-        MenuFile("T\r\nA^\r\nB^\r\nC^K\x1A", "0 errors"),
-        MenuFile("T", "0 errors"),
-        MenuFile(std::string(1'000'000, 'x') + "\rA^K", "0 errors"),
-        MenuFile("T\nA^K\n", "UB.mnu:1: warning: a line end of LF alone"),
-        MenuFile("T\r\nA^K\nB^K\r\nC^L", "UB.mnu:2: warning: a line end of LF alone"),
-        MenuFile("\xEF\xBB\xBFT\r\nA^K", "UB.mnu:1: warning: a byte-order mark of UTF-8"),
-        MenuFile("\xFF\xFET\0\r\0\n\0A\0"s, "UB.mnu:1: warning: a byte-order mark of UTF-16"),
-        MenuFile("T\r\nA\xC3\xA4^K", "UB.mnu:2: warning: text in UTF-8"),
-        MenuFile("\r\nA^K", "UB.mnu:1: warning: the title is empty"),
-        MenuFile("  ^T\r\nA^K", "UB.mnu:1: warning: the title is empty"),
-        MenuFile("T\r\nA^..\\K", "UB.mnu:2: warning: the key ..\\K holds \"..\""),
-        MenuFile("T\r\nA^UB\\..\\..\\K", "UB.mnu:2: warning: the key UB\\..\\..\\K holds \"..\""),
-        MenuFile("T\r\nA^C:\\K", "UB.mnu:2: warning: the key C:\\K names a drive"),
-        MenuFile("T\r\nA^ K\r\nB^K", "UB.mnu:2: warning: the key  K begins or ends with a blank"),
-        MenuFile("T\r\nA^K \r\nB^K", "UB.mnu:2: warning: the key K  begins or ends with a blank"),
-        MenuFile("T\r\nA\r\nB^K", "UB.mnu:2: warning: the heading A holds no program"),
-        MenuFile("T\r\nA\r\n>B\r\n>>C^K\r\n>D\r\n", "UB.mnu:5: warning: the heading D holds no program"),
-        MenuFile("T\r\nA^K\r\n\r\n", "UB.mnu:3: warning: an empty line"),
-        MenuFile(deep + std::string(21, '>') + "A^K", "UB.mnu:22: warning: more than 20 levels"),
-    });
+    Compare("menu files");
 }
 
-TEST(Checker, SaysOfTheRestWhatTheMenuDoes) {
-    UniqueFile held;
-    const auto hold = [&](const char* file) {
-        return [&held, file] {
-            held.reset(CreateFileA(file, GENERIC_READ, 0, nullptr, OPEN_ALWAYS, 0, nullptr));
-        };
-    };
-    const auto write = [](const char* file, const std::string& contents) {
-        return [=] { WriteFileBytes(file, contents); };
-    };
-    // But for the configuration, which the menu itself looks at, root may write read-only files under Wine.
-    const auto readOnly = [](const char* file) {
-        return [=] {
-            File(file, File::Use::ReadWrite).Close();
-            SetAttributes(file, FILE_ATTRIBUTE_READONLY);
-        };
-    };
-    const auto folderInstead = [](const char* file) {
-        return [=] {
-            DeleteFileA(file);
-            CreateFolder(file);
-        };
-    };
-    const auto remove = [](const char* file) { return [=] { DeleteFileA(file); }; };
-    const auto patch = [](const std::string& from, const std::string& to) {
-        return [=] {
-            std::string library = ReadFileBytes("Corvel.dll");
-            library.replace(library.find(from), from.size(), to);
-            WriteFileBytes("Corvel.dll", library);
-        };
-    };
-    const auto systems = [](int count) {
-        return [=] {
-            for (int i = 1; i < count; ++i)
-                WriteFileBytes(std::to_string(i) + ".mnu", "T\r\n");
-        };
-    };
-    const auto alsoUser = [](const std::string& user, int wsid) {
-        return [=] {
-            WriteFileBytes("UserWSID.sys", ReadFileBytes("UserWSID.sys") +
-                                               UserWsidRecord(user, static_cast<std::int16_t>(wsid)));
-        };
-    };
-    const auto settings = [](const std::function<void()>& make) {
-        return [=] {
-            CreateFolder("Ini");
-            CreateFolder("Ini\\Core");
-            CreateFolder("Ini\\Core\\Programs");
-            SetEnvironmentVariableA("TesselTemp", ".");
-            make();
-        };
-    };
-    const char* backup = ".\\Ini\\Core\\Programs\\CSBackup.ini";
-    constexpr bool is64 = sizeof(void*) == 8;
-    const char *x86 = "\x4C\x01", *x64 = "\x64\x86";
-    const std::string cannot = "error: cannot be written (";
-    Compare(
-        {
-            {remove("FennConfig.Sys"), "FennConfig.Sys: error: missing"},
-            {folderInstead("FennConfig.Sys"), "FennConfig.Sys: error: missing"},
-            {readOnly("FennConfig.Sys"), "FennConfig.Sys: " + cannot},
-            {hold("FennConfig.Sys"), "FennConfig.Sys: " + cannot},
-            {[] { RemoveDirectoryA("Core"); }, "Core: error: this folder is missing"},
-            {[] {
-                 RemoveDirectoryA("Core");
-                 WriteFileBytes("Core", "");
-             },
-             "Core: error: this folder is missing"},
-            {readOnly("Core\\TempOut.tmp"), ""},
-            {folderInstead("Core\\TempOut.tmp"), "Core\\TempOut.tmp: " + cannot},
-            {remove("Corvel.dll"), "Corvel.dll: error: missing"},
-            {write("Corvel.dll", "text"), "Corvel.dll: error: no library of Windows"},
-            {patch("PE\0\0"s + (is64 ? x64 : x86), "PE\0\0"s + (is64 ? x86 : x64)),
-             std::string("Corvel.dll: error: made for ") + (is64 ? "32 bits" : "64 bits")},
-            {patch("SetRegValue", "SetRegVALUE"), "Corvel.dll: error: without the routine SetRegValue"},
-            {write("Startup.bmp", "no picture"), "Startup.bmp: error: no picture"},
-            {write("Startup.bmp", ""), "Startup.bmp: error: no picture"},
-            {[] {
-                 WriteFileBytes("Startup.bmp", "no picture");
-                 SetAttributes("Startup.bmp", FILE_ATTRIBUTE_HIDDEN);
-             },
-             "0 errors"},
-            {[] { CreateFolder("Startup.bmp"); }, "0 errors"},
-            {readOnly("UserWSID.sys"), ""},
-            {folderInstead("UserWSID.sys"), "UserWSID.sys: " + cannot},
-            {hold("UserWSID.sys"), "UserWSID.sys: " + cannot},
-            {readOnly("Updated.txt"), ""},
-            {folderInstead("Updated.txt"), "Updated.txt: " + cannot},
-            {hold("Updated.txt"), "Updated.txt: " + cannot},
-            {readOnly("Menu 5.txt"), ""},
-            {folderInstead("Menu 5.txt"), "Menu 5.txt: " + cannot},
-            {remove("UB.mnu"), ".: error: there is no menu file"},
-            {folderInstead("UB.mnu"), ".: error: there is no menu file"},
-            {[] { SetAttributes("UB.mnu", FILE_ATTRIBUTE_HIDDEN); },
-             "UB.mnu: warning: hidden or a system file"},
-            {[] {
-                 DeleteFileA("UB.mnu");
-                 WriteFileBytes("UB.MNU", "T");
-             },
-             "UB.MNU: warning: the name does not end in .mnu in small letters"},
-            {hold("UB.mnu"), "UB.mnu: error: cannot be read ("},
-            {systems(100), ".mnu: error: the hundredth menu file"},
-            {systems(99), "0 errors"},
-            {write("ZZ.mnu", ""), "ZZ.mnu: error: the file has no header line"},
-            {[] {
-                 WriteFileBytes("ZZ.mnu", "T\r\n>A");
-                 RememberSystem("ZZ.mnu");
-             },
-             "ZZ.mnu:2: error: there is no heading"},
-            {write("UBx.mnu", "T\r\nA^K"), "UBx.mnu: warning: the system code UB is that of UB.mnu too"},
-            {write("ub2.mnu", "T\r\nA^K"), "ub2.mnu: warning: the system code ub is that of UB.mnu too"},
-            {write("ZZ.Mnu", "T"), "ZZ.Mnu: warning: the name does not end in .mnu"},
-            {[] {}, "Help\\UB\\Index.html: warning: missing"},
-            {[] {}, "Obrin-User.url: warning: missing"},
-            {alsoUser("bert", 0),
-             "UserWSID.sys: warning: record 2 gives the user bert the workstation number 0"},
-            {alsoUser("bert", 5), "UserWSID.sys: warning: the users "},
-            {alsoUser(LoginName(), 5),
-             "UserWSID.sys: warning: the user " + LoginName() + " has the records 1 and 2"},
-            {write("Updated.txt", "0050"), "Updated.txt: warning: the last record is cut off"},
-            {settings(write(backup, "Lines")),
-             std::string(backup) + ": warning: a program's settings, line 1: there is no \"=\""},
-            {settings([=] { CreateFolder(backup); }),
-             std::string(backup) + ": warning: a folder of this name"},
-            {settings(write(backup, "Lines=1\r\n")), "0 errors, 5 warnings"},
-        },
-        [&] { held.reset(); });
-    SetEnvironmentVariableA("TesselTemp", nullptr);
+TEST(Checker, SaysOfFilesAndFoldersWhatTheMenuDoes) {
+    Compare("files and folders");
+}
+
+TEST(Checker, SaysOfSystemsUsersAndSettingsWhatTheMenuDoes) {
+    Compare("systems, users and settings");
 }
 
 TEST(Checker, TakesFoldersFilesAndNothingElse) {
