@@ -3,16 +3,13 @@
 #include "Measurements.h"
 #include "Program.h"
 
-#include "platform/Failure.h"
+#include <filesystem>
 
 namespace obrin::bench {
 
 std::vector<Row> MeasureSize() {
-    const std::string file = OwnFolder() + "ObrinMenu.exe";
-    WIN32_FILE_ATTRIBUTE_DATA data;
-    if (!GetFileAttributesExA(file.c_str(), GetFileExInfoStandard, &data))
-        ThrowLastError("Reading the size of " + file);
-    return {Within("size of ObrinMenu.exe", "bytes", data.nFileSizeLow, 300 * 1024)};
+    const auto bytes = static_cast<double>(std::filesystem::file_size(OwnFolder() + "ObrinMenu.exe"));
+    return {Within("size of ObrinMenu.exe", "bytes", bytes, 300 * 1024)};
 }
 
 } // namespace obrin::bench

@@ -6,11 +6,10 @@
 #include "Scratch.h"
 
 #include "menu/MenuFiles.h"
-#include "platform/Failure.h"
 #include "platform/File.h"
-#include "platform/Handle.h"
 
 #include <array>
+#include <filesystem>
 #include <stdexcept>
 
 namespace obrin::bench {
@@ -18,24 +17,17 @@ namespace obrin::bench {
 namespace {
 
 constexpr int fileCount = 98;
-constexpr LONGLONG smallSize = 1024;
-constexpr LONGLONG largeSize = 20LL * 1024 * 1024;
+constexpr std::uintmax_t smallSize = 1024;
+constexpr std::uintmax_t largeSize = 20 * 1024 * 1024;
 
 // Of real entries as far as anybody reads; the rest of a large one takes no place on disks that can do so.
-void MakeMenuFile(const std::string& name, LONGLONG size) {
-    std::string text = MenuFileText("Title of a system", 400, 6);
-    text.resize(static_cast<std::size_t>(std::min<LONGLONG>(size, static_cast<LONGLONG>(text.size()))));
-    WriteFileBytes(name, text);
-    const UniqueFile file(CreateFileA(name.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr));
-    LARGE_INTEGER end;
-    end.QuadPart = size;
-    if (!SetFilePointerEx(file.get(), end, nullptr, FILE_BEGIN) || !SetEndOfFile(file.get()))
-        ThrowLastError("Making " + name);
-}
-
-void MakeMenuFiles(LONGLONG size) {
-    for (int i = 0; i < fileCount; ++i)
-        MakeMenuFile("S" + std::to_string(i) + ".mnu", size);
+void MakeMenuFiles(const std::string& folder, std::uintmax_t size) {
+    std::filesystem::create_directory(folder);
+    for (int i = 0; i < fileCount; ++i) {
+        const std::string name = folder + "\\S" + std::to_string(i) + ".mnu";
+        WriteFileBytes(name, MenuFileText("Title of a system", 400, 6));
+        std::filesystem::resize_file(name, size);
+    }
 }
 
 double ListByProduct() {
@@ -74,23 +66,14 @@ double ListByBareCalls() {
 std::vector<Row> MeasureListing() {
     constexpr int runs = 121;
     const ScratchFolder folder;
-    CreateDirectoryA("small", nullptr);
-    CreateDirectoryA("large", nullptr);
+    MakeMenuFiles("small", smallSize);
+    MakeMenuFiles("large", largeSize);
     const auto inFolder = [](const char* name, auto&& work) {
         SetCurrentDirectoryA(name);
         const auto result = work();
         SetCurrentDirectoryA("..");
         return result;
     };
-    const auto fill = [](LONGLONG size) {
-        return [=] {
-            MakeMenuFiles(size);
-            return true;
-        };
-    };
-    inFolder("small", fill(smallSize));
-    inFolder("large", fill(largeSize));
-
     const auto listSmall = [&] { return inFolder("small", ListByProduct); };
     const auto listLarge = [&] { return inFolder("large", ListByProduct); };
     const Medians small = Alternate(runs, listSmall, [&] { return inFolder("small", ListByBareCalls); });

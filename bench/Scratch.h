@@ -1,23 +1,13 @@
 // Folders that live as long as a measurement.
 #pragma once
 
+#include "platform/ScratchFolder.h"
+
 #include <string>
 
 namespace obrin::bench {
 
-/// A new folder below the temp path. It is the current folder until it is removed again, with everything in
-/// it.
-class ScratchFolder {
-public:
-    ScratchFolder();
-    ScratchFolder(const ScratchFolder&) = delete;
-    ScratchFolder& operator=(const ScratchFolder&) = delete;
-    ~ScratchFolder();
-
-private:
-    std::string before;
-    std::string folder;
-};
+using test::ScratchFolder;
 
 /// A host installation in the current folder: three systems with the same tree, a picture, and a workstation
 /// number for the user who runs this. `host` becomes its host program.

@@ -11,7 +11,6 @@
 #include "Measurements.h"
 #include "Roles.h"
 
-#include "common/RunTimeError.h"
 #include "platform/WindowsApi.h"
 
 #include <algorithm>
@@ -54,9 +53,6 @@ int Run(std::span<char*> names) {
             continue;
         try {
             over += Print(measure());
-        } catch (const RunTimeError& error) {
-            ++failed;
-            std::printf("%s: not measured: %s (error %u)\n", name.data(), error.what(), error.Code());
         } catch (const std::exception& error) {
             ++failed;
             std::printf("%s: not measured: %s\n", name.data(), error.what());
