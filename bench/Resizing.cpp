@@ -206,10 +206,8 @@ std::vector<Row> MeasureResizing() {
     const Installation installation(OwnFolder() + "Fenn.exe");
     SetEnvironmentVariableA("FENN_START_DELAY_MS", "0");
     frmMain menu;
-
     menu.Show();
     const UniqueFile host = ProcessOf(FindWindowA(hostWindowClass, nullptr));
-
     SetWindowPos(menu.Window(), nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
 
     std::vector<Row> rows;
