@@ -52,7 +52,6 @@ void frmMain::Show() {
     if (CreateWindowExA(WS_EX_CONTROLPARENT, menuWindowClass, "", windowStyle, CW_USEDEFAULT, CW_USEDEFAULT,
                         CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr, Instance(), this) == nullptr)
         ThrowLastError("Creating the menu window");
-    CreateControls();
     if (!Form_Load())
         return;
     ShowWindow(window, SW_SHOWNORMAL);
@@ -168,9 +167,6 @@ bool frmMain::OnSetCursor(HWND hit, int hitTest) {
 // --- Load, resize, unload ---
 
 bool frmMain::Form_Load() {
-    const SIZE outer = DesignedOuterSize(); // which a small screen may not have had room for
-    margins = RecordMargins({ToTwips(outer.cx, dpi), ToTwips(outer.cy, dpi)}, layout);
-
     MnuFiles = EnumerateMenuFiles();
     FillSystemList(GetMenu(window), MnuFiles);
 
@@ -180,11 +176,13 @@ bool frmMain::Form_Load() {
         wsid = EstablishIdentity(window, loginName);
         if (!IsWindow(window))
             return false;
-        SetLabel(Label2, UserCaption(loginName));
-        SetLabel(Label3, WsidCaption(wsid));
         // Ahead of the host: it would stay behind, hidden, when the library is missing.
         corvel.emplace();
-        hostLink.StartHost(window, wsid);
+        hostLink.StartHost(window, wsid, [&] {
+            CreateControls();
+            SetLabel(Label2, UserCaption(loginName));
+            SetLabel(Label3, WsidCaption(wsid));
+        });
         if (!IsWindow(window))
             return false;
     }
@@ -320,6 +318,8 @@ void frmMain::CreateControls() {
     dpi = GetDpiForWindow(window);
     ApplyFonts();
     CentreOnScreen(window, DesignedOuterSize());
+    const SIZE outer = DesignedOuterSize(); // which a small screen may not have had room for
+    margins = RecordMargins({ToTwips(outer.cx, dpi), ToTwips(outer.cy, dpi)}, layout);
 }
 
 SIZE frmMain::DesignedOuterSize() const {

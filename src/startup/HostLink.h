@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <string>
 
 namespace obrin {
@@ -20,10 +21,11 @@ public:
     explicit HostLink(HWND commandWindow = nullptr)
         : hostCommandWindow(commandWindow) {}
 
-    /// Starts the host for this workstation, waits for its windows without a time limit while the events of
-    /// `menu` are processed, and hides it. A wait of more than a moment is told to the operator. The link
-    /// stands when it returns, unless `menu` was closed meanwhile. Throws RunTimeError.
-    void StartHost(HWND menu, std::int16_t wsid);
+    /// Starts the host for this workstation, does `meanwhile`, waits for the host's windows without a time
+    /// limit while the events of `menu` are processed, and hides it. A wait of more than a moment is told to
+    /// the operator. The link stands when it returns, unless `menu` was closed meanwhile. Throws
+    /// RunTimeError.
+    void StartHost(HWND menu, std::int16_t wsid, const std::function<void()>& meanwhile);
 
     /// Whether the host's command window has been found. A host that ends later is not noticed.
     bool Stands() const { return hostCommandWindow != nullptr; }
