@@ -170,8 +170,9 @@ bool frmMain::Form_Load() {
     MnuFiles = EnumerateMenuFiles();
     FillSystemList(GetMenu(window), MnuFiles);
 
-    // Set already when the window is loaded a second time in the same run.
-    if (!hostLink.Stands()) {
+    if (hostLink.Stands()) { // the window is loaded a second time in the same run
+        CreateControls();
+    } else {
         const std::string loginName = LoginName();
         wsid = EstablishIdentity(window, loginName);
         if (!IsWindow(window))
