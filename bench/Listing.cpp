@@ -18,7 +18,7 @@ namespace {
 
 constexpr int fileCount = 98;
 constexpr std::uintmax_t smallSize = 1024;
-constexpr std::uintmax_t largeSize = 20 * 1024 * 1024;
+constexpr std::uintmax_t largeSize = std::uintmax_t{20} * 1024 * 1024;
 
 // Of real entries as far as anybody reads; the rest of a large one takes no place on disks that can do so.
 void MakeMenuFiles(const std::string& folder, std::uintmax_t size) {

@@ -68,9 +68,9 @@ std::vector<std::size_t> LevelByLevel(const std::vector<MenuEntry>& entries) {
 }
 
 double ShowByBareCalls(HWND tree, const std::vector<MenuEntry>& entries) {
-    std::vector<std::string> texts;
-    for (const MenuEntry& entry : entries)
-        texts.emplace_back(entry.text);
+    std::vector<std::string> texts(entries.size());
+    std::ranges::transform(entries, texts.begin(),
+                           [](const MenuEntry& entry) { return std::string(entry.text); });
     const std::vector<std::size_t> order = LevelByLevel(entries);
     std::vector<HTREEITEM> items(entries.size() + 1, TVI_ROOT);
     return 1e3 * Timed([&] {
