@@ -2,19 +2,10 @@
 
 #include "platform/Failure.h"
 #include "platform/Font.h"
+#include "platform/Window.h"
 #include "resources/Ids.h"
 
 namespace obrin {
-
-namespace {
-
-BOOL CALLBACK Tell(HWND control, LPARAM message) {
-    const auto& change = *reinterpret_cast<const MSG*>(message);
-    SendMessageA(control, change.message, change.wParam, change.lParam);
-    return TRUE;
-}
-
-} // namespace
 
 INT_PTR Dialog::ShowModal(HWND owner, int resource) {
     // Nothing that the procedure should have stopped comes through here.
@@ -65,11 +56,10 @@ INT_PTR Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         return TRUE;
     }
     case WM_SYSCOLORCHANGE:
-    case WM_SETTINGCHANGE: {
-        const MSG change{window, message, wParam, lParam, 0, {}};
-        EnumChildWindows(window, Tell, reinterpret_cast<LPARAM>(&change));
+    case WM_SETTINGCHANGE:
+        for (const HWND control : WindowsWithin(window))
+            SendMessageA(control, message, wParam, lParam);
         [[fallthrough]];
-    }
     case WM_THEMECHANGED: { // which Windows tells the controls
         RECT place;
         GetWindowRect(window, &place);

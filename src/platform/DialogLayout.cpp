@@ -1,5 +1,7 @@
 #include "platform/DialogLayout.h"
 
+#include "platform/Window.h"
+
 #include <algorithm>
 
 namespace obrin {
@@ -49,14 +51,7 @@ DialogDesign::DialogDesign(HWND dialog) {
 }
 
 void DialogDesign::AddControlsOf(HWND parent) {
-    // All at once: to go from each to the next costs more than what is asked of it.
-    std::vector<HWND> controls;
-    const auto add = [](HWND control, LPARAM list) -> BOOL {
-        reinterpret_cast<std::vector<HWND>*>(list)->push_back(control);
-        return TRUE;
-    };
-    EnumChildWindows(parent, add, reinterpret_cast<LPARAM>(&controls));
-    for (const HWND control : controls) {
+    for (const HWND control : WindowsWithin(parent)) {
         if (GetAncestor(control, GA_PARENT) != parent)
             continue; // a part of a control
         RECT place;

@@ -32,4 +32,19 @@ void CentreOnScreen(HWND window, SIZE outer) {
                  width, height, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+namespace {
+
+BOOL CALLBACK Add(HWND within, LPARAM list) {
+    reinterpret_cast<std::vector<HWND>*>(list)->push_back(within);
+    return TRUE;
+}
+
+} // namespace
+
+std::vector<HWND> WindowsWithin(HWND window) {
+    std::vector<HWND> windows;
+    EnumChildWindows(window, Add, reinterpret_cast<LPARAM>(&windows));
+    return windows;
+}
+
 } // namespace obrin

@@ -3,6 +3,8 @@
 
 #include "platform/WindowsApi.h"
 
+#include <vector>
+
 namespace obrin {
 
 /// A visible control without a size. Throws RunTimeError.
@@ -18,5 +20,8 @@ WNDPROC PutBefore(HWND control, WNDPROC procedure);
 /// Gives a window its size in pixels, frame included, or as much of it as fits, in the middle of the screen
 /// that Windows chose for it.
 void CentreOnScreen(HWND window, SIZE outer);
+
+/// All windows within a window, also those within others of them. To go from each to the next takes longer.
+std::vector<HWND> WindowsWithin(HWND window);
 
 } // namespace obrin

@@ -5,6 +5,7 @@
 #include "platform/Failure.h"
 #include "platform/File.h"
 #include "platform/Theme.h"
+#include "platform/Window.h"
 #include "platform/Workstation.h"
 #include "resources/Ids.h"
 #include "settings/Margins.h"
@@ -137,11 +138,7 @@ void Form2::CreatePages() {
     }
     LayPages();
 
-    const auto add = [](HWND item, LPARAM list) -> BOOL {
-        reinterpret_cast<std::vector<HWND>*>(list)->push_back(item);
-        return TRUE;
-    };
-    EnumChildWindows(window, add, reinterpret_cast<LPARAM>(&items));
+    items = WindowsWithin(window);
     cmbOrientation = Item(IDC_CMB_ORIENTATION);
     for (const char* item : {"Portrait", "Landscape"})
         SendMessageA(cmbOrientation, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item));
