@@ -3,6 +3,7 @@
 #include "common/Lines.h"
 #include "platform/File.h"
 #include "platform/Folder.h"
+#include "platform/Machine.h"
 #include "platform/Workstation.h"
 #include "resources/Ids.h"
 #include "startup/UserRecords.h"
@@ -77,10 +78,8 @@ std::string TextOf(HWND window) {
 
 Installation::Installation(int wsid) {
     RegDeleteKeyValueA(HKEY_LOCAL_MACHINE, "Software\\Obrin", "LastSystem");
-    std::array<char, MAX_PATH> tests{};
-    GetModuleFileNameA(nullptr, tests.data(), tests.size());
     for (const char* program : {"ObrinMenu.exe", "Corvel.dll", "Fenn.exe"})
-        std::filesystem::copy_file(std::filesystem::path(tests.data()).replace_filename(program), program);
+        std::filesystem::copy_file(OwnProgram().replace_filename(program), program);
     CreateFolder("Core");
     CreateFolder("Local");
     WriteFileBytes("FennConfig.Sys", "Drive S,C:\\OLD,X,\\\r\nFiles 120\r\n");

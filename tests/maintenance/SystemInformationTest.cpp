@@ -4,22 +4,15 @@
 #include "platform/Dialog.h"
 #include "platform/File.h"
 #include "platform/FileReplacement.h"
+#include "platform/Machine.h"
 #include "platform/ModalTest.h"
 #include "platform/ScratchFolder.h"
 #include "platform/Workstation.h"
-
-#include <array>
 
 namespace obrin {
 namespace {
 
 constexpr const char* reportVariable = "OBRIN_TEST_TOOL_REPORT";
-
-std::string OwnProgram() {
-    std::array<char, MAX_PATH> path{};
-    GetModuleFileNameA(nullptr, path.data(), path.size());
-    return path.data();
-}
 
 // The tool that is started is this program once more: it reports its name and its window's state, and ends
 // before any test runs.
@@ -30,7 +23,7 @@ const bool startedAsTool = [] {
     STARTUPINFOA window;
     GetStartupInfoA(&window);
     const bool normal = (window.dwFlags & STARTF_USESHOWWINDOW) != 0 && window.wShowWindow == SW_SHOWNORMAL;
-    ReplaceFileBytes(report, OwnProgram() + (normal ? " normal" : " otherwise"));
+    ReplaceFileBytes(report, test::OwnProgram().string() + (normal ? " normal" : " otherwise"));
     ExitProcess(0);
 }();
 
@@ -59,10 +52,11 @@ protected:
 TEST_F(SystemInfo, StartsWhatThePathNamesAndOnlyWithoutAPathTheToolInItsFolder) {
     const std::string here = folder.path.string() + "\\";
     const std::string unavailable = "ObrinMenu: System Information Is Unavailable At This Time";
-    CopyFileA(OwnProgram().c_str(), "Tool One.exe", FALSE);
-    CopyFileA(OwnProgram().c_str(), "Tool.exe", FALSE); // not meant, whatever the blank suggests
+    CopyFileA(test::OwnProgram().string().c_str(), "Tool One.exe", FALSE);
+    CopyFileA(test::OwnProgram().string().c_str(), "Tool.exe",
+              FALSE); // not meant, whatever the blank suggests
     CreateDirectoryA("Tools", nullptr);
-    CopyFileA(OwnProgram().c_str(), "Tools\\MSINFO32.EXE", FALSE);
+    CopyFileA(test::OwnProgram().string().c_str(), "Tools\\MSINFO32.EXE", FALSE);
     CreateDirectoryA("MSINFO32.EXE", nullptr);
     const std::string longer(1025, 'x'); // than is read: as if it were missing
     struct {

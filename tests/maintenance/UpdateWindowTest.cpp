@@ -59,6 +59,7 @@ private:
 };
 
 TEST_F(UpdateWindow, CopiesOnceAndAgainOnEveryResizeAndEntersTheWorkstation) {
+    WriteFileBytes("Local\\Glass.exe", "old version");
     Update(5, [](HWND window, std::size_t shown) {
         EXPECT_TRUE(IsWindowVisible(window));
         EXPECT_EQ(IsWindowVisible(GetDlgItem(window, IDOK)) != FALSE, shown > 6) << "once all are copied";

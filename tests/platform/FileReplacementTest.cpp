@@ -3,10 +3,9 @@
 #include "common/RunTimeError.h"
 #include "platform/File.h"
 #include "platform/Folder.h"
+#include "platform/Machine.h"
 #include "platform/ScratchFolder.h"
 #include "platform/Workstation.h"
-#include "settings/SettingsStore.h"
-#include "startup/StartUp.h"
 
 #include <gtest/gtest.h>
 
@@ -89,56 +88,33 @@ TEST(FileReplacement, WritesInPlaceWhatOthersHoldAndLeavesAloneWhatTheyLetNobody
 }
 
 constexpr const char* killedVariable = "OBRIN_TEST_KILLED";
-constexpr const char* configuration = "FennConfig.Sys";
-constexpr const char* settingsFile = "Ini\\UB.ini";
+const std::array<std::string, 2> states{std::string(100, 'a'), std::string(1 << 20, 'b')};
 
-std::string LongText() {
-    return std::string(1 << 20, 'x');
-}
-
-SettingValues LongSettings(const std::string& text) {
-    SettingValues values;
-    values.back() = text;
-    return values;
-}
-
-// The program that is killed is this one once more: it writes the file that it is told again and again, and
-// runs no test.
+// The program that is killed is this one once more: it writes the file again and again, and runs no test.
 const bool startedToBeKilled = [] {
-    const std::string file = EnvironmentVariable(killedVariable);
-    while (file == configuration) {
-        ReplaceFileBytes(configuration, LongText());
-        Main({.windowClass = "ObrinTest.NoMenu", .caption = "ObrinTest", .show = [] {}});
-    }
-    while (file == settingsFile) {
-        SaveSystemSettings(settingsFile, LongSettings(LongText()));
-        SaveSystemSettings(settingsFile, LongSettings(""));
+    while (!EnvironmentVariable(killedVariable).empty()) {
+        for (const std::string& state : states)
+            ReplaceFileBytes("f", state);
     }
     return false;
 }();
 
-FILETIME LastWrite(const char* file) {
-    WIN32_FILE_ATTRIBUTE_DATA data{};
-    GetFileAttributesExA(file, GetFileExInfoStandard, &data);
-    return data.ftLastWriteTime;
-}
-
-// Starts this program and ends it the given time behind the first change of the file.
-void KillWriterOf(const char* file, DWORD milliseconds) {
-    std::array<char, MAX_PATH> program{};
-    GetModuleFileNameA(nullptr, program.data(), program.size());
-    SetEnvironmentVariableA(killedVariable, file);
+// Starts this program and ends it the given time behind the first change of the file from the first state.
+void KillWriter(DWORD milliseconds) {
+    SetEnvironmentVariableA(killedVariable, "yes");
     STARTUPINFOA startup{};
     startup.cb = sizeof startup;
     PROCESS_INFORMATION process{};
-    const FILETIME before = LastWrite(file);
-    ASSERT_TRUE(CreateProcessA(program.data(), nullptr, nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                               &startup, &process));
+    ASSERT_TRUE(CreateProcessA(test::OwnProgram().string().c_str(), nullptr, nullptr, nullptr, FALSE, 0,
+                               nullptr, nullptr, &startup, &process));
     const UniqueFile thread(process.hThread), writer(process.hProcess);
     SetEnvironmentVariableA(killedVariable, nullptr);
     const ULONGLONG deadline = GetTickCount64() + 10'000;
-    for (FILETIME now = before; CompareFileTime(&now, &before) == 0; now = LastWrite(file))
+    WIN32_FILE_ATTRIBUTE_DATA now{};
+    do {
         ASSERT_LT(GetTickCount64(), deadline);
+        GetFileAttributesExA("f", GetFileExInfoStandard, &now);
+    } while (now.nFileSizeLow == states[0].size());
     if (milliseconds != 0)
         Sleep(milliseconds);
     TerminateProcess(writer.get(), 1);
@@ -147,39 +123,29 @@ void KillWriterOf(const char* file, DWORD milliseconds) {
 
 TEST(FileReplacement, KilledAtAnyMomentKeepsTheOldOrTheNewContents) {
     const test::ScratchFolder folder;
-    CreateFolder("Core");
-    CreateFolder("Ini");
-    const std::string drive = "Drive S," + ShortPath(CurrentFolder()) + ",X,\\\r\n" + LongText() + "\r\n";
-    const std::pair<const char*, Names> cases[] = {
-        {configuration, {LongText(), drive}},
-        {settingsFile, {FormatSettings(LongSettings("")), FormatSettings(LongSettings(LongText()))}}};
-    for (const auto& [file, states] : cases) {
-        const auto isWhole = [&states = states](const std::string& path) {
-            return std::ranges::count(states, ReadFileBytes(path)) != 0;
-        };
-        const std::string place = file == configuration ? "" : "Ini\\";
-        int besideHeld = 0;
-        for (DWORD kill = 0; kill < 8; ++kill) {
-            const bool held = kill % 2 != 0;
-            WriteFileBytes(file, states[0]);
-            {
-                const UniqueFile holder = held ? Hold(file, FILE_SHARE_READ | FILE_SHARE_WRITE) : nullptr;
-                KillWriterOf(file, held ? 0 : kill / 2);
-            }
-            bool kept = isWhole(file);
-            EXPECT_TRUE(kept || held) << file;
-            for (const std::string& name : ListNormalFiles(place + ".")) {
-                if (!name.ends_with(".tmp"))
-                    continue;
-                const bool whole = isWhole(place + name);
-                kept = kept || whole;
-                besideHeld += held && whole;
-                DeleteFileA((place + name).c_str());
-            }
-            EXPECT_TRUE(kept) << file << " and what lies beside it";
+    const auto isWhole = [](const std::string& path) {
+        return std::ranges::count(states, ReadFileBytes(path)) != 0;
+    };
+    int besideHeld = 0;
+    for (DWORD kill = 0; kill < 8; ++kill) {
+        const bool held = kill % 2 != 0;
+        WriteFileBytes("f", states[0]);
+        {
+            const UniqueFile holder = held ? Hold("f", FILE_SHARE_READ | FILE_SHARE_WRITE) : nullptr;
+            KillWriter(held ? 0 : kill / 2);
         }
-        EXPECT_GT(besideHeld, 0) << "complete beside " << file << " while that is written";
+        bool kept = isWhole("f");
+        EXPECT_TRUE(kept || held);
+        DeleteFileA("f");
+        for (const std::string& name : ListNormalFiles(".")) {
+            const bool whole = isWhole(name);
+            kept = kept || whole;
+            besideHeld += held && whole;
+            DeleteFileA(name.c_str());
+        }
+        EXPECT_TRUE(kept) << "the file or what lies beside it";
     }
+    EXPECT_GT(besideHeld, 0) << "complete beside the file while that is written";
 }
 
 } // namespace

@@ -3,11 +3,15 @@
 
 #include "platform/WindowsApi.h"
 
+#include <filesystem>
+
 namespace obrin::test {
 
-/// Not Windows itself.
-inline bool OnWine() {
-    return GetProcAddress(GetModuleHandleA("ntdll.dll"), "wine_get_version") != nullptr;
+/// The program of these tests; those that are tested lie beside it.
+inline std::filesystem::path OwnProgram() {
+    char path[MAX_PATH] = "";
+    GetModuleFileNameA(nullptr, path, sizeof path);
+    return path;
 }
 
 /// Whether this user may write the launcher's key of the machine; on Windows administrators only.

@@ -11,7 +11,11 @@ namespace obrin::test {
 
 class ModalTest : public testing::Test {
 protected:
-    ModalTest() { current = this; }
+    ModalTest() {
+        current = this;
+        const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_WIN95_CLASSES};
+        InitCommonControlsEx(&controls);
+    }
     ~ModalTest() override { DestroyWindow(owner); }
 
     /// Calls `show`, and until it returns, again and again `act` with the modal window on top of the owner.

@@ -16,11 +16,7 @@ constexpr const char* key = "Core\\Programs\\CSBackup";
 
 class Properties : public test::ModalTest {
 protected:
-    Properties() {
-        SetEnvironmentVariableA("TesselTemp", folder.path.string().c_str());
-        const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_WIN95_CLASSES};
-        InitCommonControlsEx(&controls);
-    }
+    Properties() { SetEnvironmentVariableA("TesselTemp", folder.path.string().c_str()); }
 
     // Opens the dialog on a page, plays, and cancels it if it is still open.
     void Open(int page, const std::function<void()>& play) {
