@@ -132,38 +132,16 @@ TEST(MenuWindowHere, IsTheSameOnEveryScreenAndForEveryReader) {
     const auto font = reinterpret_cast<HFONT>(SendMessageA(control(IDC_LABEL1), WM_GETFONT, 0, 0));
     EXPECT_EQ(title.right - title.left, MeasureText(font, "Water & Waste").cx) << "as in the frame's caption";
     SendMessageA(window, WM_DPICHANGED, MAKEWPARAM(144, 144), reinterpret_cast<LPARAM>(&title));
-    struct {
-        HWND control;
-        const char* face;
-        LONG height; // from the letters' top to their bottom
-    } const fonts[] = {{control(IDC_LABEL1), "Comic Sans MS", 36},
-                       {control(IDC_LABEL4), "Georgia", 20},
-                       {link, "Georgia", 20},
-                       {button, "MS Sans Serif", 16}};
-    for (const auto& [lettered, face, height] : fonts) {
+    std::string fonts; // with the height from the letters' top to their bottom
+    for (const HWND lettered : {control(IDC_LABEL1), control(IDC_LABEL4), link, button}) {
         LOGFONTA shape{};
         GetObjectA(reinterpret_cast<HFONT>(SendMessageA(lettered, WM_GETFONT, 0, 0)), sizeof shape, &shape);
-        EXPECT_STREQ(shape.lfFaceName, face);
-        EXPECT_EQ(shape.lfHeight, -height) << face;
+        fonts += shape.lfFaceName + std::to_string(shape.lfHeight) + " ";
     }
+    EXPECT_EQ(fonts, "Comic Sans MS-36 Georgia-20 Georgia-20 MS Sans Serif-16 ");
 
-    struct {
-        HWND control;
-        const char* name;
-        LONG role;
-    } const announced[] = {
-        {tree, "Water && Waste", ROLE_SYSTEM_OUTLINE},
-        {button, "&Run Program", ROLE_SYSTEM_PUSHBUTTON},
-        {link, "E-Mail us!", ROLE_SYSTEM_LINK},
-    };
-    for (const auto& [asked, name, role] : announced) {
-        const auto [heardName, heardRole] = Announced(asked);
-        EXPECT_TRUE(heardName == name || std::string(name).find('&') != std::string::npos) << heardName;
-        EXPECT_NE(heardName, "");
-        // This platform may not know the kind of control.
-        EXPECT_TRUE(heardRole == role || (heardRole == ROLE_SYSTEM_CLIENT && asked != link))
-            << name << " is " << heardRole;
-    }
+    EXPECT_EQ(Announced(link), (std::pair<std::string, LONG>("E-Mail us!", ROLE_SYSTEM_LINK)));
+    EXPECT_NE(Announced(tree).first, "") << "though its text is shown nowhere";
     EXPECT_EQ(GetNextDlgTabItem(window, button, FALSE), link);
     EXPECT_EQ(GetNextDlgTabItem(window, link, FALSE), tree);
     SetFocus(button);
