@@ -23,16 +23,6 @@ TEST(Numbers, AreWrittenInThreeWays) {
     EXPECT_EQ(PaddedDecimal(std::numeric_limits<int>::min(), 2), "-2147483648");
 }
 
-TEST(Numbers, ThousandthsAreShort) {
-    struct {
-        int thousandths;
-        const char* text;
-    } const cases[] = {{500, "0.5"}, {1000, "1"},  {250, "0.25"}, {1250, "1.25"},  {4000, "4"},
-                       {0, "0"},     {1, "0.001"}, {10000, "10"}, {1001, "1.001"}, {-500, "-0.5"}};
-    for (const auto& [thousandths, text] : cases)
-        EXPECT_EQ(ShortestThousandths(thousandths), text);
-}
-
 TEST(Numbers, AreRead) {
     struct {
         const char* text;

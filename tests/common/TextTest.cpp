@@ -62,16 +62,6 @@ TEST(Bytes, AreFoundInBlocksAndBehindThem) {
     EXPECT_EQ(FindUnusualByte(blocks + " ~\x7F^"), std::string::npos);
 }
 
-TEST(LineReader, TellsPlainLinesAndTheirMark) {
-    LineReader reader("a^b^\r\nab\r\n\xE4^\r\na^\tb\r\n^", '^');
-    for (const auto& [plain, mark] :
-         {std::pair{true, std::size_t{1}}, {true, std::string::npos}, {false, 0U}, {false, 0U}, {true, 0U}}) {
-        ASSERT_TRUE(reader.Next());
-        EXPECT_EQ(reader.IsPlain(), plain);
-        EXPECT_TRUE(!plain || reader.MarkOfPlainLine() == mark);
-    }
-}
-
 TEST(LineReader, EndsLinesAtCarriageReturnsOnly) {
     const std::pair<std::string, std::vector<std::string>> cases[] = {
         {"", {}},

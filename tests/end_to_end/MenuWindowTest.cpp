@@ -34,39 +34,31 @@ struct MenuWindow : testing::Test {
     const HWND menu = launcher.Menu();
 };
 
-// How the lower right corners of two places are apart.
-std::string Distance(const RECT& outer, const RECT& inner) {
-    return " " + std::to_string(outer.right - inner.right) + "," +
-           std::to_string(outer.bottom - inner.bottom);
-}
-
 TEST_F(MenuWindow, KeepsItsMarginsAtEverySize) {
-    const auto margins = [this] {
-        const RECT link = Place(Control(IDC_LABEL5));
-        const RECT frame = Place(Control(IDC_FRAME1));
-        RECT inner;
-        GetClientRect(menu, &inner);
-        std::string text = Distance(Place(menu), frame) + Distance(frame, Place(launcher.Tree())) +
-                           Distance(inner, link) + Distance(link, Place(Control(IDC_LABEL4)));
-        // From the front: the link, the label beside it, the frame.
-        HWND control = GetWindow(menu, GW_CHILD);
-        for (const int id : {IDC_LABEL5, IDC_LABEL4, IDC_FRAME1}) {
-            text += control == Control(id) ? " in front" : " behind";
-            control = GetWindow(control, GW_HWNDNEXT);
+    const auto margins = [this] { // from the lower right corner
+        std::vector<LONG> distances;
+        for (const HWND kept :
+             {Control(IDC_FRAME1), launcher.Tree(), Control(IDC_LABEL4), Control(IDC_LABEL5)}) {
+            distances.push_back(Place(menu).right - Place(kept).right);
+            distances.push_back(Place(menu).bottom - Place(kept).bottom);
         }
-        return text;
+        return distances;
     };
-    const std::string designed = margins();
+    const std::vector<LONG> designed = margins();
     RECT inside;
     GetClientRect(menu, &inside);
     EXPECT_EQ(inside.bottom, ToPixels(design::inner.height, GetDpiForWindow(menu))) << "with a menu bar";
-    EXPECT_TRUE(designed.ends_with(" in front in front in front")) << designed;
     for (const SIZE size : {SIZE{1200, 900}, {1, 1}, {760, 560}}) {
         for (const int id : {IDC_FRAME1, IDC_LABEL5})
             SetWindowPos(Control(id), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
         SetWindowPos(menu, nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
         if (size.cx > 1) {
             EXPECT_EQ(margins(), designed);
+        }
+        HWND next = GetWindow(menu, GW_CHILD);
+        for (const int id : {IDC_LABEL5, IDC_LABEL4, IDC_FRAME1}) { // from the front
+            EXPECT_EQ(GetDlgCtrlID(next), id);
+            next = GetWindow(next, GW_HWNDNEXT);
         }
     }
     PostMessageA(menu, WM_COMMAND, ID_ABOUT, 0);

@@ -63,10 +63,7 @@ TEST(MenuDefinition, IsRefusedWithFileAndLine) {
     const std::pair<std::string, std::string> cases[] = {
         {"", "1: the file has no header line"},
         {"T\r\nA\r\n>>B^K", "3: " + level},
-        {"T\r\nA\r\n>>>B", "3: " + level},
-        {"T\r\nA\r\n>B\r\nC\r\n>>D^K", "5: " + level},
         {"T\r\n>A^K", "2: " + level},
-        {"T\r\nA^K\r\nB\r\n>C^K", "4: the key K is there already"},
         {again, "32768: the key K0 is there already"},
         {"T\r\nA^123", "2: the key 123 is a number"},
         {most + "A", "32769: more entries than a menu can count"},
