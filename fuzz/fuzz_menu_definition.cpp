@@ -1,12 +1,18 @@
 #include "Fuzz.h"
 
+#include "checker/MenuCheck.h"
 #include "common/RunTimeError.h"
 #include "menu/MenuDefinition.h"
 
+#include <algorithm>
+#include <optional>
+
 namespace {
 
-// What a file holds, checked; nothing of one that is refused.
-obrin::MenuDefinition Definition(std::string_view file, obrin::LeadByteTest isLeadByte) {
+using Definition = std::optional<obrin::MenuDefinition>;
+
+// What a file holds, checked; none of one that is refused.
+Definition Parse(std::string_view file, obrin::LeadByteTest isLeadByte) {
     try {
         auto definition = obrin::ParseMenuDefinition(std::string(file), "UB.mnu", isLeadByte);
         const auto& entries = definition.entries;
@@ -22,24 +28,47 @@ obrin::MenuDefinition Definition(std::string_view file, obrin::LeadByteTest isLe
     }
 }
 
+// Parts that grow, each time in other memory.
+obrin::MoreText InParts(std::string_view text, std::size_t size) {
+    return [=, memory = std::string()](std::string_view rest) mutable {
+        const auto part = text.substr(0, std::max(size, rest.size()));
+        text.remove_prefix(part.size());
+        memory = std::string(rest).append(part);
+        return std::string_view(memory);
+    };
+}
+
+// The same of a file in parts; no error, and the menu takes the file.
+void Check(std::string_view file, obrin::LeadByteTest isLeadByte, const Definition& definition) {
+    const obrin::CodePage codePage{.isLeadByte = isLeadByte};
+    const obrin::MenuWishes wishes{.keys = true, .tree = true};
+    const auto check = obrin::CheckMenuFile(file, codePage, wishes);
+    const auto inParts = obrin::CheckMenuFile(InParts(file, 1 + file.size() % 7), codePage, wishes);
+    const std::string report = obrin::Report(check.findings);
+    Require(obrin::Report(inParts.findings) == report);
+    Require(inParts.tree == check.tree && inParts.keys == check.keys);
+    Require(definition.has_value() != obrin::HasErrors(check.findings));
+    // A line each, whatever stands in the file.
+    Require(static_cast<std::size_t>(std::ranges::count(report, '\n')) == check.findings.size());
+}
+
 } // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     std::string file(Text(data, size));
-    Definition(file, nullptr);
-    const auto definition = Definition(file, IsLeadByte);
-    const auto& entries = definition.entries;
+    Check(file, nullptr, Parse(file, nullptr));
+    const Definition definition = Parse(file, IsLeadByte);
+    Check(file, IsLeadByte, definition);
     // Second bytes that look like marks are none: the tree is that of any others.
     for (std::size_t i = 0; i + 1 < file.size(); ++i) {
         if (IsLeadByte(file[i]) && (file[++i] == '^' || file[i] == '\\'))
             file[i] = '~';
     }
-    const auto plainDefinition = Definition(file, nullptr);
-    const auto& plain = plainDefinition.entries;
-    Require(plain.empty() || plain.size() == entries.size()); // keys may have become equal
-    for (std::size_t i = 0; i < plain.size(); ++i) {
-        Require(plain[i].text.size() == entries[i].text.size());
-        Require(plain[i].parent == entries[i].parent);
-    }
+    const Definition plain = Parse(file, nullptr);
+    if (!plain) // keys may have become equal
+        return 0;
+    Require(definition && std::ranges::equal(plain->entries, definition->entries, [](auto& a, auto& b) {
+                return a.text.size() == b.text.size() && a.parent == b.parent;
+            }));
     return 0;
 }

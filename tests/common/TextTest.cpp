@@ -13,12 +13,6 @@ namespace obrin {
 
 constexpr auto npos = std::string::npos;
 
-TEST(Text, BlanksAreSpacesOnly) {
-    EXPECT_EQ(TrimBlanks("  a b  "), "a b");
-    EXPECT_EQ(TrimBlanks("   "), "");
-    EXPECT_EQ(TrimBlanks("\ta\t"), "\ta\t");
-}
-
 // 81 is a lead byte: of a character, of one that looks like "\" in the middle, of none at the end.
 TEST(Text, CharactersAreFoundAmongThoseOfTwoBytes) {
     constexpr LeadByteTest lead = [](char byte) { return byte == '\x81'; };

@@ -1,10 +1,7 @@
-#include "common/RunTimeError.h"
 #include "maintenance/LocalMachine.h"
-#include "platform/File.h"
 #include "platform/GroupBox.h"
+#include "platform/Handle.h"
 #include "platform/Machine.h"
-#include "platform/Picture.h"
-#include "platform/ScratchFolder.h"
 #include "platform/SupportLibrary.h"
 #include "platform/Workstation.h"
 
@@ -77,19 +74,6 @@ TEST(Images, AreForWindows10TakeNothingFromTheirOwnFolderAndSayWhatTheyAre) {
         }
         EXPECT_EQ(texts, std::string(description) + "|" + name +
                              "|Obrin Core System|" OBRIN_PROJECT_VERSION "|" OBRIN_PROJECT_VERSION "|");
-    }
-}
-
-TEST(Picture, IsScaledWithTheScreen) {
-    const test::ScratchFolder folder;
-    const std::string bmp = test::Bmp(4, 1);
-    WriteFileBytes("p.bmp", bmp);
-    const SIZE scaled = PictureSize(ScalePicture(LoadPicture("p.bmp").get(), 192).get());
-    EXPECT_EQ(scaled.cx, 8);
-    EXPECT_EQ(scaled.cy, 2);
-    for (const std::string& bad : {std::string(), bmp.substr(0, 20), std::string(100, '\0')}) {
-        WriteFileBytes("p.bmp", bad);
-        EXPECT_THROW(LoadPicture("p.bmp"), RunTimeError);
     }
 }
 

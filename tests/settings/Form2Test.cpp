@@ -202,14 +202,12 @@ TEST_F(Properties, MarginsAreTypedKeyByKeyAndStayUnlessTheSliderHasTheirValue) {
         std::string typed, states, left;
         int slider;
     } const cases[] = {
-        {"1.25", "1| 1.| 1.2| 1.25| ", "1.25", 1250},
         {"0.500", "0| 0.| 0.5| 0.50| 0.500| ", "0.5", 500},
         {".75", ".| 0.7| 0.75| ", "0.75", 750},
         {"01.5", "0| 1| 1.| 1.5| ", "1.5", 1500},
         {"7.5", "4| 4.| 4.5| ", "4.5", 4000},
         {"2.0501", "2| 2.| 2.0| 2.05| 2.050| 2.0501| ", "2.0501", 2050},
         {"0.1", "0| 0.| 0.1| ", "0.1", 2050}, // below the smallest margin
-        {"x1", "x| x1| ", "x1", 2050},
     };
     Open(2, [&] {
         for (const auto& [typed, states, left, slider] : cases) {
