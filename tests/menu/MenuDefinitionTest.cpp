@@ -41,7 +41,7 @@ TEST(MenuDefinition, LinesBecomeNodes) {
         {"A\r\n\r\n>B^K\r\n", "A||0 ||0 B|K|2 "},
         {"A\r\n>B\r\nC\r\n>D\r\n>>E^K\r\n", "A||0 B||1 C||0 D||3 E|K|4 "},
         {"A^k\r\nB^K", "A|k|0 B|K|0 "},
-        {"A\nB\rC", "A\nB||0 C||0 "},
+        {"A\nB\rC\r\n\nD\r\rE", "A\nB||0 C||0 \nD||0 ||0 E||0 "},
         {"\x81^\r\n>\x81^^UB\\\x81\x5C^x", "\x81^||0 \x81^|UB\\\x81\x5C|1 "},
     };
     for (const auto& [lines, expected] : cases) {

@@ -28,7 +28,7 @@ protected:
 
     void ForEachDialog(const std::function<void(HWND)>& act) {
         const std::function<void()> shows[] = {
-            [this] { Form2(corvel, key).Show(owner); },
+            [this] { Form2(corvel, "UB").Show(owner); },
             [this] { frmAbout().Show(owner); },
             [this] { frmUpdate().Show(owner); },
             [this] { InputBox(owner, "A question?", "A title"); },
@@ -47,7 +47,6 @@ protected:
     const test::ScratchFolder folder;
     const test::LocalMachine machine;
     const SupportLibrary corvel;
-    const std::string key = "Core\\Programs\\CSBackup";
 };
 
 TEST_F(EveryWindow, ComesBackFromOtherScreensAsItWas) {
