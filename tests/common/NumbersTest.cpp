@@ -6,23 +6,6 @@
 
 namespace obrin {
 
-TEST(Numbers, AreWrittenInThreeWays) {
-    struct {
-        int number;
-        const char *withSign, *plain, *twoDigits, *threeDigits;
-    } const cases[] = {
-        {5, " 5", "5", "05", "005"}, {42, " 42", "42", "42", "042"},  {99, " 99", "99", "99", "099"},
-        {0, " 0", "0", "00", "000"}, {-7, "-7", "-7", "-07", "-007"}, {1234, " 1234", "1234", "1234", "1234"},
-    };
-    for (const auto& [number, withSign, plain, twoDigits, threeDigits] : cases) {
-        EXPECT_EQ(SignedDecimal(number), withSign);
-        EXPECT_EQ(PlainDecimal(number), plain);
-        EXPECT_EQ(PaddedDecimal(number, 2), twoDigits);
-        EXPECT_EQ(PaddedDecimal(number, 3), threeDigits);
-    }
-    EXPECT_EQ(PaddedDecimal(std::numeric_limits<int>::min(), 2), "-2147483648");
-}
-
 TEST(Numbers, AreRead) {
     struct {
         const char* text;

@@ -5,7 +5,7 @@
 namespace obrin {
 
 TEST(UpdateRegister, FindsTheKeyOrThePlaceForIt) {
-    EXPECT_EQ(UpdateKey(5), "005");
+    EXPECT_EQ(UpdateKey(5) + UpdateKey(42) + UpdateKey(-7), "005042-00");
     EXPECT_EQ(UpdateKey(1234), "123") << "never longer than a record";
     struct {
         const char *bytes, *key;

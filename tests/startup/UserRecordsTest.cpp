@@ -9,6 +9,11 @@ TEST(UserRecords, HaveTheirFieldsAtFixedPlaces) {
     EXPECT_EQ(UserWsidRecord(std::string(120, 'n'), 300).substr(99, 4), std::string("n\x2C\x01\0", 4));
 }
 
+TEST(UserRecords, NumbersNameTheMarkerFile) {
+    EXPECT_EQ(MarkerFileName(42), "Menu 42.txt");
+    EXPECT_EQ(MarkerFileName(-7), "Menu-7.txt");
+}
+
 TEST(UserRecords, ScanCountsRecordsAndLetsTheLastMatchWin) {
     const std::string anna = UserWsidRecord("anna", 3);
     const std::string other = UserWsidRecord("Anna", 4);
