@@ -8,6 +8,7 @@
 #include "platform/Events.h"
 #include "platform/File.h"
 #include "platform/Font.h"
+#include "platform/Window.h"
 #include "platform/WindowChecks.h"
 #include "resources/Ids.h"
 
@@ -118,7 +119,14 @@ TEST(MenuWindowHere, IsTheSameOnEveryScreenAndForEveryReader) {
     SetWindowPos(window, nullptr, 0, 0, 600, 450, SWP_NOZORDER); // twice as large it still has the room
     IsTheSameAfterOtherScreens(window);
 
-    RECT title;
+    const LRESULT messageFont = SendMessageA(tree, WM_GETFONT, 0, 0);
+    SendMessageA(window, WM_SETTINGCHANGE, 0, 0);
+    EXPECT_NE(SendMessageA(tree, WM_GETFONT, 0, 0), messageFont) << "the user's may be another one now";
+    CentreOnScreen(window, {30'000, 30'000});
+    RECT work, title;
+    GetWindowRect(window, &title);
+    SystemParametersInfoA(SPI_GETWORKAREA, 0, &work, 0);
+    EXPECT_TRUE(EqualRect(&title, &work)) << "no larger than a small screen";
     GetWindowRect(control(IDC_LABEL1), &title);
     const auto font = reinterpret_cast<HFONT>(SendMessageA(control(IDC_LABEL1), WM_GETFONT, 0, 0));
     EXPECT_EQ(title.right - title.left, MeasureText(font, "Water & Waste").cx) << "as in the frame's caption";
@@ -132,6 +140,7 @@ TEST(MenuWindowHere, IsTheSameOnEveryScreenAndForEveryReader) {
     EXPECT_EQ(fonts, "Comic Sans MS-36 Georgia-20 Georgia-20 MS Sans Serif-16 ");
 
     EXPECT_EQ(Announced(link), (std::pair<std::string, LONG>("E-Mail us!", ROLE_SYSTEM_LINK)));
+    EXPECT_EQ(GetFocus(), link) << "as the reader asked";
     EXPECT_NE(Announced(tree).first, "") << "though its text is shown nowhere";
     EXPECT_EQ(GetNextDlgTabItem(window, button, FALSE), link);
     EXPECT_EQ(GetNextDlgTabItem(window, link, FALSE), tree);
@@ -141,8 +150,10 @@ TEST(MenuWindowHere, IsTheSameOnEveryScreenAndForEveryReader) {
     EXPECT_EQ(GetFocus(), button) << "back from another window";
     int clicks = 0;
     SetWindowSubclass(window, CountLinkClicks, 0, reinterpret_cast<DWORD_PTR>(&clicks));
-    for (const WPARAM key : {WPARAM{VK_RETURN}, WPARAM{VK_SPACE}, WPARAM{VK_DOWN}})
+    for (const WPARAM key : {WPARAM{VK_RETURN}, WPARAM{VK_SPACE}, WPARAM{VK_DOWN}}) {
         SendMessageA(link, WM_KEYDOWN, key, 0);
+        SendMessageA(link, WM_KEYDOWN, key, LPARAM{KF_REPEAT} << 16); // held
+    }
     EXPECT_EQ(clicks, 2);
     MSG enter{link, WM_KEYDOWN, VK_RETURN, 0, 0, {}};
     EXPECT_TRUE(SendMessageA(link, WM_GETDLGCODE, VK_RETURN, reinterpret_cast<LPARAM>(&enter)) &

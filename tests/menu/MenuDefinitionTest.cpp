@@ -36,7 +36,7 @@ TEST(MenuDefinition, LinesBecomeNodes) {
         {"A\r\nTop^K1\r\n>B^K2\r\n", "A||0 Top|K1|0 B|K2|1 "}, // programs are no parents
         {"A>B^K>1>\r\n", "AB|K1|0 "},
         {"A>B\r\n>C>D\r\n", "A>B||0 C>D||1 "}, // headings keep inner marks
-        {"A^K^x^y\r\n", "A|K|0 "},
+        {"A>B^K^x^y\r\n", "AB|K|0 "},
         {"A^\r\nB^\r\n^\r\n", "A||0 B||0 ||0 "}, // missing keys may repeat
         {"A\r\n\r\n>B^K\r\n", "A||0 ||0 B|K|2 "},
         {"A\r\n>B\r\nC\r\n>D\r\n>>E^K\r\n", "A||0 B||1 C||0 D||3 E|K|4 "},

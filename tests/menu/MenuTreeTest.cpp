@@ -25,11 +25,12 @@ std::string Shape(const MenuTree& tree, HTREEITEM item) {
     return shape;
 }
 
-TEST(MenuTree, HasTheEntriesInTheirOrderAndCollapsed) {
-    const HWND window = CreateWindowExA(0, WC_TREEVIEWA, "", WS_POPUP | TVS_HASLINES, 0, 0, 200, 200, nullptr,
-                                        nullptr, nullptr, nullptr);
+TEST(MenuTree, HasTheEntriesInTheirOrderAndOffersThePopupOfOne) {
+    const HWND window = CreateWindowExA(WS_EX_TOPMOST, WC_TREEVIEWA, "", WS_POPUP | TVS_HASLINES, 0, 0, 200,
+                                        50, nullptr, nullptr, nullptr, nullptr);
     MenuTree tree;
-    tree.Attach(window, {});
+    std::vector<int> popUps;
+    tree.Attach(window, {.run = {}, .popUp = [&](int, int y) { popUps.push_back(y); }});
     for (int round = 0; round < 2; ++round) { // another system takes the place of the first
         tree.Clear();
         EXPECT_FALSE(tree.IsProgramNode());
@@ -40,6 +41,23 @@ TEST(MenuTree, HasTheEntriesInTheirOrderAndCollapsed) {
         EXPECT_EQ(TreeView_GetNextVisible(window, a), TreeView_GetNextSibling(window, a)) << "collapsed";
         EXPECT_EQ(Shape(tree, a), "a(b=K1 c(d=K2 )K3)e=K4 ") << "K3 has no text: not a program's";
     }
+    ShowWindow(window, SW_SHOWNOACTIVATE);
+    SendMessageA(window, WM_VSCROLL, SB_TOP, 0); // away from the last one, which is selected
+    SendMessageA(window, WM_CONTEXTMENU, 0, -1);
+    ASSERT_EQ(popUps.size(), 1U);
+    EXPECT_LE(popUps[0], 50) << "in sight";
+    SetCursorPos(20, 20);
+    for (const DWORD pause : {0U, GetDoubleClickTime() + 50U, 0U}) { // one too late for the click before
+        Sleep(pause);
+        MSG message;
+        while (PeekMessageA(&message, nullptr, WM_MOUSEFIRST, WM_MOUSELAST, PM_REMOVE))
+            continue; // the clicks that were put in get lost
+        PostMessageA(window, WM_APP, 0, 0);
+        PeekMessageA(&message, nullptr, WM_APP, WM_APP, PM_REMOVE); // whose time is now
+        EXPECT_EQ(popUps.size(), 1U) << pause;
+        SendMessageA(window, WM_RBUTTONDOWN, 0, 0);
+    }
+    EXPECT_EQ(popUps.size(), 2U);
     DestroyWindow(window);
 }
 

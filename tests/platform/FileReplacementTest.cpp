@@ -83,7 +83,7 @@ TEST(FileReplacement, WritesInPlaceWhatOthersHoldAndLeavesAloneWhatTheyLetNobody
         EXPECT_EQ(ReadFileBytes("f"), refusal == 0 ? "new" : old) << share;
         EXPECT_EQ(GetFileAttributesA("f") & FILE_ATTRIBUTE_HIDDEN, attributes & FILE_ATTRIBUTE_HIDDEN);
         SetFileAttributesA("f", FILE_ATTRIBUTE_NORMAL);
-        EXPECT_EQ(ListNormalFiles("."), Names{"f"}) << "nothing beside it";
+        EXPECT_EQ(ListFolder(".").size(), 4U) << "nothing beside it, d and the folders";
     }
 }
 

@@ -19,6 +19,12 @@ TEST(SupportLibrary, KeepsTextsInTheRegistry) {
     for (const std::string text : {"UB.mnu", "", "\xE4\xDC \x80"}) {
         corvel.SetRegValue(HKEY_LOCAL_MACHINE, key, "Text", text);
         EXPECT_EQ(corvel.GetRegValue(HKEY_LOCAL_MACHINE, key, "Text"), text);
+        HKEY opened = nullptr;
+        DWORD size = 0;
+        RegOpenKeyExA(HKEY_LOCAL_MACHINE, key, 0, KEY_READ, &opened);
+        RegQueryValueExA(opened, "Text", nullptr, nullptr, nullptr, &size);
+        RegCloseKey(opened);
+        EXPECT_EQ(size, text.size() + 1) << "stored with its NUL";
     }
     machine.Set(key, "Number", REG_DWORD, "abcd");
     EXPECT_EQ(corvel.GetRegValue(HKEY_LOCAL_MACHINE, key, "Number"), "") << "no text";

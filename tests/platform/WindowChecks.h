@@ -65,7 +65,7 @@ inline void IsTheSameAfterOtherScreens(HWND window) {
     }
 }
 
-// Name and role, as a screen reader asks for them.
+// Name and role, as a screen reader asks for them; it gives the control the keyboard, too.
 inline std::pair<std::string, LONG> Announced(HWND control) {
     IAccessible* object = nullptr;
     if (AccessibleObjectFromWindow(control, static_cast<DWORD>(OBJID_CLIENT), __uuidof(IAccessible),
@@ -77,6 +77,7 @@ inline std::pair<std::string, LONG> Announced(HWND control) {
     BSTR name = nullptr;
     object->get_accName(self, &name);
     object->get_accRole(self, &role);
+    object->accSelect(SELFLAG_TAKEFOCUS, self);
     object->Release();
     const std::string text(name, name + SysStringLen(name)); // plain letters
     SysFreeString(name);

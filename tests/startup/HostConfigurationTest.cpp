@@ -26,11 +26,5 @@ TEST(HostConfiguration, FirstPassBlanksDriveLinesAndKeepsTheOthers) {
         EXPECT_EQ(BlankDriveLines(before, Upper), after);
 }
 
-TEST(HostConfiguration, SecondPassPutsTheDriveLineFirstAndDropsBlankLines) {
-    EXPECT_EQ(WithDriveLine("C:\\APPS\\HOST", "\r\na\r\n   \r\n b \r\n\t\r\n"),
-              "Drive S,C:\\APPS\\HOST,X,\\\r\na\r\n b \r\n\t\r\n");
-    EXPECT_EQ(WithDriveLine("", ""), "Drive S,,X,\\\r\n") << "a folder without a short form";
-}
-
 } // namespace
 } // namespace obrin

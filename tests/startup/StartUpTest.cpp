@@ -21,12 +21,13 @@ void Start(const std::function<void()>& show) {
 TEST(StartUp, RewritesTheConfigurationBeforeItShowsTheMenu) {
     const test::ScratchFolder folder;
     CreateFolder("Core");
-    WriteFileBytes("FennConfig.Sys", "DRIVE a\r\nFiles 1\r\n\r\ndrive b\r\n  \r\nDrive c\r\n\xE4last");
-    const std::string expected = "Drive S," + ShortPath(CurrentFolder()) + ",X,\\\r\nFiles 1\r\n\xE4last\r\n";
+    WriteFileBytes("FennConfig.Sys", "DRIVE a\r\nFiles 1\r\n\r\ndrive b\r\n  \r\n\t\r\nDrive c\r\n\xE4last");
+    const std::string expected =
+        "Drive S," + ShortPath(CurrentFolder()) + ",X,\\\r\nFiles 1\r\n\t\r\n\xE4last\r\n";
     EXPECT_TRUE(CreateHardLinkA("before", "FennConfig.Sys", nullptr));
     UniqueFile reader;
     for (const char* leftOnDisk :
-         {"\r\nFiles 1\r\n\r\n\r\n  \r\n\r\n\xE4last\r\n", "\r\nFiles 1\r\n\xE4last\r\n"}) {
+         {"\r\nFiles 1\r\n\r\n\r\n  \r\n\t\r\n\r\n\xE4last\r\n", "\r\nFiles 1\r\n\t\r\n\xE4last\r\n"}) {
         std::string seen;
         Start([&] { seen = ReadFileBytes("FennConfig.Sys"); });
         EXPECT_EQ(seen, expected);
