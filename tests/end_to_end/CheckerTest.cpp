@@ -132,8 +132,9 @@ void Do(const std::string& word, const std::string& file, const std::string& tex
         setAttributes(FILE_ATTRIBUTE_READONLY);
     } else if (word == "hide") {
         setAttributes(FILE_ATTRIBUTE_HIDDEN);
-    } else if (word == "hold") {
-        held.reset(CreateFileA(file.c_str(), GENERIC_READ, 0, nullptr, OPEN_ALWAYS, 0, nullptr));
+    } else if (word == "hold" || word == "share") {
+        const DWORD sharing = word == "share" ? FILE_SHARE_READ | FILE_SHARE_WRITE : 0;
+        held.reset(CreateFileA(file.c_str(), GENERIC_READ, sharing, nullptr, OPEN_ALWAYS, 0, nullptr));
     } else if (word == "otherbits") {
         const auto machine = [](bool bits64) { return "PE\0\0"s + (bits64 ? "\x64\x86" : "\x4C\x01"); };
         patch(machine(is64), machine(!is64));
@@ -241,6 +242,7 @@ TEST(Checker, TakesFoldersFilesAndNothingElse) {
         {"empty", 1, "empty\\FennConfig.Sys: error: missing"},
         {"UB.mnu .\\other.txt", 1, ".\\other.txt:2: error: there is no heading"},
         {"other.txt", 1, "other.txt: warning: the name does not end in .mnu"},
+        {"--tree other.txt", 1, "  A [K]\r\nother.txt: warning: "},
         {"UB.mnu", 0, "0 errors, 0 warnings in 1 menu file\r\n"},
         {"--tree UB.mnu", 0,
          "UB.mnu: Utility Billing\r\n  Billing\r\n    Post Payments [UB\\Programs\\Post]\r\n  Backup "
