@@ -97,9 +97,9 @@ private:
         MenuLine entry{.line = lineNumber,
                        .depth = parent == noParent ? 0 : depth,
                        .isProgram = false,
-                       .isMarked = false,
                        .text = wholeLine.substr(depth),
                        .key = {},
+                       .keyIsCopy = false,
                        .wholeLine = wholeLine,
                        .isPlain = lines.IsPlain(),
                        .parent = parent};
@@ -110,8 +110,8 @@ private:
             entry.isProgram = true;
             entry.text = wholeLine.substr(depth, separator - depth);
             entry.key = FirstField(wholeLine.substr(separator + 1), isLeadByte); // more fields mean nothing
-            entry.isMarked = wholeLine.find(depthMark, depth) != std::string_view::npos;
-            if (!lines.LinesLast() || entry.isMarked)
+            entry.keyIsCopy = !lines.LinesLast() || entry.key.find(depthMark) != std::string_view::npos;
+            if (entry.keyIsCopy)
                 entry.key = ownKeys.emplace_front(WithoutDepthMarks(entry.key));
             CheckKey(entry.key);
         } else {
@@ -178,8 +178,9 @@ public:
 
     void TakeHeader(std::string_view line) override { definition.title = HeaderTitle(line, isLeadByte); }
     void TakeEntry(const MenuLine& entry) override {
-        definition.entries.push_back({.text = entry.isMarked ? Unmarked(entry.text) : entry.text,
-                                      .key = entry.isMarked ? Unmarked(entry.key) : entry.key,
+        const bool isMarked = entry.isProgram && entry.text.find(depthMark) != std::string_view::npos;
+        definition.entries.push_back({.text = isMarked ? Unmarked(entry.text) : entry.text,
+                                      .key = entry.keyIsCopy ? Unmarked(entry.key) : entry.key,
                                       .parent = entry.parent});
     }
     void TakeFault(const MenuFault& fault) override {

@@ -59,9 +59,9 @@ struct MenuLine {
     int line;
     std::size_t depth; ///< 0 at top level
     bool isProgram;
-    bool isMarked;         ///< a program's with depth marks within, which its node goes without
-    std::string_view text; ///< with these marks
-    std::string_view key;
+    std::string_view text; ///< of a program with the depth marks within, which its node goes without
+    std::string_view key;  ///< without these
+    bool keyIsCopy;        ///< and not a part of the line
     std::string_view wholeLine;
     bool isPlain; ///< the whole line holds printable ASCII only
     std::int16_t parent;
