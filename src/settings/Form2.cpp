@@ -85,8 +85,7 @@ void Form2::OnCommand(int id, int notification) {
     }
 }
 
-// --- Load and pages
-// ---------------------------------------------------------------------------------------
+// --- Load and pages ---
 
 void Form2::Form_Load() {
     IniPath = SettingsPath(treeTag);
@@ -178,8 +177,7 @@ void Form2::TabStrip1_Click() {
     shownPage = selected;
 }
 
-// --- Orientation
-// ---------------------------------------------------------------------------------------
+// --- Orientation ---
 
 void Form2::cmbOrientation_DropDown() {
     rememberedOrientation = WindowText(cmbOrientation);
@@ -200,8 +198,7 @@ void Form2::cmbOrientation_Click() {
     SetWindowTextA(Item(IDC_TXT_WIDTH), height.c_str());
 }
 
-// --- Margins
-// ---------------------------------------------------------------------------------------
+// --- Margins ---
 
 void Form2::PrepareSliders() {
     constexpr int tick = 250; // a quarter of an inch; a click beside the slider's knob moves it that far too
@@ -273,8 +270,7 @@ void Form2::txtMargin_LostFocus(std::size_t index) {
         WriteMarginText(index);
 }
 
-// --- Saving and loading
-// ---------------------------------------------------------------------------------------
+// --- Saving and loading ---
 
 void Form2::Command1_Click(int id) {
     if (id != IDCANCEL)
