@@ -2,9 +2,10 @@
 
 #include "end_to_end/Installation.h"
 
+#include "platform/Failure.h"
 #include "platform/File.h"
 #include "platform/Folder.h"
-#include "platform/Handle.h"
+#include "platform/Machine.h"
 #include "platform/Workstation.h"
 #include "resources/Ids.h"
 #include "startup/UserRecords.h"
@@ -12,6 +13,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cstring>
 #include <map>
 
 namespace obrin::test {
@@ -26,31 +28,19 @@ struct Checked {
 
 // Runs the checker in the current folder, its output through a pipe.
 Checked RunChecker(const std::string& arguments = "") {
-    std::array<char, MAX_PATH> tests{};
-    GetModuleFileNameA(nullptr, tests.data(), tests.size());
-    std::string line = '"' + std::filesystem::path(tests.data()).replace_filename("ObrinCheck.exe").string() +
-                       "\" " + arguments;
     SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
     HANDLE readEnd = nullptr, writeEnd = nullptr;
     CreatePipe(&readEnd, &writeEnd, &inherited, 0);
     const UniqueFile reader(readEnd);
     UniqueFile writer(writeEnd);
-    STARTUPINFOA startup{};
-    startup.cb = sizeof startup;
-    startup.dwFlags = STARTF_USESTDHANDLES;
-    startup.hStdOutput = startup.hStdError = writeEnd;
-    PROCESS_INFORMATION started{};
-    if (!CreateProcessA(nullptr, line.data(), nullptr, nullptr, TRUE, CREATE_NO_WINDOW, nullptr, nullptr,
-                        &startup, &started))
-        return {.output = "the checker does not start"};
+    const Started checker = Start(OwnProgram().replace_filename("ObrinCheck.exe"), arguments, writeEnd);
     writer.reset();
-    const UniqueFile process(started.hProcess), thread(started.hThread);
     Checked checked;
     std::array<char, 4096> part{};
     for (DWORD got = 0; ReadFile(readEnd, part.data(), part.size(), &got, nullptr) && got > 0;)
         checked.output.append(part.data(), got);
-    WaitForSingleObject(process.get(), 5000);
-    GetExitCodeProcess(process.get(), &checked.exitCode);
+    WaitForSingleObject(checker.process.get(), 5000);
+    GetExitCodeProcess(checker.process.get(), &checked.exitCode);
     return checked;
 }
 
@@ -71,7 +61,12 @@ std::string ErrorOfMenu() {
         EXPECT_TRUE(Eventually([&] { return errorBox() != nullptr || !IsWindow(menu); }));
     }
     const char* box = errorBox();
-    return box == nullptr ? "" : launcher.Texts(box);
+    const std::string texts = box == nullptr ? "" : launcher.Texts(box);
+    if (box != nullptr)
+        launcher.Press(box, IDOK);
+    EXPECT_EQ(launcher.ExitCode(),
+              texts.find("Current folder: " + CurrentFolder()) == std::string::npos ? 0 : 1);
+    return texts;
 }
 
 using Files = std::map<std::string, std::pair<std::filesystem::file_time_type, std::uintmax_t>>;
@@ -204,11 +199,16 @@ void Compare(const std::string& section) {
         const auto place = output.find(": error: ");
         EXPECT_EQ(exitCode, place == std::string::npos ? 0U : 1U);
         EXPECT_EQ(error.empty(), place == std::string::npos) << error << output.substr(0, 2000);
-        if (place != std::string::npos && error.find("Config File Not found!") == std::string::npos) {
-            const auto start = output.rfind('\n', place) + 1;
+        if (place != std::string::npos) {
+            const auto start = output.rfind('\n', place) + 1, text = place + std::strlen(": error: ");
             std::string named = output.substr(start, place - start);
-            if (const auto lineNumber = named.find(':'); lineNumber != std::string::npos)
+            if (const auto lineNumber = named.find(':'); lineNumber != std::string::npos) {
                 named.replace(lineNumber, 1, ", line ");
+                named = PlatformText(ERROR_INVALID_DATA) + "\r\n\r\n" + named + ": " +
+                        output.substr(text, output.find_first_of(",:\r", text) - text);
+            } else if (finding == "FennConfig.Sys: error: missing") {
+                named = "Config File Not found!"; // of which the menu tells before all others
+            }
             EXPECT_NE(error.find(named), std::string::npos) << error;
         }
         held.reset();

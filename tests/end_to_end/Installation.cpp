@@ -11,7 +11,6 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <stdexcept>
 
 namespace obrin::test {
 
@@ -127,21 +126,9 @@ void Installation::EndHost() const {
     }
 }
 
-Launcher::Launcher() {
-    STARTUPINFOA startup{};
-    startup.cb = sizeof startup;
-    // The whole path: without it, the program beside the tests would be started.
-    const std::string program = CurrentFolder() + "\\ObrinMenu.exe";
-    if (!CreateProcessA(program.c_str(), nullptr, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
-                        &process))
-        throw std::runtime_error("the launcher does not start");
-}
-
 Launcher::~Launcher() {
-    TerminateProcess(process.hProcess, 99);
-    WaitForSingleObject(process.hProcess, 5000);
-    CloseHandle(process.hThread);
-    CloseHandle(process.hProcess);
+    TerminateProcess(started.process.get(), 99);
+    WaitForSingleObject(started.process.get(), 5000);
 }
 
 HWND Launcher::Shown(const std::string& caption) const {
@@ -149,7 +136,7 @@ HWND Launcher::Shown(const std::string& caption) const {
     while ((window = FindWindowExA(nullptr, window, nullptr, caption.c_str())) != nullptr) {
         DWORD owner = 0;
         GetWindowThreadProcessId(window, &owner);
-        if (owner == process.dwProcessId && IsWindowVisible(window))
+        if (owner == started.id && IsWindowVisible(window))
             break;
     }
     return window;
@@ -185,7 +172,7 @@ void Launcher::Press(const std::string& caption, int button) const {
 
 int Launcher::ExitCode() const {
     DWORD code = STILL_ACTIVE;
-    Eventually([&] { return GetExitCodeProcess(process.hProcess, &code) && code != STILL_ACTIVE; });
+    Eventually([&] { return GetExitCodeProcess(started.process.get(), &code) && code != STILL_ACTIVE; });
     return static_cast<int>(code);
 }
 

@@ -2,6 +2,7 @@
 // real keys and the real mouse. Everything waits with a deadline and nothing sleeps blindly.
 #pragma once
 
+#include "platform/Machine.h"
 #include "platform/ScratchFolder.h"
 
 #include <functional>
@@ -48,7 +49,7 @@ private:
 /// A running launcher; ended with the object when it still runs.
 class Launcher {
 public:
-    Launcher();
+    Launcher() = default;
     Launcher(const Launcher&) = delete;
     Launcher& operator=(const Launcher&) = delete;
     ~Launcher();
@@ -66,12 +67,15 @@ public:
     /// Sends a command or the like to the menu window.
     void Send(UINT message, WPARAM wParam) const { SendMessageA(Menu(), message, wParam, 0); }
     /// Stops it from handling anything, or lets it go on.
-    void Hang(bool hang) const { hang ? SuspendThread(process.hThread) : ResumeThread(process.hThread); }
+    void Hang(bool hang) const {
+        hang ? SuspendThread(started.thread.get()) : ResumeThread(started.thread.get());
+    }
     /// Exit code after its end; STILL_ACTIVE when it does not end.
     int ExitCode() const;
 
 private:
-    PROCESS_INFORMATION process{};
+    // The whole path: without it, the program beside the tests would be started.
+    const Started started = Start(std::filesystem::current_path() / "ObrinMenu.exe");
 };
 
 } // namespace obrin::test

@@ -237,7 +237,7 @@ TEST(Launcher, RefusesToRunBesideAnOpenHost) {
     const std::string question = "Error: Fenn Already Open!! Please close before proceeding.\r\n\r\n"
                                  "Would you like us to show the Fenn Window Now?";
     const Installation installation(5);
-    ShellExecuteA(nullptr, nullptr, "Fenn.exe", nullptr, nullptr, SW_SHOWMINNOACTIVE);
+    Start(std::filesystem::current_path() / "Fenn.exe");
     HWND host = nullptr;
     ASSERT_TRUE(Eventually([&] { return (host = FindWindowA("ZafWindow", "Obrin-01")) != nullptr; }));
     ShowWindow(host, SW_SHOWMINNOACTIVE);
@@ -355,30 +355,6 @@ TEST(Launcher, WaitsWithADamagedNumberUntilItIsClosed) {
     EXPECT_FALSE(launcher.Shown(noticeTitle));
     PostMessageA(menu, WM_CLOSE, 0, 0);
     EXPECT_EQ(launcher.ExitCode(), 0) << "and does not start it now";
-}
-
-TEST(Launcher, EndsWithTheErrorOfAMissingFile) {
-    const Installation installation(5);
-    struct {
-        const char *file, *damaged, *title;
-        std::string text;
-    } const cases[] = {
-        // each one is needed before those that are missing already
-        {"UB.mnu", nullptr, "ObrinMenu", "there is no menu file (*.mnu)"},
-        {"Corvel.dll", "x", "ObrinMenu", "Corvel.dll is no library for a program of "},
-        {"Corvel.dll", nullptr, "ObrinMenu", "Loading Corvel.dll\r\n\r\nCurrent folder: " + CurrentFolder()},
-        {"FennConfig.Sys", nullptr, "Error!", "Config File Not found!"},
-    };
-    for (const auto& [file, damaged, title, text] : cases) {
-        DeleteFileA(file);
-        if (damaged != nullptr)
-            WriteFileBytes(file, damaged);
-        const Launcher launcher;
-        EXPECT_NE(launcher.Texts(title).find(text), std::string::npos) << launcher.Texts(title);
-        launcher.Press(title, IDOK);
-        EXPECT_EQ(launcher.ExitCode(), title == std::string("Error!") ? 0 : 1);
-        installation.EndHost();
-    }
 }
 
 TEST(Launcher, EndsWithTheErrorOfAnEvent) {

@@ -1,7 +1,5 @@
 #include "menu/MenuDefinition.h"
 
-#include "common/RunTimeError.h"
-
 #include <gtest/gtest.h>
 
 namespace obrin {
@@ -50,32 +48,6 @@ TEST(MenuDefinition, LinesBecomeNodes) {
              ParseMenuDefinition(std::string("T\r\n") + lines, "UB.mnu", IsLeadByte).entries)
             nodes.append(text).append("|").append(key).append("|").append(std::to_string(parent)) += " ";
         EXPECT_EQ(nodes, expected);
-    }
-}
-
-TEST(MenuDefinition, IsRefusedWithFileAndLine) {
-    std::string most = "T\r";
-    for (int i = 0; i < 32767; ++i)
-        most += "A^K" + std::to_string(i) + "\r";
-    EXPECT_EQ(ParseMenuDefinition(most, "UB.mnu", IsLeadByte).entries.size(), 32767U);
-    const std::string again = most.substr(0, most.rfind("A^")) + "A^K0";
-    const std::string level = "there is no heading one level above this entry";
-    const std::pair<std::string, std::string> cases[] = {
-        {"", "1: the file has no header line"},
-        {"T\r\nA\r\n>>B^K", "3: " + level},
-        {"T\r\n>A^K", "2: " + level},
-        {again, "32768: the key K0 is there already"},
-        {"T\r\nA^123", "2: the key 123 is a number"},
-        {most + "A", "32769: more entries than a menu can count"},
-    };
-    for (const auto& [file, doing] : cases) {
-        try {
-            ParseMenuDefinition(file, "UB.mnu", nullptr);
-            ADD_FAILURE() << doing;
-        } catch (const RunTimeError& raised) {
-            EXPECT_EQ(raised.Code(), 13U);
-            EXPECT_EQ(raised.what(), "UB.mnu, line " + doing);
-        }
     }
 }
 

@@ -102,12 +102,7 @@ const bool startedToBeKilled = [] {
 // Starts this program and ends it the given time behind the first change of the file from the first state.
 void KillWriter(DWORD milliseconds) {
     SetEnvironmentVariableA(killedVariable, "yes");
-    STARTUPINFOA startup{};
-    startup.cb = sizeof startup;
-    PROCESS_INFORMATION process{};
-    ASSERT_TRUE(CreateProcessA(test::OwnProgram().string().c_str(), nullptr, nullptr, nullptr, FALSE, 0,
-                               nullptr, nullptr, &startup, &process));
-    const UniqueFile thread(process.hThread), writer(process.hProcess);
+    const test::Started writer = test::Start(test::OwnProgram());
     SetEnvironmentVariableA(killedVariable, nullptr);
     const ULONGLONG deadline = GetTickCount64() + 10'000;
     WIN32_FILE_ATTRIBUTE_DATA now{};
@@ -117,8 +112,8 @@ void KillWriter(DWORD milliseconds) {
     } while (now.nFileSizeLow == states[0].size());
     if (milliseconds != 0)
         Sleep(milliseconds);
-    TerminateProcess(writer.get(), 1);
-    WaitForSingleObject(writer.get(), INFINITE);
+    TerminateProcess(writer.process.get(), 1);
+    WaitForSingleObject(writer.process.get(), INFINITE);
 }
 
 TEST(FileReplacement, KilledAtAnyMomentKeepsTheOldOrTheNewContents) {

@@ -1,9 +1,10 @@
 // What the machine is like that the tests run on.
 #pragma once
 
-#include "platform/WindowsApi.h"
+#include "platform/Handle.h"
 
 #include <filesystem>
+#include <stdexcept>
 
 namespace obrin::test {
 
@@ -12,6 +13,26 @@ inline std::filesystem::path OwnProgram() {
     char path[MAX_PATH] = "";
     GetModuleFileNameA(nullptr, path, sizeof path);
     return path;
+}
+
+struct Started {
+    UniqueHandle process, thread;
+    DWORD id;
+};
+
+/// Starts a program, with what it writes going to `output` if that is given. Throws when it cannot.
+inline Started Start(const std::filesystem::path& program, const std::string& arguments = "",
+                     HANDLE output = nullptr) {
+    STARTUPINFOA startup{};
+    startup.cb = sizeof startup;
+    startup.dwFlags = output != nullptr ? STARTF_USESTDHANDLES : 0U;
+    startup.hStdOutput = startup.hStdError = output;
+    PROCESS_INFORMATION process{};
+    std::string line = '"' + program.string() + "\" " + arguments;
+    if (!CreateProcessA(nullptr, line.data(), nullptr, nullptr, output != nullptr, CREATE_NO_WINDOW, nullptr,
+                        nullptr, &startup, &process))
+        throw std::runtime_error(line + " does not start");
+    return {UniqueHandle(process.hProcess), UniqueHandle(process.hThread), process.dwProcessId};
 }
 
 /// Whether this user may write the launcher's key of the machine; on Windows administrators only.
