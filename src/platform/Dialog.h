@@ -45,7 +45,8 @@ protected:
     /// Lets the controls of a page, a dialog within this one, follow as well.
     void AddPage(HWND page) { design->AddControlsOf(page); }
 
-    HWND Control(int id) const { return GetDlgItem(window, id); }
+    /// One of the dialog's controls or its pages'.
+    HWND Control(int id) const { return design->ControlOf(id); }
 
     HWND window = nullptr;
     UINT dpi = USER_DEFAULT_SCREEN_DPI;

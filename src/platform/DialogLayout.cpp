@@ -63,6 +63,12 @@ void DialogDesign::AddControlsOf(HWND parent) {
     }
 }
 
+HWND DialogDesign::ControlOf(int id) const {
+    const auto found =
+        std::ranges::find(places, id, [](const auto& place) { return GetDlgCtrlID(place.control); });
+    return found == places.end() ? nullptr : found->control;
+}
+
 DialogLayout DialogDesign::At(UINT dpi) const {
     LOGFONTA scaled = font;
     scaled.lfHeight = -MulDiv(points, static_cast<int>(dpi), pointsPerInch);

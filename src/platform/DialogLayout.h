@@ -32,6 +32,10 @@ public:
     /// Reads the controls of a dialog within it, which has the same font.
     void AddControlsOf(HWND parent);
 
+    /// The control of this id, those of dialogs within counted; 0 without one. To ask the platform for each
+    /// would take longer.
+    HWND ControlOf(int id) const;
+
     DialogLayout At(UINT dpi) const;
 
 private:

@@ -5,7 +5,6 @@
 #include "platform/Failure.h"
 #include "platform/File.h"
 #include "platform/Theme.h"
-#include "platform/Window.h"
 #include "platform/Workstation.h"
 #include "resources/Ids.h"
 #include "settings/Margins.h"
@@ -137,8 +136,7 @@ void Form2::CreatePages() {
     }
     LayPages();
 
-    items = WindowsWithin(window);
-    cmbOrientation = Item(IDC_CMB_ORIENTATION);
+    cmbOrientation = Control(IDC_CMB_ORIENTATION);
     for (const char* item : {"Portrait", "Landscape"})
         SendMessageA(cmbOrientation, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item));
 }
@@ -193,9 +191,9 @@ void Form2::cmbOrientation_Click() {
                  reinterpret_cast<LPARAM>(text.data()));
     if (text.data() == rememberedOrientation)
         return;
-    const std::string height = WindowText(Item(IDC_TXT_HEIGHT));
-    SetWindowTextA(Item(IDC_TXT_HEIGHT), WindowText(Item(IDC_TXT_WIDTH)).c_str());
-    SetWindowTextA(Item(IDC_TXT_WIDTH), height.c_str());
+    const std::string height = WindowText(Control(IDC_TXT_HEIGHT));
+    SetWindowTextA(Control(IDC_TXT_HEIGHT), WindowText(Control(IDC_TXT_WIDTH)).c_str());
+    SetWindowTextA(Control(IDC_TXT_WIDTH), height.c_str());
 }
 
 // --- Margins ---
@@ -204,8 +202,8 @@ void Form2::PrepareSliders() {
     constexpr int tick = 250; // a quarter of an inch; a click beside the slider's knob moves it that far too
     constexpr int keyStep = 10; // a hundredth
     for (std::size_t i = 0; i < sldMargin.size(); ++i) {
-        txtMargin[i] = Item(IDC_TXT_MARGIN + static_cast<int>(i));
-        const HWND slider = sldMargin[i] = Item(IDC_SLD_MARGIN + static_cast<int>(i));
+        txtMargin[i] = Control(IDC_TXT_MARGIN + static_cast<int>(i));
+        const HWND slider = sldMargin[i] = Control(IDC_SLD_MARGIN + static_cast<int>(i));
         SendMessageA(slider, TBM_SETRANGE, FALSE, MAKELPARAM(smallestMargin, largestMargin));
         SendMessageA(slider, TBM_SETTICFREQ, tick, 0);
         SendMessageA(slider, TBM_SETPAGESIZE, 0, tick);
@@ -294,7 +292,7 @@ void Form2::SaveSettings() const {
 
 void Form2::LoadSettings() {
     const std::string lastSystem = corvel.GetRegValue(HKEY_LOCAL_MACHINE, registryKey, "LastSystem");
-    SetWindowTextA(Item(IDC_TXT_SYSTEM),
+    SetWindowTextA(Control(IDC_TXT_SYSTEM),
                    std::string(FirstCharacters(lastSystem, 2, CodePageLeadByteTest())).c_str());
     loaded = LoadSystemSettings(IniPath);
     for (std::size_t i = 0; i < settings.size(); ++i) {
@@ -314,7 +312,7 @@ void Form2::ShowValue(std::size_t setting, const std::string& value) {
         sldMargin_Change(margin);
         return;
     }
-    const HWND control = Item(id);
+    const HWND control = Control(id);
     if (control == cmbOrientation) {
         // So that the arrow keys go on from the item that is shown. The text below keeps its own case.
         const LRESULT item = SendMessageA(cmbOrientation, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
@@ -333,13 +331,8 @@ std::string Form2::ValueOf(std::size_t setting) const {
     if (const auto margin = ElementOf(control, IDC_SLD_MARGIN); margin < sldMargin.size())
         return ShortestThousandths(SliderValue(margin));
     // A box that nobody edited may have had no room for all of its value.
-    std::string text = WindowText(Item(control));
+    std::string text = WindowText(Control(control));
     return loaded[setting] && text == shown[setting] ? *loaded[setting] : text;
-}
-
-HWND Form2::Item(int id) const {
-    const auto item = std::ranges::find(items, id, GetDlgCtrlID);
-    return item == items.end() ? nullptr : *item;
 }
 
 } // namespace obrin

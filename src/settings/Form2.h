@@ -8,7 +8,6 @@
 #include <array>
 #include <cstddef>
 #include <string>
-#include <vector>
 
 namespace obrin {
 
@@ -48,7 +47,6 @@ private:
     void LoadSettings();
     void ShowValue(std::size_t setting, const std::string& value);
     std::string ValueOf(std::size_t setting) const;
-    HWND Item(int id) const;
     int SliderValue(std::size_t index) const;
     void WriteMarginText(std::size_t index);
 
@@ -62,7 +60,6 @@ private:
 
     HWND TabStrip1 = nullptr;
     std::array<HWND, 3> Frame{};
-    std::vector<HWND> items; // of the pages too: to ask for each by its id would take longer
     HWND cmbOrientation = nullptr;
     std::array<HWND, 4> txtMargin{};
     std::array<HWND, 4> sldMargin{};
