@@ -61,6 +61,7 @@ TEST(Launcher, FirstDayOfAUser) {
     WriteFileBytes("UserWSID.sys", other.substr(0, 102)); // the last record may be so short
     const Launcher launcher;
     const std::string title = "Please Select a WSID";
+    EXPECT_TRUE(GetWindowExStyle(launcher.Window(title)) & WS_EX_APPWINDOW) << "has a taskbar button";
     EXPECT_TRUE(launcher.Texts(title).starts_with(
         "Hello " + user +
         ", we have detected this is your first entry into Obrin what would you like your "
@@ -344,17 +345,20 @@ TEST(Launcher, CanBeClosedByTheNoticeThatItWaits) {
     }
 }
 
-TEST(Launcher, WaitsWithADamagedNumberUntilItIsClosed) {
-    const Installation installation(-7);
-    DeleteFileA("Fenn.exe"); // of which there would be a notice at once
-    const Launcher launcher;
-    HWND menu = nullptr;
-    ASSERT_TRUE(Eventually([&] { return (menu = FindWindowA("ObrinMenu.frmMain", nullptr)) != nullptr; }));
-    Sleep(300); // in which it must neither ask nor start the host
-    EXPECT_TRUE(IsWindowEnabled(menu));
-    EXPECT_FALSE(launcher.Shown(noticeTitle));
-    PostMessageA(menu, WM_CLOSE, 0, 0);
-    EXPECT_EQ(launcher.ExitCode(), 0) << "and does not start it now";
+TEST(Launcher, WaitsForItsNumberOrWithADamagedOneUntilItIsClosed) {
+    for (const int number : {0, -7}) {
+        const Installation installation(number);
+        DeleteFileA("Fenn.exe"); // of which there would be a notice at once
+        const Launcher launcher;
+        HWND menu = nullptr;
+        ASSERT_TRUE(
+            Eventually([&] { return (menu = FindWindowA("ObrinMenu.frmMain", nullptr)) != nullptr; }));
+        Sleep(300); // in which it must not start the host
+        EXPECT_EQ(IsWindowEnabled(menu), number != 0) << "asks only the one without a number";
+        EXPECT_FALSE(launcher.Shown(noticeTitle));
+        PostMessageA(menu, WM_CLOSE, 0, 0);
+        EXPECT_EQ(launcher.ExitCode(), 0) << "and neither asks again nor starts it now";
+    }
 }
 
 TEST(Launcher, EndsWithTheErrorOfAnEvent) {

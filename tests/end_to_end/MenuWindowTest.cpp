@@ -90,6 +90,9 @@ TEST_F(MenuWindow, PointerIsACrosshairFromTheLinkToTheBackground) {
     EXPECT_NE(crosshair, arrow);
     for (const HWND control : {Control(IDC_LABEL4), Control(IDC_LABEL1), launcher.Tree()})
         EXPECT_EQ(pointerOver(control, 5, 5), crosshair);
+    EXPECT_FALSE(
+        SendMessageA(menu, WM_SETCURSOR, reinterpret_cast<WPARAM>(menu), MAKELPARAM(HTRIGHT, WM_MOUSEMOVE)))
+        << "but on the border";
     EXPECT_EQ(insideFrame(), crosshair);
     EXPECT_EQ(background(), arrow);
     EXPECT_EQ(insideFrame(), arrow);
@@ -150,9 +153,10 @@ TEST(MenuWindowHere, IsTheSameOnEveryScreenAndForEveryReader) {
     for (const HWND lettered : {control(IDC_LABEL1), control(IDC_LABEL4), link, button}) {
         LOGFONTA shape{};
         GetObjectA(reinterpret_cast<HFONT>(SendMessageA(lettered, WM_GETFONT, 0, 0)), sizeof shape, &shape);
-        fonts += shape.lfFaceName + std::to_string(shape.lfHeight) + " ";
+        fonts += shape.lfFaceName + std::to_string(shape.lfHeight) + (shape.lfItalic ? "i" : "") +
+                 (shape.lfUnderline ? "u " : " ");
     }
-    EXPECT_EQ(fonts, "Comic Sans MS-36 Georgia-20 Georgia-20 MS Sans Serif-16 ");
+    EXPECT_EQ(fonts, "Comic Sans MS-36 Georgia-20 Georgia-20u MS Sans Serif-16 ");
 
     EXPECT_EQ(Announced(link), (std::pair<std::string, LONG>("E-Mail us!", ROLE_SYSTEM_LINK)));
     EXPECT_EQ(GetFocus(), link) << "as the reader asked";

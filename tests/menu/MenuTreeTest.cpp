@@ -45,9 +45,17 @@ TEST(MenuTree, HasTheEntriesInTheirOrderAndOffersThePopupOfOne) {
     SendMessageA(window, WM_VSCROLL, SB_TOP, 0); // away from the last one, which is selected
     SendMessageA(window, WM_CONTEXTMENU, 0, -1);
     ASSERT_EQ(popUps.size(), 1U);
-    EXPECT_LE(popUps[0], 50) << "in sight";
+    union {
+        HTREEITEM item;
+        RECT text;
+    } last{TreeView_GetSelection(window)};
+    SendMessageA(window, TVM_GETITEMRECT, TRUE, reinterpret_cast<LPARAM>(&last));
+    EXPECT_LE(last.text.bottom, 50) << "in sight";
+    EXPECT_EQ(popUps[0], last.text.bottom);
     SetCursorPos(20, 20);
-    for (const DWORD pause : {0U, GetDoubleClickTime() + 50U, 0U}) { // one too late for the click before
+    const UINT late = GetDoubleClickTime() + 50; // too late for the click before
+    for (const auto& [pause, click] :
+         {std::pair{0U, WM_RBUTTONDOWN}, {late, WM_RBUTTONDOWN}, {0U, WM_RBUTTONDBLCLK}}) {
         Sleep(pause);
         MSG message;
         while (PeekMessageA(&message, nullptr, WM_MOUSEFIRST, WM_MOUSELAST, PM_REMOVE))
@@ -55,7 +63,7 @@ TEST(MenuTree, HasTheEntriesInTheirOrderAndOffersThePopupOfOne) {
         PostMessageA(window, WM_APP, 0, 0);
         PeekMessageA(&message, nullptr, WM_APP, WM_APP, PM_REMOVE); // whose time is now
         EXPECT_EQ(popUps.size(), 1U) << pause;
-        SendMessageA(window, WM_RBUTTONDOWN, 0, 0);
+        SendMessageA(window, static_cast<UINT>(click), 0, 0);
     }
     EXPECT_EQ(popUps.size(), 2U);
     DestroyWindow(window);

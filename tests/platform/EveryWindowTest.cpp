@@ -52,9 +52,11 @@ protected:
 TEST_F(EveryWindow, ComesBackFromOtherScreensAsItWas) {
     ForEachDialog(test::IsTheSameAfterOtherScreens);
     const std::string caption = "Obrin-05";
-    HostNotice notice(owner, caption, ERROR_FILE_NOT_FOUND);
+    HostNotice notice(owner, caption, ERROR_BAD_EXE_FORMAT);
     notice.ShowWhenDue();
-    test::IsTheSameAfterOtherScreens(FindWindowA(nullptr, "Waiting for Fenn"));
+    const HWND window = FindWindowA(nullptr, "Waiting for Fenn");
+    test::IsTheSameAfterOtherScreens(window);
+    EXPECT_EQ(WindowText(GetDlgItem(window, IDC_REASON)).find('%'), std::string::npos) << "the gap is filled";
 }
 
 BOOL CALLBACK AddAnnounced(HWND control, LPARAM names) {

@@ -46,6 +46,17 @@ TEST(FileReplacement, WritesInPlaceWhatOthersHoldAndLeavesAloneWhatTheyLetNobody
     CreateFolder("d");
     EXPECT_THROW(ReplaceFileBytes("d", "x"), RunTimeError);
     EXPECT_THROW(ReplaceFileBytes("missing\\f", "x"), RunTimeError);
+    SECURITY_DESCRIPTOR everybody{};
+    InitializeSecurityDescriptor(&everybody, SECURITY_DESCRIPTOR_REVISION);
+    SetSecurityDescriptorDacl(&everybody, TRUE, nullptr, FALSE);
+    SetFileSecurityA("f", DACL_SECURITY_INFORMATION, &everybody);
+    const auto rights = [] {
+        std::array<char, 1000> description{};
+        DWORD size = 0;
+        GetFileSecurityA("f", DACL_SECURITY_INFORMATION, description.data(), description.size(), &size);
+        return description;
+    };
+    const auto given = rights();
     const std::string old = "of some length";
     constexpr DWORD unheld = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     struct {
@@ -82,6 +93,7 @@ TEST(FileReplacement, WritesInPlaceWhatOthersHoldAndLeavesAloneWhatTheyLetNobody
         EXPECT_EQ(error, refusal) << share;
         EXPECT_EQ(ReadFileBytes("f"), refusal == 0 ? "new" : old) << share;
         EXPECT_EQ(GetFileAttributesA("f") & FILE_ATTRIBUTE_HIDDEN, attributes & FILE_ATTRIBUTE_HIDDEN);
+        EXPECT_TRUE(refusal != 0 || rights() == given);
         SetFileAttributesA("f", FILE_ATTRIBUTE_NORMAL);
         EXPECT_EQ(ListFolder(".").size(), 4U) << "nothing beside it, d and the folders";
     }

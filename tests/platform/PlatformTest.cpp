@@ -20,10 +20,11 @@ TEST(SupportLibrary, KeepsTextsInTheRegistry) {
         corvel.SetRegValue(HKEY_LOCAL_MACHINE, key, "Text", text);
         EXPECT_EQ(corvel.GetRegValue(HKEY_LOCAL_MACHINE, key, "Text"), text);
         HKEY opened = nullptr;
-        DWORD size = 0;
+        DWORD size = 0, type = 0;
         RegOpenKeyExA(HKEY_LOCAL_MACHINE, key, 0, KEY_READ, &opened);
-        RegQueryValueExA(opened, "Text", nullptr, nullptr, nullptr, &size);
+        RegQueryValueExA(opened, "Text", nullptr, &type, nullptr, &size);
         RegCloseKey(opened);
+        EXPECT_EQ(type, DWORD{REG_SZ});
         EXPECT_EQ(size, text.size() + 1) << "stored with its NUL";
     }
     machine.Set(key, "Number", REG_DWORD, "abcd");
