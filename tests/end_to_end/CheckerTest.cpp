@@ -6,6 +6,7 @@
 #include "platform/File.h"
 #include "platform/Folder.h"
 #include "platform/Machine.h"
+#include "platform/SupportLibrary.h"
 #include "platform/Workstation.h"
 #include "resources/Ids.h"
 #include "startup/UserRecords.h"
@@ -142,8 +143,7 @@ void Do(const std::string& word, const std::string& file, const std::string& tex
         WriteFileBytes("UserWSID.sys", ReadFileBytes("UserWSID.sys") +
                                            UserWsidRecord(file, static_cast<std::int16_t>(std::stoi(text))));
     } else if (word == "remember") {
-        RegSetKeyValueA(HKEY_LOCAL_MACHINE, "Software\\Obrin", "LastSystem", REG_SZ, file.c_str(),
-                        static_cast<DWORD>(file.size()));
+        SupportLibrary().SetRegValue(HKEY_LOCAL_MACHINE, "Software\\Obrin", "LastSystem", file);
     } else {
         ADD_FAILURE() << "no word of the list: " << word;
     }
@@ -199,6 +199,9 @@ void Compare(const std::string& section) {
         const auto place = output.find(": error: ");
         EXPECT_EQ(exitCode, place == std::string::npos ? 0U : 1U);
         EXPECT_EQ(error.empty(), place == std::string::npos) << error << output.substr(0, 2000);
+        const std::string configuration = ".\\FennConfig.Sys";
+        EXPECT_TRUE(!finding.starts_with("Core") || Everything()[configuration] == before.at(configuration))
+            << "lost";
         EXPECT_TRUE(!finding.starts_with("Corvel") || installation.Logged("process").empty())
             << "left hidden";
         if (place != std::string::npos) {

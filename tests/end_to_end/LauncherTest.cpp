@@ -24,13 +24,9 @@ constexpr DWORD rightClick = MOUSEEVENTF_RIGHTDOWN | MOUSEEVENTF_RIGHTUP;
 constexpr const char* noticeTitle = "Waiting for Fenn";
 constexpr const char* hostIsOpen = "Error Opening Obrin System";
 
-std::string RememberedSystem() {
-    return SupportLibrary().GetRegValue(HKEY_LOCAL_MACHINE, "Software\\Obrin", "LastSystem");
-}
-
-// What is found of a system that was to be remembered.
-std::string IfKept(const std::string& name) {
-    return MayRememberSystem() ? name : "";
+void ExpectRemembered(const std::string& name) {
+    EXPECT_EQ(SupportLibrary().GetRegValue(HKEY_LOCAL_MACHINE, "Software\\Obrin", "LastSystem"),
+              MayRememberSystem() ? name : "");
 }
 
 void RememberSystem(const std::string& name) {
@@ -187,7 +183,7 @@ TEST(Launcher, SwitchesSystemsAndRemembersTheLast) {
     EXPECT_EQ(launcher.ExitCode(), 0);
     EXPECT_TRUE(installation.HostTypes({"LOAD CORE\\STARTSYS", "RUN", "UB", "LOAD CORE\\STARTSYS", "RUN",
                                         "ZZ", "LOAD CORE\\PROGRAMS\\CSBACKUP", "RUN", "RUN CORE\\EXIT"}));
-    EXPECT_EQ(RememberedSystem(), IfKept("ZZ.mnu"));
+    ExpectRemembered("ZZ.mnu");
     EXPECT_FALSE(FileExists("Menu 5.txt"));
 }
 
@@ -340,7 +336,7 @@ TEST(Launcher, CanBeClosedByTheNoticeThatItWaits) {
         close(notice);
         EXPECT_EQ(launcher.ExitCode(), 0);
         EXPECT_EQ(installation.Logged("process").size(), never == nullptr ? 0U : 1U) << "no second host";
-        EXPECT_EQ(RememberedSystem(), IfKept("UB.mnu ")) << "no system was shown that could take its place";
+        ExpectRemembered("UB.mnu "); // no system was shown that could take its place
         EXPECT_FALSE(FileExists("Menu 5.txt"));
     }
 }
