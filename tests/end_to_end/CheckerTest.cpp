@@ -22,13 +22,8 @@ namespace {
 
 using namespace std::string_literals;
 
-struct Checked {
-    std::string output;
-    DWORD exitCode = 99;
-};
-
-// Runs the checker in the current folder, its output through a pipe.
-Checked RunChecker(const std::string& arguments = "") {
+// Runs the checker in the current folder: its output, through a pipe, and its exit code.
+std::pair<std::string, DWORD> RunChecker(const std::string& arguments = "") {
     SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
     HANDLE readEnd = nullptr, writeEnd = nullptr;
     CreatePipe(&readEnd, &writeEnd, &inherited, 0);
@@ -36,13 +31,14 @@ Checked RunChecker(const std::string& arguments = "") {
     UniqueFile writer(writeEnd);
     const Started checker = Start(OwnProgram().replace_filename("ObrinCheck.exe"), arguments, writeEnd);
     writer.reset();
-    Checked checked;
+    std::string output;
     std::array<char, 4096> part{};
     for (DWORD got = 0; ReadFile(readEnd, part.data(), part.size(), &got, nullptr) && got > 0;)
-        checked.output.append(part.data(), got);
+        output.append(part.data(), got);
     WaitForSingleObject(checker.process.get(), 5000);
-    GetExitCodeProcess(checker.process.get(), &checked.exitCode);
-    return checked;
+    DWORD exitCode = STILL_ACTIVE;
+    GetExitCodeProcess(checker.process.get(), &exitCode);
+    return {output, exitCode};
 }
 
 // The menu is started, told to run a program and closed: the text of the error that ends it, empty without.
@@ -258,9 +254,9 @@ TEST(Checker, TakesFoldersFilesAndNothingElse) {
         {"--help", 0, "usage: ObrinCheck"},
     };
     for (const auto& [arguments, exitCode, output] : cases) {
-        const auto checked = RunChecker(arguments);
-        EXPECT_EQ(checked.exitCode, exitCode) << arguments;
-        EXPECT_NE(checked.output.find(output), std::string::npos) << arguments << checked.output;
+        const auto [written, code] = RunChecker(arguments);
+        EXPECT_EQ(code, exitCode) << arguments;
+        EXPECT_NE(written.find(output), std::string::npos) << arguments << written;
     }
 }
 

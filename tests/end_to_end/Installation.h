@@ -49,9 +49,6 @@ private:
 /// A running launcher; ended with the object when it still runs.
 class Launcher {
 public:
-    Launcher() = default;
-    Launcher(const Launcher&) = delete;
-    Launcher& operator=(const Launcher&) = delete;
     ~Launcher();
 
     /// The shown window of this caption; 0 when there is none now, or within the deadline.

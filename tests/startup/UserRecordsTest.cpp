@@ -7,9 +7,6 @@ namespace obrin {
 TEST(UserRecords, HaveTheirFieldsAtFixedPlaces) {
     EXPECT_EQ(UserWsidRecord("  anna ", 42), "anna" + std::string(96, ' ') + '\x2A' + std::string(101, '\0'));
     EXPECT_EQ(UserWsidRecord(std::string(120, 'n'), 300).substr(99, 4), std::string("n\x2C\x01\0", 4));
-}
-
-TEST(UserRecords, NumbersNameTheMarkerFile) {
     EXPECT_EQ(MarkerFileName(42), "Menu 42.txt");
     EXPECT_EQ(MarkerFileName(-7), "Menu-7.txt");
 }
