@@ -123,7 +123,7 @@ std::vector<Row> MeasureSettings() {
     const SupportLibrary corvel;
     const std::string programKey = key;
     const Medians opening = Alternate(
-        21, [&] { return MillisecondsToShown([&] { Form2(corvel, programKey).Show(owner); }); },
+        41, [&] { return MillisecondsToShown([&] { Form2(corvel, programKey).Show(owner); }); },
         [&] { return MillisecondsToShown([&] { BareDialog().ShowModal(owner, IDD_PROPERTIES); }); });
     DestroyWindow(owner);
     return {
