@@ -31,6 +31,8 @@ export SOURCE_DATE_EPOCH TZ=UTC
 
 install_packages "${build_packages[@]}" "${guide_packages[@]}"
 mkdir -p dist
+# Of another version: SHA256SUMS and the test of the archive are about the one that is made here.
+if [[ $component == menu ]]; then rm -f dist/ObrinMenu-*.zip; else rm -f dist/ObrinTests-*.zip; fi
 for preset in "${presets[@]}"; do
   build_preset "$preset"
   [[ $component != menu ]] || cmake --build --preset "$preset" --target guide >/dev/null

@@ -12,7 +12,7 @@ usage: ./test.sh [--all] [--fuzz SECONDS]
   and those of x64 once more out of their archive, as on a Windows machine.
   --all           also the tests of x86, and --fuzz 20
   --fuzz SECONDS  run the fuzz targets, SECONDS in all
-Exit code: 0 everything passed, 1 something failed, 2 nothing failed but a layer could not be run.
+Exit code: 0 everything passed, 1 something failed, 2 nothing failed but a layer could not be run, 64 wrong arguments.
 TEXT
 }
 

@@ -3,6 +3,8 @@
 #include "Measurements.h"
 #include "Program.h"
 
+#include "platform/Workstation.h"
+
 #include <filesystem>
 
 namespace obrin::bench {

@@ -112,15 +112,4 @@ void RefuseOpenHost() {
         throw std::runtime_error("a host or a menu is open on this desktop");
 }
 
-std::string OwnFile() {
-    std::array<char, MAX_PATH> file;
-    const DWORD length = GetModuleFileNameA(nullptr, file.data(), file.size());
-    return {file.data(), length};
-}
-
-std::string OwnFolder() {
-    const std::string file = OwnFile();
-    return file.substr(0, file.rfind('\\') + 1);
-}
-
 } // namespace obrin::bench

@@ -56,9 +56,4 @@ UniqueFile ProcessOf(HWND window);
 /// Throws when a host runs already: it is not ours, and nothing may be measured or ended beside it.
 void RefuseOpenHost();
 
-/// The folder of this program, with a "\" behind it.
-std::string OwnFolder();
-/// The file of this program.
-std::string OwnFile();
-
 } // namespace obrin::bench

@@ -7,6 +7,7 @@
 #include "Scratch.h"
 
 #include "menu/frmMain.h"
+#include "platform/Workstation.h"
 #include "startup/HostLink.h"
 
 #include <algorithm>

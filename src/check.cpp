@@ -24,20 +24,22 @@ constexpr std::string_view usage =
     "  --help  shows this text\r\n"
     "A line for each finding, in the order of files and lines:\r\n"
     "  FILE:LINE: error: TEXT    ends the menu, for some operators at least\r\n"
-    "  FILE:LINE: warning: TEXT  does not, but is hardly what was meant\r\n"
+    "  FILE:LINE: warning: TEXT  does not unless the text says so, but is hardly what was meant\r\n"
     "What is about a file or folder as a whole has no LINE. The last line counts the findings.\r\n"
     "Whether files can be read and written is told for the user who runs this: run it as an operator. The\r\n"
     "settings of programs are checked where the variable TesselTemp leads to them.\r\n"
     "Exit code: 0 nothing or warnings only, 1 errors, 2 wrong arguments or nothing there to check.\r\n";
 
-// Standard output or standard error: a console shows every character, anything else gets the code page's
-// bytes.
+// Standard output or standard error: a console shows every character; a pipe gets bytes as the programs of a
+// console read them, a file the code page's.
 class Stream {
 public:
     explicit Stream(DWORD which)
         : handle(GetStdHandle(which)) {
         DWORD mode = 0;
         isConsole = GetConsoleMode(handle, &mode) != FALSE;
+        if (GetFileType(handle) == FILE_TYPE_PIPE)
+            pipeCodePage = GetConsoleOutputCP();
     }
 
     bool IsConsole() const { return isConsole; }
@@ -45,20 +47,32 @@ public:
     /// Whether the text arrives is not examined: there is nobody else to tell.
     void Write(std::string_view text) const {
         if (isConsole)
-            WriteCharacters(text);
+            WriteCharacters(Wide(text));
         else
-            WriteBytes(text);
+            WriteBytes(pipeCodePage != 0 ? Narrow(Wide(text), pipeCodePage) : std::string(text));
     }
 
 private:
-    void WriteCharacters(std::string_view text) const {
-        const auto bytes = static_cast<int>(text.size());
+    static std::wstring Wide(std::string_view text) {
         std::wstring wide(text.size(), L'\0');
-        wide.resize(static_cast<std::size_t>(
-            MultiByteToWideChar(CP_ACP, 0, text.data(), bytes, wide.data(), static_cast<int>(wide.size()))));
+        wide.resize(static_cast<std::size_t>(MultiByteToWideChar(CP_ACP, 0, text.data(),
+                                                                 static_cast<int>(text.size()), wide.data(),
+                                                                 static_cast<int>(wide.size()))));
+        return wide;
+    }
+
+    static std::string Narrow(std::wstring_view wide, UINT codePage) {
+        std::string text(4 * wide.size(), '\0'); // more than any code page makes of a character
+        text.resize(static_cast<std::size_t>(
+            WideCharToMultiByte(codePage, 0, wide.data(), static_cast<int>(wide.size()), text.data(),
+                                static_cast<int>(text.size()), nullptr, nullptr)));
+        return text;
+    }
+
+    void WriteCharacters(std::wstring_view wide) const {
         constexpr std::size_t most = 8192; // of which every console takes that many at once
         for (std::size_t place = 0; place < wide.size(); place += most) {
-            const auto part = std::wstring_view(wide).substr(place, most);
+            const auto part = wide.substr(place, most);
             DWORD done = 0;
             WriteConsoleW(handle, part.data(), static_cast<DWORD>(part.size()), &done, nullptr);
         }
@@ -73,6 +87,7 @@ private:
 
     HANDLE handle;
     bool isConsole;
+    UINT pipeCodePage = 0; // none without a pipe, or without a console
 };
 
 // A line that is written over, for somebody who waits at a console.

@@ -7,9 +7,12 @@ set scratch=%TEMP%\ObrinTests-%RANDOM%
 set key=HKLM\Software\Obrin
 set failures=0
 
-if not exist "%~dp0end_to_end_tests.exe" echo Please unpack the whole archive first, and start run-tests.cmd there.
-if not exist "%~dp0end_to_end_tests.exe" exit /b 99
-mkdir "%scratch%"
+if exist "%~dp0end_to_end_tests.exe" goto unpacked
+echo Please unpack the whole archive first, and start run-tests.cmd there.
+pause
+exit /b 99
+
+:unpacked
 
 echo This runs the tests of the Obrin menu, for about two minutes. They open windows, type and move the mouse:
 echo close a menu and a Fenn that run, and leave mouse and keyboard alone until the end.
@@ -22,6 +25,9 @@ echo   which are put back afterwards. The values of %key% are kept until then in
 echo   %scratch%\saved.reg
 echo.
 
+pause
+
+mkdir "%scratch%"
 rem The right to write there tells at the same time whether the key has to go in the end.
 reg query %key% >nul 2>&1
 set isnew=%errorlevel%
@@ -30,7 +36,6 @@ reg add %key% /v LastSystem /d tests /f >nul 2>&1
 set mayremember=%errorlevel%
 if not %mayremember%==0 echo You may not write to %key%. The tests then see that no system is remembered,
 if not %mayremember%==0 echo and leave out what a remembered one does. To have them all: "Run as administrator".
-pause
 
 rem Tests make their folders below TEMP. Programs out of a downloaded archive start without a question.
 set TEMP=%scratch%
@@ -47,7 +52,8 @@ cd /d "%scratch%"
 call :run rules_tests
 call :run windows_tests
 call :run end_to_end_tests
-cd /d "%~dp0"
+rem Out of the folder that goes; this one may be a share, which cannot be a current folder.
+cd /d "%SystemRoot%"
 
 if %mayremember%==0 reg delete %key% /v LastSystem /f >nul 2>&1
 if %mayremember%==0 if not %isnew%==0 reg delete %key% /f >nul 2>&1

@@ -28,13 +28,15 @@ std::string WhyNotWritable(const std::string& path) {
     return Reason(OpenError(path, GENERIC_READ | GENERIC_WRITE, 0));
 }
 
-std::string WhyNotReplaceable(const std::string& path) {
-    if (const DWORD attributes = GetFileAttributesA(path.c_str());
-        attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0)
-        return PlatformText(ERROR_ACCESS_DENIED); // which the menu does not touch, whatever its rights
-    const DWORD error = OpenError(path, GENERIC_READ | GENERIC_WRITE | DELETE, 0);
+std::string WhyNotDeletable(const std::string& path) {
+    const DWORD error = OpenError(path, DELETE, 0);
     // A reader that keeps it from being deleted goes away again.
-    return error == ERROR_SHARING_VIOLATION ? WhyNotWritable(path) : Reason(error);
+    return error == ERROR_SHARING_VIOLATION ? "" : Reason(error);
+}
+
+bool IsReadOnly(const std::string& path) {
+    const DWORD attributes = GetFileAttributesA(path.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
 }
 
 std::string WhyNoFilesIn(const std::string& folder) {

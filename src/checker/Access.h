@@ -9,8 +9,11 @@ namespace obrin {
 /// opened for writing and closed again, which leaves its contents and times alone.
 std::string WhyNotWritable(const std::string& path);
 
-/// The same for a file that must also give way to a new one of its name.
-std::string WhyNotReplaceable(const std::string& path);
+/// The same for a right that is missing to delete a file, and so to put a new one in its place.
+std::string WhyNotDeletable(const std::string& path);
+
+/// Whether the file's attribute says so; false for what is not there.
+bool IsReadOnly(const std::string& path);
 
 /// The platform's reason for which no file can be made in a folder; empty when one can. The folder is opened
 /// for making files in it, and none is made.

@@ -29,6 +29,10 @@ std::optional<std::uint32_t> Number(std::string_view bytes, std::size_t place, s
     return number;
 }
 
+bool LeadsToHost(std::int16_t wsid) {
+    return wsid >= 1 && wsid <= 99;
+}
+
 const char* BitsOf(std::uint16_t machine) {
     return machine == machine32 ? "32 bits" : machine == machine64 ? "64 bits" : "another processor";
 }
@@ -51,7 +55,7 @@ std::vector<Finding> CheckUserRecords(std::string_view file, LeadByteTest isLead
         const auto& [name, wsid] = records[i];
         const std::string number = std::to_string(i + 1);
         const std::string user = "the user " + Shown(name, isLeadByte);
-        if (wsid < 1 || wsid > 99)
+        if (!LeadsToHost(wsid))
             findings.push_back(Warning(
                 "record " + number + " gives " + user + " the workstation number " + std::to_string(wsid) +
                 ": only 1 to 99 lead to a host; remove the record, and the menu asks"));
@@ -64,6 +68,8 @@ std::vector<Finding> CheckUserRecords(std::string_view file, LeadByteTest isLead
     std::map<std::int16_t, std::string_view> userOfNumber;
     for (const auto& [name, record] : lastOfUser) {
         const auto wsid = records[record - 1].wsid;
+        if (!LeadsToHost(wsid))
+            continue;
         if (const auto [other, isNew] = userOfNumber.try_emplace(wsid, name); !isNew)
             findings.push_back(
                 Warning("the users " + Shown(other->second, isLeadByte) + " and " + Shown(name, isLeadByte) +
@@ -74,11 +80,18 @@ std::vector<Finding> CheckUserRecords(std::string_view file, LeadByteTest isLead
 }
 
 std::vector<Finding> CheckUpdateRegister(std::string_view file) {
-    if (file.size() % updateKeyBytes == 0)
-        return {};
-    return {Warning(
-        "the last record is cut off: the next workstation that is updated overwrites it; cut the file to " +
-        std::to_string(file.size() / updateKeyBytes * updateKeyBytes) + " bytes")};
+    std::vector<Finding> findings;
+    if (const auto other = file.find_first_not_of("0123456789"); other != std::string_view::npos)
+        findings.push_back(
+            Warning("byte " + std::to_string(other + 1) +
+                    " is no digit: workstations whose three digits do not stand at a multiple of three "
+                    "are updated again; remove line ends, blanks and what else is no number"));
+    if (file.size() % updateKeyBytes != 0)
+        findings.push_back(
+            Warning("the last record is cut off: the next workstation that is updated overwrites it; "
+                    "cut the file to " +
+                    std::to_string(file.size() / updateKeyBytes * updateKeyBytes) + " bytes"));
+    return findings;
 }
 
 std::optional<std::uint16_t> ImageMachine(std::string_view image) {

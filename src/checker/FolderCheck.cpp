@@ -77,9 +77,11 @@ private:
                      "(attrib -h -s)");
             else if (IsMenuFileName(name))
                 names.push_back(name);
+            else
+                continue;
+            // Listed or not: it is shown where it is the system remembered.
+            check.menuFiles.push_back(path);
         }
-        for (const auto& name : names)
-            check.menuFiles.push_back(PathOf(name));
         if (names.empty())
             Error(shownBase,
                   std::string("there is no menu file (*.mnu) here") + atEveryStart +
@@ -132,7 +134,7 @@ private:
                                  "restore the file, or start "
                                  "the menu in the host's folder");
         else
-            ErrorIfNot("written", configuration, WhyNotReplaceable(configuration), atEveryStart);
+            CheckRewriting(configuration);
         const std::string core = PathOf("Core");
         if (FolderExists(core))
             ErrorIfNot("used for new files", core, WhyNoFilesIn(core), atEveryStart);
@@ -142,11 +144,29 @@ private:
         ErrorIfNot("used for new files", shownBase, WhyNoFilesIn(shownBase), atEveryStart);
     }
 
-    // The menu looks for it in its own folder and in that of Windows.
+    // A read-only file is not touched, whatever the rights to it.
+    void CheckRewriting(const std::string& path) {
+        const std::string reason =
+            IsReadOnly(path) ? PlatformText(ERROR_ACCESS_DENIED) : WhyNotWritable(path);
+        ErrorIfNot("written", path, reason,
+                   ": the menu ends with an error at a start that finds another folder in it; ");
+        if (const auto kept = WhyNotDeletable(path); reason.empty() && !kept.empty())
+            Warn(
+                path,
+                "cannot be replaced (" + kept +
+                    "): the menu writes over it, which a lost connection may cut off in the middle; give the "
+                    "operators the right to modify it");
+    }
+
+    // The menu looks for it in its own folder and in that of Windows. That may be another than the host's:
+    // then this program lies there, too.
     void CheckLibrary() {
-        const std::string program = PathOf("ObrinMenu.exe");
+        constexpr const char* menu = "ObrinMenu.exe";
+        const bool elsewhere = !FileExists(PathOf(menu)) && FileExists(OwnFolder() + menu);
+        const auto beside = [&](const char* name) { return elsewhere ? OwnFolder() + name : PathOf(name); };
+        const std::string program = beside(menu);
         const std::string image = FileExists(program) ? ReadFileBytes(program) : "";
-        const std::string path = PathOf("Corvel.dll");
+        const std::string path = beside("Corvel.dll");
         const std::string systems = SystemFolder(ImageMachine(image) == machine32) + "\\Corvel.dll";
         if (FileExists(path))
             AddFor(path, CheckSupportLibrary(ReadFileBytes(path), image));
@@ -162,7 +182,7 @@ private:
         if (!NormalFileExists(path))
             return;
         try {
-            LoadPicture(FullPath(path));
+            ScalePicture(LoadPicture(FullPath(path)).get(), USER_DEFAULT_SCREEN_DPI);
         } catch (const RunTimeError& error) {
             Error(path, "no picture that can be shown (" + PlatformText(error.Code()) + ")" + atEveryStart +
                             "save the picture as a BMP file, or remove it");
@@ -183,10 +203,13 @@ private:
     void CheckSharedFile(const std::string& name, const char* consequence,
                          const std::function<std::vector<Finding>(std::string_view)>& checkContents = {}) {
         const std::string path = PathOf(name);
-        if (!FileExists(path) && !FolderExists(path))
+        if (FolderExists(path))
+            Error(path, "cannot be written (a folder of this name is there)" + std::string(consequence) +
+                            "remove it");
+        if (!FileExists(path))
             return; // made when it is needed
         ErrorIfNot("written", path, WhyNotWritable(path), consequence);
-        if (checkContents && FileExists(path))
+        if (checkContents)
             AddFor(path, checkContents(ReadFileBytes(path)));
     }
 
@@ -194,7 +217,7 @@ private:
                     const char* consequence) {
         if (!reason.empty())
             Error(path, std::string("cannot be ") + done + " (" + reason + ")" + consequence +
-                            "give the operators the right to modify it");
+                            "close what keeps it open, or give the operators the right to modify it");
     }
 
     std::string base;      // in front of the names of files

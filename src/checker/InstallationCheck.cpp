@@ -1,5 +1,6 @@
 #include "checker/InstallationCheck.h"
 
+#include "checker/Access.h"
 #include "checker/FolderCheck.h"
 #include "checker/MenuFileChecks.h"
 #include "menu/MenuDefinition.h"
@@ -40,14 +41,14 @@ public:
 
     void Add(const std::string& path) {
         if (path.empty() || FolderExists(path)) {
+            installations = true;
             auto [findings, files] = CheckFolder(path);
             Append(result.findings, std::move(findings));
             menuFiles.insert(menuFiles.end(), files.begin(), files.end());
         } else if (FileExists(path)) {
             const auto name = path.substr(FindLastCharacter(path, '\\', CodePageLeadByteTest()) + 1);
             if (!IsMenuFileName(name))
-                result.findings.push_back(
-                    {.kind = Finding::Kind::Warning, .line = 0, .text = notListedByName, .file = path});
+                Warn(path, notListedByName);
             menuFiles.push_back(path);
         } else {
             throw RunTimeError(ERROR_FILE_NOT_FOUND, path);
@@ -68,24 +69,45 @@ public:
             for (auto& key : checks[i].keys)
                 keys.try_emplace(UpperCase(key), key);
         }
-        for (const auto& [comparable, key] : keys)
+        if (installations)
+            CheckTemporaryFolder();
+        for (const auto& [comparable, key] : keys) {
+            progress(menuFiles.size(), menuFiles.size());
             CheckSettings(SettingsPath(temporaryFolder, key));
+        }
         return std::move(result);
     }
 
 private:
+    void Warn(const std::string& path, std::string text) {
+        result.findings.push_back(
+            {.kind = Finding::Kind::Warning, .line = 0, .text = std::move(text), .file = path});
+    }
+
+    // Missing folders of a path are made.
+    void CheckTemporaryFolder() {
+        if (temporaryFolder.empty())
+            Warn("TesselTemp",
+                 "this variable is not set here: the Properties dialog keeps settings in \\Ini of the "
+                 "drive at hand, or ends the menu with an error; set it on every workstation");
+        else if (FolderExists(temporaryFolder))
+            if (const auto reason = WhyNoFilesIn(temporaryFolder); !reason.empty())
+                Warn(temporaryFolder, "cannot be used for new files (" + reason +
+                                          "): the Properties dialog ends the menu "
+                                          "with an error; give the operators the right to modify it");
+    }
+
     void CheckSettings(const std::string& path) {
         if (const auto reason = WhySettingsUnreadable(path); !reason.empty())
-            result.findings.push_back(
-                {.kind = Finding::Kind::Warning,
-                 .line = 0,
-                 .text = reason + ": the Properties dialog ends the menu with an error; remove the file, and "
-                                  "the dialog begins with the defaults",
-                 .file = path});
+            Warn(path,
+                 reason +
+                     ": the Properties dialog ends the menu with an error; remove the file, and the dialog "
+                     "begins with the defaults");
     }
 
     std::string temporaryFolder = EnvironmentVariable("TesselTemp");
     MenuWishes wishes;
+    bool installations = false;         // and not only files
     std::vector<std::string> menuFiles; // paths
     CheckResult result;
 };

@@ -32,12 +32,21 @@ const char* AdviceOn(MenuFault::Kind kind) {
 
 bool NamesFolderAbove(std::string_view key, LeadByteTest isLeadByte) {
     for (std::size_t start = 0; start <= key.size();) {
-        const auto end = std::min(FindCharacter(key, '\\', isLeadByte, start), key.size());
+        // For a file name "/" separates as well.
+        const auto end =
+            std::min({FindCharacter(key, '\\', isLeadByte, start), key.find('/', start), key.size()});
         if (TrimBlanks(key.substr(start, end - start)) == "..")
             return true;
         start = end + 1;
     }
     return false;
+}
+
+// But for ":", which names a drive.
+bool HoldsWhatNoFileNameMay(std::string_view key, LeadByteTest isLeadByte) {
+    return std::ranges::any_of(std::string_view("*?\"<|"), [&](char character) {
+        return FindCharacter(key, character, isLeadByte) != std::string_view::npos;
+    });
 }
 
 class Checker : public MenuSink {
@@ -165,9 +174,13 @@ private:
                  "the "
                  "program's path without it");
         if (FindByte(entry.key, ':') != std::string_view::npos)
-            warn(
-                " names a drive: the Properties dialog cannot keep settings for this program; write its path "
-                "from the host's folder on");
+            warn(" names a drive: the Properties dialog of this program ends the menu with an error; write "
+                 "its path "
+                 "from the host's folder on");
+        if (HoldsWhatNoFileNameMay(entry.key, codePage.isLeadByte))
+            warn(" holds a character that no file name may (* ? \" < |): the Properties dialog of this "
+                 "program ends "
+                 "the menu with an error; name the program otherwise");
         if (TrimBlanks(entry.key).size() != entry.key.size())
             warn(" begins or ends with a blank: the blank is typed into the host too; remove it");
     }

@@ -135,14 +135,11 @@ private:
     std::int16_t ParentAt(std::size_t depth) {
         if (depth == 0)
             return noParent;
-        const auto level = std::min(depth, deepest) - 1;
-        if (level >= headings.size())
-            headings.resize(level + 1, missing);
-        if (headings[level] == missing) {
+        const auto level = std::min(depth - 1, deepest);
+        const auto heading = level < headings.size() ? headings[level] : missing;
+        if (heading == missing)
             Fault(MenuFault::Kind::NoHeading, "there is no heading one level above this entry");
-            headings[level] = toldMissing;
-        }
-        return headings[level] == toldMissing ? noParent : headings[level];
+        return heading == missing ? noParent : heading;
     }
 
     void Fault(MenuFault::Kind kind, std::string reason, int firstLine = 0) {
@@ -152,8 +149,7 @@ private:
 
     static constexpr std::size_t deepest = mostEntries; // deeper than any entry with a heading can be
     static constexpr std::int16_t noParent = 0;
-    static constexpr std::int16_t missing = 0;      // no heading of this depth
-    static constexpr std::int16_t toldMissing = -1; // one fault for all entries that miss the same heading
+    static constexpr std::int16_t missing = 0; // no heading of this depth
 
     LineReader lines;
     LeadByteTest isLeadByte;

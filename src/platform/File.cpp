@@ -21,7 +21,7 @@ HANDLE Open(const std::string& path, File::Use use) {
     constexpr std::array<Mode, 5> modes{{
         {GENERIC_READ, OPEN_EXISTING},
         {GENERIC_READ | GENERIC_WRITE, OPEN_ALWAYS},
-        {GENERIC_WRITE, CREATE_ALWAYS},
+        {GENERIC_WRITE, OPEN_ALWAYS},
         {GENERIC_WRITE, OPEN_EXISTING},
         {GENERIC_WRITE | DELETE, CREATE_NEW},
     }};
@@ -38,7 +38,10 @@ HANDLE Open(const std::string& path, File::Use use) {
 
 File::File(const std::string& filePath, Use use)
     : path(filePath)
-    , handle(Open(filePath, use)) {}
+    , handle(Open(filePath, use)) {
+    if (use == Use::Truncate)
+        EndHere(); // only now: as it is opened, Windows empties no hidden file
+}
 
 void File::Fail(const char* doing) const {
     ThrowLastError(doing + path);

@@ -35,6 +35,16 @@ std::string SystemFolder(bool of32Bits) {
     return buffer.data();
 }
 
+std::string OwnFile() {
+    std::array<char, MAX_PATH> path;
+    return {path.data(), GetModuleFileNameA(nullptr, path.data(), path.size())};
+}
+
+std::string OwnFolder() {
+    const std::string file = OwnFile();
+    return file.substr(0, FindLastCharacter(file, '\\', CodePageLeadByteTest()) + 1);
+}
+
 std::string EnvironmentVariable(const char* name) {
     std::string value(GetEnvironmentVariableA(name, nullptr, 0), '\0');
     value.resize(GetEnvironmentVariableA(name, value.data(), static_cast<DWORD>(value.size())));

@@ -19,6 +19,12 @@ std::string LoginName();
 /// Windows' own folder of libraries, that of 32-bit programs or of the workstation's own bits.
 std::string SystemFolder(bool of32Bits);
 
+/// The running program.
+std::string OwnFile();
+
+/// The folder of the running program, with a backslash at its end.
+std::string OwnFolder();
+
 /// The value of an environment variable; empty when it is not set.
 std::string EnvironmentVariable(const char* name);
 

@@ -32,12 +32,11 @@ TEST(MenuCheck, FindsEverythingThatIsWrongOrOdd) {
     const std::string utf8 = "text in UTF-8";
     const std::pair<std::string, std::string> cases[] = {
         {"T\r\nA^K\r\nB\r\n>C^L", ""},
-        // Of entries that miss the same heading the first one tells.
         {"T\r\n>A^K\r\n>B^L\r\nC\r\n>D^M\r\n>>>E^N\r\n>>F^O",
-         "E2 " + noHeading + " E6 " + noHeading + " E7 " + noHeading},
+         "E2 " + noHeading + " E3 " + noHeading + " E6 " + noHeading + " E7 " + noHeading},
         {"T\r\nA\r\n>>>B\r\n>>>>C^K\r\n>D^L\r\n>>E^M", "E3 " + noHeading + " E6 " + noHeading},
         {"T\r\n" + std::string(40000, '>') + "A\r\n" + std::string(40001, '>') + "B^K",
-         "E2 " + noHeading + " W2 the heading A holds no program"},
+         "E2 " + noHeading + " W3 more than 20 levels"},
         {"T\r\nA^1\r\nB^1\r\nC^K\r\nD^K\r\nE^K",
          "E2 the key 1 is a number E3 the key 1 is a number E3 the key 1 is there already, in line 2 "
          "E5 the key K is there already, in line 4 E6 the key K is there already, in line 4"},
@@ -51,6 +50,8 @@ TEST(MenuCheck, FindsEverythingThatIsWrongOrOdd) {
         {"T\xC0\xA0\r\nA^K", ""},
         {"T\r\nA^..\\K\r\nB^UB\\..\\L\r\nC^..M\\N..\r\nD^O\\..",
          "W2 the key ..\\K holds \"..\" W3 the key UB\\..\\L holds \"..\" W5 the key O\\.. holds \"..\""},
+        {"T\r\nA^a*b\r\nB^\x81|\r\nC^D/../E", "W2 the key a*b holds a character that no file name may (* ? "
+                                              "\" < |) W4 the key D/../E holds \"..\""},
         {"T\r\nA^C:\\K\r\nB^ L\r\nC^M \r\nD^",
          "W2 the key C:\\K names a drive W3 the key  L begins or ends with "
          "a blank W4 the key M  begins or ends with a blank"},

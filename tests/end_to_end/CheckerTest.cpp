@@ -245,6 +245,7 @@ TEST(Checker, TakesFoldersFilesAndNothingElse) {
         {"other.txt", 1, "other.txt: warning: the name does not end in .mnu"},
         {"--tree other.txt", 1, "  A [K]\r\nother.txt: warning: "},
         {"UB.mnu", 0, "0 errors, 0 warnings in 1 menu file\r\n"},
+        {".", 0, "TesselTemp: warning: this variable is not set"},
         {"--tree UB.mnu", 0,
          "UB.mnu: Utility Billing\r\n  Billing\r\n    Post Payments [UB\\Programs\\Post]\r\n  Backup "
          "[Core\\Programs\\CSBackup]\r\n0 errors"},

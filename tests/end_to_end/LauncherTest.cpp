@@ -352,6 +352,7 @@ TEST(Launcher, WaitsForItsNumberOrWithADamagedOneUntilItIsClosed) {
         Sleep(300); // in which it must not start the host
         EXPECT_EQ(IsWindowEnabled(menu), number != 0) << "asks only the one without a number";
         EXPECT_FALSE(launcher.Shown(noticeTitle));
+        SendMessageA(menu, WM_SETTINGCHANGE, 0, 0); // without any control yet
         PostMessageA(menu, WM_CLOSE, 0, 0);
         EXPECT_EQ(launcher.ExitCode(), 0) << "and neither asks again nor starts it now";
     }

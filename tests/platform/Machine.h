@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/Handle.h"
+#include "platform/Workstation.h"
 
 #include <filesystem>
 #include <stdexcept>
@@ -10,9 +11,7 @@ namespace obrin::test {
 
 /// The program of these tests; those that are tested lie beside it.
 inline std::filesystem::path OwnProgram() {
-    char path[MAX_PATH] = "";
-    GetModuleFileNameA(nullptr, path, sizeof path);
-    return path;
+    return OwnFile();
 }
 
 struct Started {
