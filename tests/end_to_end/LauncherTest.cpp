@@ -169,6 +169,7 @@ TEST(Launcher, SwitchesSystemsAndRemembersTheLast) {
         return (place.left + place.right) / 2;
     };
     EXPECT_NEAR(centre(IDC_LABEL1), centre(IDC_LABEL2), 1);
+    EXPECT_NEAR(centre(IDC_LABEL1), centre(IDC_LABEL3), 1);
     const HWND tree = launcher.Tree();
     EXPECT_EQ(TreeView_GetCount(tree), 2U);
     EXPECT_TRUE(KeepsForeground(launcher.Menu()));

@@ -44,6 +44,10 @@ TEST_F(AboutBox, SaysItsTextsUnclipped) {
                 places.push_back(place);
             }
         }
+        LOGFONTA shape{};
+        GetObjectA(reinterpret_cast<HFONT>(SendDlgItemMessageA(box, IDC_LBL_TITLE, WM_GETFONT, 0, 0)),
+                   sizeof shape, &shape);
+        EXPECT_EQ(shape.lfWeight, FW_BOLD);
         SendMessageA(box, WM_COMMAND, IDOK, 0);
     });
     EXPECT_EQ(texts,

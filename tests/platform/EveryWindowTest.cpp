@@ -57,9 +57,11 @@ TEST_F(EveryWindow, ComesBackFromOtherScreensAsItWas) {
     HostNotice notice(owner, caption, ERROR_BAD_EXE_FORMAT);
     notice.ShowWhenDue();
     const HWND window = FindWindowA(nullptr, "Waiting for Fenn");
+    EXPECT_NE(GetActiveWindow(), window) << "takes the keyboard from nobody";
     test::IsTheSameAfterOtherScreens(window);
-    EXPECT_TRUE(WindowText(GetDlgItem(window, IDC_REASON))
-                    .ends_with(PlatformText(ERROR_BAD_EXE_FORMAT, hostProgram)));
+    const std::string reason = WindowText(GetDlgItem(window, IDC_REASON));
+    EXPECT_TRUE(reason.ends_with(PlatformText(ERROR_BAD_EXE_FORMAT, hostProgram)));
+    EXPECT_EQ(reason.find('\n'), std::string::npos);
 }
 
 BOOL CALLBACK AddAnnounced(HWND control, LPARAM names) {

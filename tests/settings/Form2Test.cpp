@@ -100,6 +100,7 @@ TEST_F(Properties, PagesAreShownByTheirTabsAndReachedByTheKeyboardInFrontOnly) {
          IDC_SLD_MARGIN + 2, IDC_TXT_MARGIN + 3, IDC_SLD_MARGIN + 3}};
     Open(0, [&] {
         const HWND tabs = Item(IDC_TABSTRIP1);
+        EXPECT_EQ(GetFocus(), tabs);
         const HWND pages[] = {GetParent(Item(IDC_TXT_SYSTEM)), GetParent(Item(IDC_TXT_HEIGHT)),
                               GetParent(Item(IDC_TXT_MARGIN))};
         const std::pair<int, const char*> steps[] = {{0, "vvv"}, {1, "-vv"}, {0, "v-v"},
