@@ -58,7 +58,7 @@ std::string ErrorOfMenu() {
         EXPECT_TRUE(Eventually([&] { return errorBox() != nullptr || !IsWindow(menu); }));
     }
     const char* box = errorBox();
-    const std::string texts = box == nullptr ? "" : launcher.Texts(box);
+    std::string texts = box == nullptr ? "" : launcher.Texts(box);
     if (box != nullptr)
         launcher.Press(box, IDOK);
     EXPECT_EQ(launcher.ExitCode(),
