@@ -90,11 +90,11 @@ private:
             Warn("TesselTemp",
                  "this variable is not set here: the Properties dialog keeps settings in \\Ini of the "
                  "drive at hand, or ends the menu with an error; set it on every workstation");
-        else if (FolderExists(temporaryFolder))
-            if (const auto reason = WhyNoFilesIn(temporaryFolder); !reason.empty())
-                Warn(temporaryFolder, "cannot be used for new files (" + reason +
-                                          "): the Properties dialog ends the menu "
-                                          "with an error; give the operators the right to modify it");
+        else if (const auto reason = FolderExists(temporaryFolder) ? WhyNoFilesIn(temporaryFolder) : "";
+                 !reason.empty())
+            Warn(temporaryFolder, "cannot be used for new files (" + reason +
+                                      "): the Properties dialog ends the menu with an error; give the "
+                                      "operators the right to modify it");
     }
 
     void CheckSettings(const std::string& path) {
