@@ -19,7 +19,7 @@ LONGLONG Value(const FILETIME& time) {
 }
 
 double ThreadTime(DWORD id) {
-    const UniqueFile thread(OpenThread(THREAD_QUERY_INFORMATION, FALSE, id));
+    const UniqueHandle thread(OpenThread(THREAD_QUERY_INFORMATION, FALSE, id));
     FILETIME created;
     FILETIME ended;
     FILETIME kernel;
@@ -60,7 +60,7 @@ void Program::AwaitEnd() const {
 
 // Thread by thread: Wine tells the time of another process's threads, but not of the process.
 double Program::CpuTime() const {
-    const UniqueFile snapshot(CreateToolhelp32Snapshot(TH32CS_SNAPTHREAD, 0));
+    const UniqueHandle snapshot(CreateToolhelp32Snapshot(TH32CS_SNAPTHREAD, 0));
     THREADENTRY32 thread{};
     thread.dwSize = sizeof thread;
     double seconds = 0;
@@ -89,7 +89,7 @@ HWND AwaitShown(const char* windowClass) {
 }
 
 void EndHost(HWND host) {
-    const UniqueFile process = ProcessOf(host);
+    const UniqueHandle process = ProcessOf(host);
     PostMessageA(host, WM_CLOSE, 0, 0);
     AwaitProcessEnd(process.get());
 }
@@ -98,10 +98,10 @@ void AwaitProcessEnd(HANDLE process) {
     Await("the end of a process", [=] { return WaitForSingleObject(process, 0) == WAIT_OBJECT_0; });
 }
 
-UniqueFile ProcessOf(HWND window) {
+UniqueHandle ProcessOf(HWND window) {
     DWORD id = 0;
     GetWindowThreadProcessId(window, &id);
-    UniqueFile process(OpenProcess(SYNCHRONIZE, FALSE, id));
+    UniqueHandle process(OpenProcess(SYNCHRONIZE, FALSE, id));
     if (!process)
         ThrowLastError("Opening a window's process");
     return process;

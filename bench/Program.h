@@ -39,7 +39,7 @@ public:
     double PeakMemory() const;
 
 private:
-    UniqueFile process;
+    UniqueHandle process;
     DWORD id = 0;
 };
 
@@ -51,7 +51,7 @@ void EndHost(HWND host);
 /// Waits until the process of a window that is closing is gone.
 void AwaitProcessEnd(HANDLE process);
 /// The process that a window belongs to.
-UniqueFile ProcessOf(HWND window);
+UniqueHandle ProcessOf(HWND window);
 
 /// Throws when a host runs already: it is not ours, and nothing may be measured or ended beside it.
 void RefuseOpenHost();

@@ -207,7 +207,7 @@ std::vector<Row> MeasureResizing() {
     SetEnvironmentVariableA("FENN_START_DELAY_MS", "0");
     frmMain menu;
     menu.Show();
-    const UniqueFile host = ProcessOf(FindWindowA(hostWindowClass, nullptr));
+    const UniqueHandle host = ProcessOf(FindWindowA(hostWindowClass, nullptr));
     SetWindowPos(menu.Window(), nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
 
     std::vector<Row> rows;

@@ -34,7 +34,7 @@ Start StartAndEnd(const std::string& commandLine, const char* windowClass) {
     SendMessageA(window, WM_NULL, 0, 0);
     const double memory = program.PeakMemory();
     // The exit command that it types ends the host too.
-    const UniqueFile host = ProcessOf(FindWindowA(hostWindowClass, nullptr));
+    const UniqueHandle host = ProcessOf(FindWindowA(hostWindowClass, nullptr));
     PostMessageA(window, WM_CLOSE, 0, 0);
     program.AwaitEnd();
     AwaitProcessEnd(host.get());
@@ -42,7 +42,8 @@ Start StartAndEnd(const std::string& commandLine, const char* windowClass) {
 }
 
 // By Wine's own trace, which bench.sh leads into a file: each time that the launcher's thread opens, lists or
-// looks for something below the installation, but for the host's program, which the shell does.
+// looks for something below the installation, but for the host's program, which the shell does, the loading
+// of the support library, and the one question for the folder's short name.
 double CountOpens(std::string_view trace) {
     const std::size_t own = trace.find(":trace:file:CreateFileW L\"UserWSID.sys\"");
     if (own == std::string_view::npos)

@@ -184,8 +184,10 @@ void MenuTree::RightMouseDown() {
             return;
         }
     }
-    // Clicks land where the pointer is by now, and this one may be handled late.
-    if (WindowFromPoint(pointer) != window)
+    // Clicks land where the pointer is by now, and this one may be handled late. A scroll bar is the tree's,
+    // too.
+    if (WindowFromPoint(pointer) != window ||
+        SendMessageA(window, WM_NCHITTEST, 0, MAKELPARAM(pointer.x, pointer.y)) != HTCLIENT)
         return;
     rightClickLatch = GetTickCount();
     // A left click selects the node under the pointer; the right click behind it comes back here.

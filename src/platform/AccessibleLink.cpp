@@ -1,8 +1,8 @@
 #include "platform/AccessibleLink.h"
 
-#include <oleacc.h>
+#include "platform/Handle.h"
 
-#include <memory>
+#include <oleacc.h>
 
 namespace obrin {
 
@@ -126,13 +126,10 @@ public:
     STDMETHOD(put_accValue)(VARIANT, BSTR) override { return DISP_E_MEMBERNOTFOUND; }
 
 private:
-    struct ReleaseObject {
-        void operator()(IAccessible* object) const { object->Release(); }
-    };
     ~AccessibleLink() = default;
 
     HWND label;
-    std::unique_ptr<IAccessible, ReleaseObject> standard;
+    UniqueObject<IAccessible> standard;
     ULONG references = 1; // used by the window's thread alone
 };
 

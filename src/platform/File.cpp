@@ -132,7 +132,7 @@ void File::DeleteWhenClosed() noexcept {
 }
 
 void File::Close() {
-    if (!CloseHandle(handle.release()))
+    if (!CloseHandle(handle.release())) // of which only this way tells how it went
         Fail("Writing ");
 }
 

@@ -3,6 +3,8 @@
 
 #include "platform/WindowsApi.h"
 
+#include <oleauto.h>
+
 #include <memory>
 #include <type_traits>
 
@@ -25,6 +27,15 @@ struct DeleteGdiObject {
 struct DestroyIconHandle {
     void operator()(HICON icon) const { DestroyIcon(icon); }
 };
+struct UnloadLibrary {
+    void operator()(HMODULE library) const { FreeLibrary(library); }
+};
+struct FreeString {
+    void operator()(OLECHAR* text) const { SysFreeString(text); }
+};
+struct ReleaseObject {
+    void operator()(IUnknown* object) const { object->Release(); }
+};
 struct DeleteMemoryDc {
     void operator()(HDC context) const { DeleteDC(context); }
 };
@@ -37,5 +48,9 @@ using UniqueFont = std::unique_ptr<std::remove_pointer_t<HFONT>, DeleteGdiObject
 using UniqueBitmap = std::unique_ptr<std::remove_pointer_t<HBITMAP>, DeleteGdiObject>;
 using UniqueIcon = std::unique_ptr<std::remove_pointer_t<HICON>, DestroyIconHandle>;
 using UniqueDc = std::unique_ptr<std::remove_pointer_t<HDC>, DeleteMemoryDc>;
+using UniqueLibrary = std::unique_ptr<std::remove_pointer_t<HMODULE>, UnloadLibrary>;
+using UniqueString = std::unique_ptr<OLECHAR, FreeString>; // a BSTR
+template <class Interface>
+using UniqueObject = std::unique_ptr<Interface, ReleaseObject>; // of COM
 
 } // namespace obrin

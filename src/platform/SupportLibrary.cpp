@@ -2,8 +2,6 @@
 
 #include "platform/Failure.h"
 
-#include <oleauto.h>
-
 namespace obrin {
 
 namespace {
@@ -40,10 +38,7 @@ SupportLibrary::SupportLibrary()
 
 std::string SupportLibrary::GetRegValue(HKEY root, const char* keyPath, const char* valueName) const {
     // The library's strings hold bytes of the code page, not wide characters.
-    struct FreeString {
-        void operator()(wchar_t* text) const { SysFreeString(text); }
-    };
-    const std::unique_ptr<wchar_t, FreeString> text(getRegValue(root, keyPath, valueName));
+    const UniqueString text(getRegValue(root, keyPath, valueName));
     return {reinterpret_cast<const char*>(text.get()), SysStringByteLen(text.get())};
 }
 

@@ -1,9 +1,8 @@
 // The suite's support library, Corvel.dll: registry text under HKEY_LOCAL_MACHINE.
 #pragma once
 
-#include "platform/WindowsApi.h"
+#include "platform/Handle.h"
 
-#include <memory>
 #include <string>
 
 namespace obrin {
@@ -23,11 +22,8 @@ public:
 private:
     using GetRoutine = wchar_t*(__stdcall*)(HKEY, const char*, const char*);
     using SetRoutine = LONG(__stdcall*)(HKEY, const char*, const char*, const char*);
-    struct Unload {
-        void operator()(HMODULE module) const { FreeLibrary(module); }
-    };
 
-    std::unique_ptr<std::remove_pointer_t<HMODULE>, Unload> library;
+    UniqueLibrary library;
     GetRoutine getRegValue;
     SetRoutine setRegValue;
 };

@@ -11,6 +11,8 @@ namespace obrin {
 void HostLink::StartHost(HWND menu, std::int16_t wsid, const std::function<void()>& meanwhile) {
     // Waited for all the same when the start is refused: somebody may start it by hand.
     const DWORD refusal = Open(menu, hostProgram, HostStartArguments(wsid).c_str());
+    if (!IsWindow(menu))
+        return; // closed while Windows asked whether the host may be started
     meanwhile();
     const std::string caption = StationCaption(wsid);
     HostNotice notice(menu, caption, refusal);

@@ -119,7 +119,8 @@ bool Installation::HostTypesLast(const std::string& line) const {
 
 void Installation::EndHost() const {
     for (const std::string& process : Logged("process")) {
-        if (const UniqueFile host{OpenProcess(PROCESS_TERMINATE | SYNCHRONIZE, FALSE, std::stoul(process))}) {
+        if (const UniqueHandle host{
+                OpenProcess(PROCESS_TERMINATE | SYNCHRONIZE, FALSE, std::stoul(process))}) {
             TerminateProcess(host.get(), 0);
             WaitForSingleObject(host.get(), 5000);
         }
