@@ -28,9 +28,13 @@ inline Started Start(const std::filesystem::path& program, const std::string& ar
     startup.hStdOutput = startup.hStdError = output;
     PROCESS_INFORMATION process{};
     std::string line = '"' + program.string() + "\" " + arguments;
-    if (!CreateProcessA(nullptr, line.data(), nullptr, nullptr, output != nullptr, CREATE_NO_WINDOW, nullptr,
-                        nullptr, &startup, &process))
-        throw std::runtime_error(line + " does not start");
+    // Wine fails to start one now and then on a loaded machine.
+    for (int tries = 1; !CreateProcessA(nullptr, line.data(), nullptr, nullptr, output != nullptr,
+                                        CREATE_NO_WINDOW, nullptr, nullptr, &startup, &process);
+         ++tries) {
+        if (tries == 3)
+            throw std::runtime_error(line + " does not start: error " + std::to_string(GetLastError()));
+    }
     return {UniqueHandle(process.hProcess), UniqueHandle(process.hThread), process.dwProcessId};
 }
 
