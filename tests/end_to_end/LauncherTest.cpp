@@ -102,8 +102,11 @@ TEST(Launcher, RunsProgramsAndUpdatesTheWorkstationOnce) {
     // The second one is handled by the events of the update that the first one begins.
     for (int i = 0; i < 2; ++i)
         PostMessageA(tree, WM_CHAR, VK_RETURN, 0);
-    EXPECT_TRUE(Eventually(
-        [&] { return launcher.Texts(title).find("Updating:\r\nComplete\n") != std::string::npos; }));
+    EXPECT_TRUE(Eventually([&] {
+        return launcher.Texts(title).find("Updating:\r\nComplete\nWe have detect a workstation update is "
+                                          "available. We are now updating your files.\n") !=
+               std::string::npos;
+    }));
     RECT menu, update;
     GetWindowRect(launcher.Menu(), &menu);
     GetWindowRect(launcher.Window(title), &update);

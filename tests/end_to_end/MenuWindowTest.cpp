@@ -160,7 +160,8 @@ TEST(MenuWindowHere, IsTheSameOnEveryScreenAndForEveryReader) {
 
     EXPECT_EQ(Announced(link), (std::pair<std::string, LONG>("E-Mail us!", ROLE_SYSTEM_LINK)));
     EXPECT_EQ(GetFocus(), link) << "as the reader asked";
-    EXPECT_TRUE(GetWindowStyle(tree) & TVS_SHOWSELALWAYS) << "what the button runs is always seen";
+    constexpr DWORD seen = TVS_HASBUTTONS | TVS_SHOWSELALWAYS; // what opens, and what the button runs
+    EXPECT_EQ(GetWindowStyle(tree) & seen, seen);
     EXPECT_NE(Announced(tree).first, "") << "though its text is shown nowhere";
     EXPECT_EQ(GetNextDlgTabItem(window, button, FALSE), link);
     EXPECT_EQ(GetNextDlgTabItem(window, link, FALSE), tree);

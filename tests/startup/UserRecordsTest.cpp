@@ -22,6 +22,7 @@ TEST(UserRecords, ScanCountsRecordsAndLetsTheLastMatchWin) {
         {"", 0, 0},
         {anna + other, 3, 2},
         {anna + other + UserWsidRecord("anna", 9), 9, 3},
+        {anna + UserWsidRecord("annabel", 7), 3, 2},
         {"x" + anna, 0, 1},                    // found at multiples of 202 only
         {other + anna.substr(0, 102), 3, 2},   // a last slot may stop behind its number
         {other + anna.substr(0, 101), 0, 1},   // a fragment is no record
