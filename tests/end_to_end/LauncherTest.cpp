@@ -325,7 +325,8 @@ TEST(Launcher, CanBeClosedByTheNoticeThatItWaits) {
             DeleteFileA("Fenn.exe");
         const Launcher launcher;
         const std::string texts = launcher.Texts(noticeTitle);
-        for (const std::string& part : {std::string("Fenn.exe"), std::string("Obrin-05"), CurrentFolder()})
+        for (const std::string& part :
+             {std::string("as soon as Fenn.exe shows its window Obrin-05."), CurrentFolder()})
             EXPECT_NE(texts.find(part), std::string::npos) << texts;
         EXPECT_EQ(texts.find("could not be started: ") != std::string::npos, never == nullptr) << texts;
         const HWND notice = launcher.Window(noticeTitle);

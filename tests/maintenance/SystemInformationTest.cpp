@@ -23,7 +23,7 @@ const bool startedAsTool = [] {
     STARTUPINFOA window;
     GetStartupInfoA(&window);
     const bool normal = (window.dwFlags & STARTF_USESHOWWINDOW) != 0 && window.wShowWindow == SW_SHOWNORMAL;
-    ReplaceFileBytes(report, test::OwnProgram().string() + (normal ? " normal" : " otherwise"));
+    ReplaceFileBytes(report, GetCommandLineA() + std::string(normal ? " normal" : " otherwise"));
     ExitProcess(0);
 }();
 
@@ -77,7 +77,7 @@ TEST_F(SystemInfo, StartsWhatThePathNamesAndOnlyWithoutAPathTheToolInItsFolder) 
     for (const auto& [path, toolFolder, started, type] : cases) {
         machine.Set("SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", "PATH", type, path);
         machine.Set("SOFTWARE\\Microsoft\\Shared Tools Location", "MSINFO", REG_SZ, toolFolder);
-        EXPECT_EQ(Launch(), started.empty() ? unavailable : here + started + " normal")
+        EXPECT_EQ(Launch(), started.empty() ? unavailable : '"' + here + started + "\" normal")
             << path.substr(0, 100) << (FileExists(here + started) ? " is there" : " is missing");
     }
 }
