@@ -175,12 +175,10 @@ private:
                  "program's path without it");
         if (FindByte(entry.key, ':') != std::string_view::npos)
             warn(" names a drive: the Properties dialog of this program ends the menu with an error; write "
-                 "its path "
-                 "from the host's folder on");
+                 "its path from the host's folder on");
         if (HoldsWhatNoFileNameMay(entry.key, codePage.isLeadByte))
             warn(" holds a character that no file name may (* ? \" < |): the Properties dialog of this "
-                 "program ends "
-                 "the menu with an error; name the program otherwise");
+                 "program ends the menu with an error; name the program otherwise");
         if (TrimBlanks(entry.key).size() != entry.key.size())
             warn(" begins or ends with a blank: the blank is typed into the host too; remove it");
     }

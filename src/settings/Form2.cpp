@@ -10,8 +10,6 @@
 #include "settings/Margins.h"
 #include "settings/SettingsStore.h"
 
-#include <algorithm>
-
 namespace obrin {
 
 namespace {
