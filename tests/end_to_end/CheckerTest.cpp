@@ -22,14 +22,15 @@ namespace {
 
 using namespace std::string_literals;
 
-// Runs the checker in the current folder: its output, through a pipe, and its exit code.
-std::pair<std::string, DWORD> RunChecker(const std::string& arguments = "") {
+// Runs the checker in the current folder: its output or its complaints, through a pipe, and its exit code.
+std::pair<std::string, DWORD> RunChecker(const std::string& arguments = "", bool complaints = false) {
     SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
     HANDLE readEnd = nullptr, writeEnd = nullptr;
     CreatePipe(&readEnd, &writeEnd, &inherited, 0);
     const UniqueFile reader(readEnd);
     UniqueFile writer(writeEnd);
-    const Started checker = Start(OwnProgram().replace_filename("ObrinCheck.exe"), arguments, writeEnd);
+    const Started checker = Start(OwnProgram().replace_filename("ObrinCheck.exe"), arguments,
+                                  complaints ? nullptr : writeEnd, complaints ? writeEnd : nullptr);
     writer.reset();
     std::string output;
     std::array<char, 4096> part{};
@@ -255,7 +256,7 @@ TEST(Checker, TakesFoldersFilesAndNothingElse) {
         {"--help", 0, "usage: ObrinCheck"},
     };
     for (const auto& [arguments, exitCode, output] : cases) {
-        const auto [written, code] = RunChecker(arguments);
+        const auto [written, code] = RunChecker(arguments, exitCode == 2);
         EXPECT_EQ(code, exitCode) << arguments;
         EXPECT_NE(written.find(output), std::string::npos) << arguments << written;
     }

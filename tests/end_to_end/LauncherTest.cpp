@@ -156,7 +156,7 @@ TEST(Launcher, RunsProgramsAndUpdatesTheWorkstationOnce) {
 
 TEST(Launcher, SwitchesSystemsAndRemembersTheLast) {
     const Installation installation(5);
-    WriteFileBytes("ZZ.mnu", "  Zoning  ^x\r\nFirst^ZZ\\One\r\nLast^ZZ\\Two\r\n");
+    WriteFileBytes("ZZ.mnu", "  Zoning  ^x\r\nFirst^ZZ\\One\r\nNext^ZZ\\Two\r\nLast^K\r\n");
     RememberSystem("UB.mnu");
     SetEnvironmentVariableA("FENN_HANG", "LOAD CORE\\PROGRAMS\\CSBACKUP");
     SetEnvironmentVariableA("FENN_HANG_MS", "500");
@@ -174,7 +174,7 @@ TEST(Launcher, SwitchesSystemsAndRemembersTheLast) {
     EXPECT_NEAR(centre(IDC_LABEL1), centre(IDC_LABEL2), 1);
     EXPECT_NEAR(centre(IDC_LABEL1), centre(IDC_LABEL3), 1);
     const HWND tree = launcher.Tree();
-    EXPECT_EQ(TreeView_GetCount(tree), 2U);
+    EXPECT_EQ(TreeView_GetCount(tree), 3U);
     EXPECT_TRUE(KeepsForeground(launcher.Menu()));
     Key(VK_DOWN);
     EXPECT_TRUE(Eventually([&] {
@@ -194,14 +194,16 @@ TEST(Launcher, SwitchesSystemsAndRemembersTheLast) {
 TEST(Launcher, ShowsTheRememberedSystemWhileItsFileIsThere) {
     if (!MayRememberSystem())
         GTEST_SKIP() << "no right to write the registry's local machine";
-    const std::pair<const char*, const char*> cases[] = {
-        {"Ledger.txt", "LE"}, {"gone.mnu", "UB"}, {"Core", "UB"}, {"*.mnu", "UB"}, {" Ledger.txt ", "LE"}};
-    for (const auto& [remembered, code] : cases) {
+    const std::pair<const char*, bool> cases[] = {
+        {"Ledger.txt", true}, {"gone.mnu", false}, {"Core", false}, {"*.mnu", false}, {" Ledger.txt ", true}};
+    for (const auto& [remembered, isThere] : cases) {
         const Installation installation(5);
+        WriteFileBytes("AA.mnu", "Assets\r\n");
+        const std::string first = EnumerateMenuFiles().front().name.substr(0, 2);
         WriteFileBytes("Ledger.txt", "General Ledger\r\n"); // it need not look like a menu file
         RememberSystem(remembered);
         const Launcher launcher;
-        EXPECT_TRUE(installation.HostTypesLast(code)) << remembered;
+        EXPECT_TRUE(installation.HostTypesLast(isThere ? "LE" : first)) << remembered;
     }
 }
 
@@ -217,6 +219,7 @@ TEST(Launcher, RightClickSelectsAndOffersThePopup) {
         Key('H');
         EXPECT_NE(launcher.Texts("Warning").find("Option not available. In Developement."),
                   std::string::npos);
+        EXPECT_FALSE(IsWindowEnabled(launcher.Menu()));
         launcher.Press("Warning", IDOK);
     };
     ClickRow(tree, 1, 0, rightClick);

@@ -100,11 +100,12 @@ TEST_F(MenuWindow, PointerIsACrosshairFromTheLinkToTheBackground) {
 
 // In the place of the shell's, for what this process opens: programs are started, documents only noted.
 std::string documents;
-HINSTANCE WINAPI OpenHere(HWND, const char*, const char* file, const char* parameters, const char*, int) {
+HINSTANCE WINAPI OpenHere(HWND, const char*, const char* file, const char* parameters, const char*,
+                          int show) {
     if (parameters != nullptr)
         Start(std::filesystem::current_path() / file, parameters);
     else
-        documents.append(file).append(" ");
+        documents.append(file).append(show == SW_SHOWNORMAL ? " " : "?");
     return reinterpret_cast<HINSTANCE>(INT_PTR{42});
 }
 
@@ -160,6 +161,10 @@ TEST(MenuWindowHere, IsTheSameOnEveryScreenAndForEveryReader) {
 
     EXPECT_EQ(Announced(link), (std::pair<std::string, LONG>("E-Mail us!", ROLE_SYSTEM_LINK)));
     EXPECT_EQ(GetFocus(), link) << "as the reader asked";
+    const HDC screen = GetDC(link);
+    SendMessageA(window, WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(screen), reinterpret_cast<LPARAM>(link));
+    EXPECT_EQ(GetTextColor(screen), GetSysColor(COLOR_HOTLIGHT));
+    ReleaseDC(link, screen);
     constexpr DWORD seen = TVS_HASBUTTONS | TVS_SHOWSELALWAYS; // what opens, and what the button runs
     EXPECT_EQ(GetWindowStyle(tree) & seen, seen);
     EXPECT_NE(Announced(tree).first, "") << "though its text is shown nowhere";

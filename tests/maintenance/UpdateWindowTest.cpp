@@ -62,7 +62,8 @@ TEST_F(UpdateWindow, CopiesOnceAndAgainOnEveryResizeAndEntersTheWorkstation) {
     WriteFileBytes("Local\\Glass.exe", "old version");
     Update(5, [](HWND window, std::size_t shown) {
         EXPECT_TRUE(IsWindowVisible(window));
-        EXPECT_EQ(IsWindowVisible(GetDlgItem(window, IDOK)) != FALSE, shown > 6) << "once all are copied";
+        const HWND okay = GetDlgItem(window, IDOK);
+        EXPECT_EQ(IsWindowVisible(okay) && GetFocus() == okay, shown > 6) << "once all are copied";
         // The notification alone: how often a display tells of a real resize is its own affair.
         if (captions.back() == "Complete" && shown < 18)
             SendMessageA(window, WM_SIZE, SIZE_RESTORED, 0);
@@ -93,7 +94,7 @@ TEST_F(UpdateWindow, ClosedWhileCopyingStillCopiesTheRest) {
 TEST_F(UpdateWindow, EndOfTheMenuWhileCopyingEntersNothing) {
     Update(5, [this](HWND, std::size_t shown) {
         if (shown == 2)
-            DestroyWindow(owner);
+            PostMessageA(owner, WM_CLOSE, 0, 0);
     });
     EXPECT_EQ(ReadFileBytes("Updated.txt"), "");
     EXPECT_TRUE(FileExists("Local\\Sweeper.exe"));

@@ -52,7 +52,16 @@ protected:
 };
 
 TEST_F(EveryWindow, ComesBackFromOtherScreensAsItWas) {
-    ForEachDialog(test::IsTheSameAfterOtherScreens);
+    ForEachDialog([](HWND dialog) {
+        RECT place, work;
+        GetWindowRect(dialog, &place);
+        SystemParametersInfoA(SPI_GETWORKAREA, 0, &work, 0);
+        if (GetDlgItem(dialog, IDC_LABEL1) == nullptr) { // that one stands beside its owner's corner
+            EXPECT_NEAR(place.left + place.right, work.left + work.right, 2);
+            EXPECT_NEAR(place.top + place.bottom, work.top + work.bottom, 2);
+        }
+        test::IsTheSameAfterOtherScreens(dialog);
+    });
     const std::string caption = "Obrin-05";
     HostNotice notice(owner, caption, ERROR_BAD_EXE_FORMAT);
     notice.ShowWhenDue();

@@ -19,18 +19,21 @@ struct Started {
     DWORD id;
 };
 
-/// Starts a program, with what it writes going to `output` if that is given. Throws when it cannot.
+/// Starts a program, with what it writes going to `output`, or what it complains of to `errors`, if that is
+/// given. Throws when it cannot.
 inline Started Start(const std::filesystem::path& program, const std::string& arguments = "",
-                     HANDLE output = nullptr) {
+                     HANDLE output = nullptr, HANDLE errors = nullptr) {
     STARTUPINFOA startup{};
     startup.cb = sizeof startup;
-    startup.dwFlags = output != nullptr ? STARTF_USESTDHANDLES : 0U;
-    startup.hStdOutput = startup.hStdError = output;
+    const bool redirected = output != nullptr || errors != nullptr;
+    startup.dwFlags = redirected ? STARTF_USESTDHANDLES : 0U;
+    startup.hStdOutput = output;
+    startup.hStdError = errors;
     PROCESS_INFORMATION process{};
     std::string line = '"' + program.string() + "\" " + arguments;
     // Wine fails to start one now and then on a loaded machine.
-    for (int tries = 1; !CreateProcessA(nullptr, line.data(), nullptr, nullptr, output != nullptr,
-                                        CREATE_NO_WINDOW, nullptr, nullptr, &startup, &process);
+    for (int tries = 1; !CreateProcessA(nullptr, line.data(), nullptr, nullptr, redirected, CREATE_NO_WINDOW,
+                                        nullptr, nullptr, &startup, &process);
          ++tries) {
         if (tries == 3)
             throw std::runtime_error(line + " does not start: error " + std::to_string(GetLastError()));

@@ -27,6 +27,9 @@ TEST(SupportLibrary, KeepsTextsInTheRegistry) {
         EXPECT_EQ(type, DWORD{REG_SZ});
         EXPECT_EQ(size, text.size() + 1) << "stored with its NUL";
     }
+    const auto set = reinterpret_cast<LONG(__stdcall*)(HKEY, const char*, const char*, const char*)>(
+        GetProcAddress(GetModuleHandleA("Corvel.dll"), "SetRegValue"));
+    EXPECT_NE(set(nullptr, key, "Text", ""), 0) << "the suite's programs are told";
     machine.Set(key, "Number", REG_DWORD, "abcd");
     EXPECT_EQ(corvel.GetRegValue(HKEY_LOCAL_MACHINE, key, "Number"), "") << "no text";
     machine.Set(key, "Open", REG_EXPAND_SZ, "%TEMP%"); // stored without its NUL, and not expanded
@@ -101,6 +104,11 @@ TEST(GroupBox, PaintsWhatIsBehindAThemedButtonInIt) {
     for (int pixel = 0; pixel < width * height; ++pixel)
         EXPECT_NE(GetPixel(memory.get(), pixel % width, pixel / width), RGB(0, 0, 0)) << pixel;
     SelectObject(memory.get(), old);
+    ShowWindow(box, SW_SHOWNOACTIVATE);
+    UpdateWindow(box);
+    const HDC shown = GetDC(box);
+    EXPECT_EQ(GetPixel(shown, 100, 90), GetSysColor(COLOR_BTNFACE));
+    ReleaseDC(box, shown);
     DestroyWindow(box);
 }
 

@@ -225,6 +225,7 @@ TEST_F(Properties, MarginsAreTypedKeyByKeyAndStayUnlessTheSliderHasTheirValue) {
             EXPECT_EQ(Text(IDC_TXT_MARGIN), left);
             EXPECT_EQ(Send(IDC_SLD_MARGIN, TBM_GETPOS), slider) << typed;
         }
+        EXPECT_EQ(Send(IDC_SLD_MARGIN, TBM_GETNUMTICS), 16) << "a quarter of an inch apart";
         Press(IDC_APPLY);
         EXPECT_TRUE(Saved("TopMargin         =     2.05")) << "the slider's value, not the text";
         EXPECT_EQ(Margin(1), "0.5 500") << "the others stay";
