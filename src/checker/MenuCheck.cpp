@@ -31,6 +31,8 @@ const char* AdviceOn(MenuFault::Kind kind) {
 }
 
 bool NamesFolderAbove(std::string_view key, LeadByteTest isLeadByte) {
+    if (key.find("..") == std::string_view::npos)
+        return false;
     for (std::size_t start = 0; start <= key.size();) {
         // For a file name "/" separates as well.
         const auto end =
@@ -44,9 +46,8 @@ bool NamesFolderAbove(std::string_view key, LeadByteTest isLeadByte) {
 
 // But for ":", which names a drive.
 bool HoldsWhatNoFileNameMay(std::string_view key, LeadByteTest isLeadByte) {
-    return std::ranges::any_of(std::string_view("*?\"<|"), [&](char character) {
-        return FindCharacter(key, character, isLeadByte) != std::string_view::npos;
-    });
+    return key.find_first_of("*?\"<") != std::string_view::npos ||
+           FindCharacter(key, '|', isLeadByte) != std::string_view::npos;
 }
 
 class Checker : public MenuSink {
@@ -173,7 +174,7 @@ private:
             warn(" holds \"..\": the program's settings file may lie outside of the folder for these; write "
                  "the "
                  "program's path without it");
-        if (FindByte(entry.key, ':') != std::string_view::npos)
+        if (entry.key.find(':') != std::string_view::npos)
             warn(" names a drive: the Properties dialog of this program ends the menu with an error; write "
                  "its path from the host's folder on");
         if (HoldsWhatNoFileNameMay(entry.key, codePage.isLeadByte))

@@ -61,6 +61,22 @@ private:
     std::vector<std::uint16_t> places; // a power of two; each with the number of a key, from 1, or free
 };
 
+// Texts that outlive their line, many to a block: a block for each would take longer than the parse.
+class KeptTexts {
+public:
+    std::string_view Keep(std::string_view text) {
+        if (blocks.empty() || blocks.front().capacity() - blocks.front().size() < text.size())
+            blocks.emplace_front().reserve(std::max(text.size(), usualBlock));
+        std::string& block = blocks.front();
+        block += text;
+        return std::string_view(block).substr(block.size() - text.size());
+    }
+
+private:
+    static constexpr std::size_t usualBlock = 65536;
+    std::forward_list<std::string> blocks; // none grows beyond the room that it was made with
+};
+
 class Parser {
 public:
     Parser(LineReader file, LeadByteTest leadByteTest, MenuSink& taker)
@@ -110,9 +126,10 @@ private:
             entry.isProgram = true;
             entry.text = wholeLine.substr(depth, separator - depth);
             entry.key = FirstField(wholeLine.substr(separator + 1), isLeadByte); // more fields mean nothing
-            entry.keyIsCopy = !lines.LinesLast() || entry.key.find(depthMark) != std::string_view::npos;
+            const bool isMarked = entry.key.find(depthMark) != std::string_view::npos;
+            entry.keyIsCopy = isMarked || !lines.LinesLast();
             if (entry.keyIsCopy)
-                entry.key = ownKeys.emplace_front(WithoutDepthMarks(entry.key));
+                entry.key = ownKeys.Keep(isMarked ? WithoutDepthMarks(entry.key) : entry.key);
             CheckKey(entry.key);
         } else {
             // Headings deeper than this one are closed.
@@ -158,7 +175,7 @@ private:
     std::int16_t counter = 0;                       // of entry lines; the tree index of the entry at hand
     std::vector<std::int16_t> headings = {missing}; // per depth the last heading's tree index
     KeyLines keyLines;
-    std::forward_list<std::string> ownKeys; // marked ones, and those that outlive their line
+    KeptTexts ownKeys; // marked ones, and those that outlive their line
 };
 
 // Keeps everything and ends with the first fault.
