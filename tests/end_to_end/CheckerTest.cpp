@@ -172,10 +172,10 @@ Lines Faulty(const std::string& section) {
 // Makes each faulty installation of a section and compares: an error of the checker's, and the menu ends with
 // one about the same file and line; none, and the menu does not.
 void Compare(const std::string& section) {
-    SetEnvironmentVariableA("TesselTemp", ".");
     for (const std::string& line : Faulty(section)) {
         SCOPED_TRACE(line.substr(0, 200));
         const Installation installation(5);
+        SetEnvironmentVariableA("TesselTemp", ".");
         UniqueFile held;
         Lines steps = Split(line, " | ");
         const std::string finding = Meant(steps.front());
@@ -208,7 +208,7 @@ void Compare(const std::string& section) {
                 named.replace(lineNumber, 1, ", line ");
                 named = PlatformText(ERROR_INVALID_DATA) + "\r\n\r\n" + named + ": " +
                         output.substr(text, output.find_first_of(",:\r", text) - text);
-            } else if (finding == "FennConfig.Sys: error: missing") {
+            } else if (finding.starts_with("FennConfig.Sys: error: missing")) {
                 named = "Config File Not found!"; // of which the menu tells before all others
             }
             EXPECT_NE(error.find(named), std::string::npos) << error;
@@ -217,7 +217,6 @@ void Compare(const std::string& section) {
         for (const auto& [path, times] : Everything())
             SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
     }
-    SetEnvironmentVariableA("TesselTemp", nullptr);
 }
 
 TEST(Checker, SaysOfMenuFilesWhatTheMenuDoes) {
@@ -236,12 +235,15 @@ TEST(Checker, TakesFoldersFilesAndNothingElse) {
     const Installation installation(5);
     CreateFolder("empty");
     WriteFileBytes("other.txt", "T\r\n>A^K");
+    WriteFileBytes("Local\\ZZ.mnu", "T\r\n>A^K");
     struct {
         const char* arguments;
         DWORD exitCode;
         const char* output; // somewhere in it
     } const cases[] = {
         {"empty", 1, "empty\\FennConfig.Sys: error: missing"},
+        {"empty", 1, "3 errors, 1 warning in 0 menu files\r\n"},
+        {"Local", 1, "Local\\ZZ.mnu:2: error: there is no heading"},
         {"UB.mnu .\\other.txt", 1, ".\\other.txt:2: error: there is no heading"},
         {"other.txt", 1, "other.txt: warning: the name does not end in .mnu"},
         {"--tree other.txt", 1, "  A [K]\r\nother.txt: warning: "},
@@ -251,9 +253,10 @@ TEST(Checker, TakesFoldersFilesAndNothingElse) {
          "UB.mnu: Utility Billing\r\n  Billing\r\n    Post Payments [UB\\Programs\\Post]\r\n  Backup "
          "[Core\\Programs\\CSBackup]\r\n0 errors"},
         {"nowhere", 2, "ObrinCheck: nowhere: "},
-        {"*.none", 2, "ObrinCheck: *.none: "},
+        {"\"\"", 2, "usage: ObrinCheck [--tree] [FOLDER | FILE.mnu]...\r\n"},
         {"--trees", 2, "usage: ObrinCheck"},
-        {"--help", 0, "usage: ObrinCheck"},
+        {"--help", 0, "Exit code: 0 nothing or warnings only, 1 errors, 2 wrong arguments or nothing there"},
+        {"/?", 0, "usage: ObrinCheck"},
     };
     for (const auto& [arguments, exitCode, output] : cases) {
         const auto [written, code] = RunChecker(arguments, exitCode == 2);

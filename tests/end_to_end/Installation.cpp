@@ -88,7 +88,8 @@ Installation::Installation(int wsid) {
         WriteFileBytes("UserWSID.sys", UserWsidRecord(LoginName(), static_cast<std::int16_t>(wsid)));
         WriteFileBytes("Updated.txt", "005");
     }
-    for (const char* variable : {"FENN_WINDOW_DELAY_MS", "FENN_NEVER", "FENN_HANG", "FENN_HANG_MS"})
+    for (const char* variable :
+         {"FENN_WINDOW_DELAY_MS", "FENN_NEVER", "FENN_HANG", "FENN_HANG_MS", "TesselTemp"})
         SetEnvironmentVariableA(variable, nullptr);
     SetEnvironmentVariableA("FENN_LOG", logFile);
     SetEnvironmentVariableA("FENN_START_DELAY_MS", "20");

@@ -57,7 +57,6 @@ TEST(Launcher, FirstDayOfAUser) {
     WriteFileBytes("UserWSID.sys", other.substr(0, 102)); // the last record may be so short
     const Launcher launcher;
     const std::string title = "Please Select a WSID";
-    EXPECT_TRUE(GetWindowExStyle(launcher.Window(title)) & WS_EX_APPWINDOW) << "has a taskbar button";
     EXPECT_TRUE(launcher.Texts(title).starts_with(
         "Hello " + user +
         ", we have detected this is your first entry into Obrin what would you like your "
@@ -136,14 +135,16 @@ TEST(Launcher, RunsProgramsAndUpdatesTheWorkstationOnce) {
     const HTREEITEM heading = TreeView_GetRoot(tree);
     TreeView_SelectItem(tree, heading);
     launcher.Send(WM_COMMAND, IDC_COMMAND1);
-    TreeView_Expand(tree, heading, TVE_EXPAND);
+    ClickRow(tree, 0, 0, leftClick, 2);
+    EXPECT_TRUE(Eventually(
+        [&] { return TreeView_GetNextVisible(tree, heading) == TreeView_GetChild(tree, heading); }));
     const std::function<void()> ways[] = {
         [&] { ClickRow(tree, 1, 1, leftClick, 2); },
         [&] {
             EXPECT_TRUE(KeepsForeground(launcher.Menu()));
             Key(VK_RETURN);
         },
-        [&] { launcher.Send(WM_COMMAND, IDC_COMMAND1); },
+        [&] { PostMessageA(GetDlgItem(GetParent(tree), IDC_COMMAND1), BM_CLICK, 0, 0); },
     };
     for (const auto& run : ways) {
         run();
@@ -209,13 +210,20 @@ TEST(Launcher, ShowsTheRememberedSystemWhileItsFileIsThere) {
 
 TEST(Launcher, RightClickSelectsAndOffersThePopup) {
     const Installation installation(5);
+    SetEnvironmentVariableA("TesselTemp", ".");
     const Launcher launcher;
     ASSERT_TRUE(installation.HostTypesLast("UB"));
     const HWND tree = launcher.Tree();
+    SetWindowPos(launcher.Menu(), HWND_TOP, 0, 0, 0, 0, SWP_NOSIZE);
     SetForegroundWindow(launcher.Menu());
     const auto popupIsShown = [] { return IsWindowVisible(FindWindowA("#32768", nullptr)) != FALSE; };
     const auto chooseHelp = [&] {
         ASSERT_TRUE(Eventually(popupIsShown));
+        RECT popup;
+        POINT pointer;
+        GetWindowRect(FindWindowA("#32768", nullptr), &popup);
+        GetCursorPos(&pointer);
+        EXPECT_NEAR(popup.top, pointer.y, TreeView_GetItemHeight(tree)) << "at the program";
         Key('H');
         EXPECT_NE(launcher.Texts("Warning").find("Option not available. In Developement."),
                   std::string::npos);
@@ -227,6 +235,13 @@ TEST(Launcher, RightClickSelectsAndOffersThePopup) {
     EXPECT_TRUE(KeepsForeground(launcher.Menu()));
     Key(VK_APPS);
     chooseHelp();
+    EXPECT_TRUE(KeepsForeground(launcher.Menu()));
+    Key(VK_APPS);
+    ASSERT_TRUE(Eventually(popupIsShown));
+    Key('P');
+    EXPECT_EQ(GetWindow(launcher.Window("Properties"), GW_OWNER), launcher.Menu());
+    EXPECT_TRUE(FileExists("Ini\\Core\\Programs\\CSBackup.ini"));
+    launcher.Press("Properties", IDCANCEL);
     // A click that is handled when the pointer is elsewhere: the one after it is a click like any other.
     PointAt({0, 0});
     SendMessageA(tree, WM_RBUTTONDOWN, MK_RBUTTON, 0);
@@ -256,6 +271,7 @@ TEST(Launcher, RefusesToRunBesideAnOpenHost) {
         EXPECT_EQ(launcher.ExitCode(), 0);
         EXPECT_TRUE(ReadFileBytes("FennConfig.Sys").starts_with("Drive S,")) << "rewritten all the same";
         EXPECT_EQ(IsWindowVisible(host) && !IsIconic(host), answer == IDYES);
+        EXPECT_TRUE(answer == IDNO || KeepsForeground(host));
     }
 }
 

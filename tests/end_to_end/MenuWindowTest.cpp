@@ -8,11 +8,14 @@
 #include "platform/Events.h"
 #include "platform/File.h"
 #include "platform/Font.h"
+#include "platform/Picture.h"
 #include "platform/Window.h"
 #include "platform/WindowChecks.h"
 #include "resources/Ids.h"
 
 #include <gtest/gtest.h>
+
+#include <array>
 
 namespace obrin::test {
 namespace {
@@ -46,9 +49,20 @@ TEST_F(MenuWindow, KeepsItsMarginsAtEverySize) {
         return distances;
     };
     const std::vector<LONG> designed = margins();
-    RECT inside;
-    GetClientRect(menu, &inside);
-    EXPECT_EQ(inside.bottom, ToPixels(design::inner.height, GetDpiForWindow(menu))) << "with a menu bar";
+    if (GetDpiForWindow(menu) == USER_DEFAULT_SCREEN_DPI) {
+        RECT inside;
+        GetClientRect(menu, &inside);
+        std::string places = std::to_string(inside.right) + "x" + std::to_string(inside.bottom);
+        for (const HWND control :
+             {Control(IDC_FRAME1), launcher.Tree(), GetDlgItem(Control(IDC_FRAME1), IDC_COMMAND1)}) {
+            const auto [left, top, right, bottom] = Place(control);
+            for (const LONG side : {left, top, right, bottom})
+                places += " " + std::to_string(side);
+        }
+        for (const int label : {IDC_LABEL1, IDC_LABEL2, IDC_LABEL3, IDC_IMAGE1})
+            places += " " + std::to_string(Place(Control(label)).top);
+        EXPECT_EQ(places, "740x500 10 8 410 488 20 30 400 440 20 448 140 476 16 60 82 120");
+    }
     for (const SIZE size : {SIZE{1200, 900}, {1, 1}, {760, 560}}) {
         for (const int id : {IDC_FRAME1, IDC_LABEL5})
             SetWindowPos(Control(id), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
@@ -123,7 +137,7 @@ namespace {
 
 TEST(MenuWindowHere, IsTheSameOnEveryScreenAndForEveryReader) {
     const Installation installation(5);
-    WriteFileBytes("UB.mnu", "Water && Waste\r\nBackup^Core\\Programs\\CSBackup\r\n");
+    WriteFileBytes("UB.mnu", "Water && Waste^x\r\nBackup^Core\\Programs\\CSBackup\r\n");
     WriteFileBytes("Startup.bmp", Bmp(120, 90));
     frmMain menu;
     menu.Show();
@@ -138,9 +152,14 @@ TEST(MenuWindowHere, IsTheSameOnEveryScreenAndForEveryReader) {
     SetWindowPos(window, nullptr, 0, 0, 600, 450, SWP_NOZORDER); // twice as large it still has the room
     IsTheSameAfterOtherScreens(window);
 
-    const LRESULT messageFont = SendMessageA(tree, WM_GETFONT, 0, 0);
-    SendMessageA(window, WM_SETTINGCHANGE, 0, 0);
-    EXPECT_NE(SendMessageA(tree, WM_GETFONT, 0, 0), messageFont) << "the user's may be another one now";
+    const auto fontOf = [](HWND lettered) { return SendMessageA(lettered, WM_GETFONT, 0, 0); };
+    for (const int change : {WM_SETTINGCHANGE, WM_THEMECHANGED, WM_SYSCOLORCHANGE}) {
+        const LRESULT messageFont = fontOf(tree);
+        SendMessageA(window, static_cast<UINT>(change), 0, 0);
+        EXPECT_NE(fontOf(tree), messageFont) << "the user's may be another one now";
+        for (const int id : {IDC_FRAME1, IDC_LABEL2, IDC_LABEL3})
+            EXPECT_EQ(fontOf(control(id)), fontOf(tree));
+    }
     CentreOnScreen(window, {30'000, 30'000});
     RECT work, title;
     GetWindowRect(window, &title);
@@ -150,23 +169,35 @@ TEST(MenuWindowHere, IsTheSameOnEveryScreenAndForEveryReader) {
     const auto font = reinterpret_cast<HFONT>(SendMessageA(control(IDC_LABEL1), WM_GETFONT, 0, 0));
     EXPECT_EQ(title.right - title.left, MeasureText(font, "Water & Waste").cx) << "as in the frame's caption";
     SendMessageA(window, WM_DPICHANGED, MAKEWPARAM(144, 144), reinterpret_cast<LPARAM>(&title));
-    std::string fonts; // with the height from the letters' top to their bottom
-    for (const HWND lettered : {control(IDC_LABEL1), control(IDC_LABEL4), link, button}) {
-        LOGFONTA shape{};
-        GetObjectA(reinterpret_cast<HFONT>(SendMessageA(lettered, WM_GETFONT, 0, 0)), sizeof shape, &shape);
-        fonts += shape.lfFaceName + std::to_string(shape.lfHeight) + (shape.lfItalic ? "i" : "") +
-                 (shape.lfUnderline ? "u " : " ");
-    }
-    EXPECT_EQ(fonts, "Comic Sans MS-36 Georgia-20 Georgia-20u MS Sans Serif-16 ");
+    EXPECT_EQ(PictureSize(
+                  reinterpret_cast<HBITMAP>(SendMessageA(control(IDC_IMAGE1), STM_GETIMAGE, IMAGE_BITMAP, 0)))
+                  .cx,
+              180);
+    const RECT shownTitle = Places(control(IDC_LABEL1))[0], shownPicture = Places(control(IDC_IMAGE1))[0];
+    EXPECT_NEAR(shownTitle.left + shownTitle.right, shownPicture.left + shownPicture.right, 2);
+    std::string fonts;
+    for (const HWND lettered : {control(IDC_LABEL1), control(IDC_LABEL4), link, button})
+        fonts += FontOf(lettered) + " ";
+    EXPECT_EQ(fonts, "Comic Sans MS-36b Georgia-20 Georgia-20u MS Sans Serif-16 ");
 
     EXPECT_EQ(Announced(link), (std::pair<std::string, LONG>("E-Mail us!", ROLE_SYSTEM_LINK)));
     EXPECT_EQ(GetFocus(), link) << "as the reader asked";
     const HDC screen = GetDC(link);
-    SendMessageA(window, WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(screen), reinterpret_cast<LPARAM>(link));
+    EXPECT_EQ(SendMessageA(window, WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(screen),
+                           reinterpret_cast<LPARAM>(link)),
+              reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_BTNFACE)));
     EXPECT_EQ(GetTextColor(screen), GetSysColor(COLOR_HOTLIGHT));
     ReleaseDC(link, screen);
-    constexpr DWORD seen = TVS_HASBUTTONS | TVS_SHOWSELALWAYS; // what opens, and what the button runs
+    // What opens, and what the button runs.
+    constexpr DWORD seen = TVS_HASLINES | TVS_LINESATROOT | TVS_HASBUTTONS | TVS_SHOWSELALWAYS;
     EXPECT_EQ(GetWindowStyle(tree) & seen, seen);
+    EXPECT_EQ(TextOf(button), "&Run Program");
+    EXPECT_EQ(GetWindowStyle(window) & WS_OVERLAPPEDWINDOW, DWORD{WS_OVERLAPPEDWINDOW});
+    EXPECT_EQ(GetClassLongPtrA(window, GCLP_HICON),
+              reinterpret_cast<ULONG_PTR>(LoadIconA(Instance(), MAKEINTRESOURCEA(IDI_OBRIN))));
+    std::array<char, 80> listed{};
+    GetMenuStringA(GetMenu(window), ID_SYSTEMS, listed.data(), listed.size(), MF_BYCOMMAND);
+    EXPECT_STREQ(listed.data(), "Water && Waste");
     EXPECT_NE(Announced(tree).first, "") << "though its text is shown nowhere";
     EXPECT_EQ(GetNextDlgTabItem(window, button, FALSE), link);
     EXPECT_EQ(GetNextDlgTabItem(window, link, FALSE), tree);
@@ -179,8 +210,10 @@ TEST(MenuWindowHere, IsTheSameOnEveryScreenAndForEveryReader) {
         SendMessageA(link, WM_KEYDOWN, key, LPARAM{KF_REPEAT} << 16); // held
     }
     SendMessageA(window, WM_COMMAND, MAKEWPARAM(IDC_LABEL5, STN_DBLCLK), reinterpret_cast<LPARAM>(link));
+    ProcessPendingEvents(); // with what the reader has asked for
     SendMessageA(window, WM_COMMAND, ID_SYSTEM_HELP, 0);
-    EXPECT_EQ(documents, "Help\\BetterIdea.url Help\\BetterIdea.url Help\\UB\\Index.html ");
+    EXPECT_EQ(documents,
+              "Help\\BetterIdea.url Help\\BetterIdea.url Help\\BetterIdea.url Help\\UB\\Index.html ");
     MSG enter{link, WM_KEYDOWN, VK_RETURN, 0, 0, {}};
     EXPECT_TRUE(SendMessageA(link, WM_GETDLGCODE, VK_RETURN, reinterpret_cast<LPARAM>(&enter)) &
                 DLGC_WANTMESSAGE);

@@ -4,6 +4,7 @@
 #include "platform/Folder.h"
 #include "platform/ModalTest.h"
 #include "platform/ScratchFolder.h"
+#include "platform/WindowChecks.h"
 #include "resources/Ids.h"
 
 namespace obrin {
@@ -62,6 +63,13 @@ TEST_F(UpdateWindow, CopiesOnceAndAgainOnEveryResizeAndEntersTheWorkstation) {
     WriteFileBytes("Local\\Glass.exe", "old version");
     Update(5, [](HWND window, std::size_t shown) {
         EXPECT_TRUE(IsWindowVisible(window));
+        const std::vector<RECT> label = test::Places(GetDlgItem(window, IDC_LABEL1));
+        RECT inner;
+        GetClientRect(window, &inner);
+        EXPECT_EQ(label[0].top, inner.bottom / 4);
+        EXPECT_EQ(inner.right - label[0].right, label[0].left);
+        const std::string font = test::FontOf(GetDlgItem(window, IDC_LABEL1));
+        EXPECT_TRUE(font.starts_with("Georgia") && font == test::FontOf(GetDlgItem(window, IDC_LABEL2)));
         const HWND okay = GetDlgItem(window, IDOK);
         EXPECT_EQ(IsWindowVisible(okay) && GetFocus() == okay, shown > 6) << "once all are copied";
         // The notification alone: how often a display tells of a real resize is its own affair.

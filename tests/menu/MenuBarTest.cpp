@@ -56,7 +56,9 @@ A&bout Obrin = 314
 )");
     EXPECT_EQ(Listed(LoadMenuA(Instance(), MAKEINTRESOURCEA(IDR_TREE_POPUP))),
               "TreeView Stuff = \n&Properties = 321\n&Help = 322\n");
-    EXPECT_EQ(DocumentOf(IDC_LABEL5, "UB.mnu", nullptr), "Help\\BetterIdea.url");
+    const HMENU bare = LoadMenuA(Instance(), MAKEINTRESOURCEA(IDR_MENU_BAR));
+    FillSystemList(bare, {});
+    EXPECT_TRUE(Listed(bare).starts_with("&Core Programs")) << "no list of nothing";
 }
 
 } // namespace

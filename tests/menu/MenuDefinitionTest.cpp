@@ -49,6 +49,12 @@ TEST(MenuDefinition, LinesBecomeNodes) {
             nodes.append(text).append("|").append(key).append("|").append(std::to_string(parent)) += " ";
         EXPECT_EQ(nodes, expected);
     }
+    std::string many = "T";
+    for (int i = 1; i <= 300; ++i)
+        many += "\rA^K" + std::to_string(i);
+    EXPECT_EQ(ParseMenuDefinition(many, "", nullptr).entries.size(), 300U);
+    for (const char* again : {"\rA^K1", "\rA^K300"})
+        EXPECT_THROW(ParseMenuDefinition(many + again, "", nullptr), RunTimeError);
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <tuple>
 
 namespace obrin {
 namespace {
@@ -43,8 +44,9 @@ TEST(MenuLayout, FrameAndTreeKeepTheirMargins) {
         EXPECT_EQ(layout.command1.top, 20 + tree.height + design::command1Gap) << "below the tree";
     }
     const auto recorded = RecordMargins({5000.4, 4000.6}, designed);
-    EXPECT_EQ(recorded.width, 1000) << "in whole twips";
-    EXPECT_EQ(recorded.height, 1001);
+    EXPECT_EQ(std::tuple(recorded.width, recorded.height, recorded.treeWidth, recorded.treeHeight),
+              std::tuple(1000, 1001, 200, 300))
+        << "in whole twips";
     EXPECT_THROW(At(9000, std::numeric_limits<double>::infinity()), RunTimeError);
 }
 

@@ -1,5 +1,5 @@
-// What holds for every window: it comes back from a screen of another DPI as it was, and a screen reader
-// knows its controls by their labels.
+// What holds for every dialog: it is as windows.txt says, it comes back from a screen of another DPI as it
+// was, and a screen reader knows its controls by their labels.
 
 #include "maintenance/LocalMachine.h"
 #include "maintenance/frmAbout.h"
@@ -13,7 +13,10 @@
 #include "startup/HostLink.h"
 #include "startup/HostNotice.h"
 
+#include <algorithm>
+#include <cstdio>
 #include <map>
+#include <set>
 
 namespace obrin {
 namespace {
@@ -44,6 +47,11 @@ protected:
                 PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
             });
         }
+        HostNotice notice(owner, "Obrin-05", ERROR_BAD_EXE_FORMAT);
+        notice.ShowWhenDue();
+        const HWND window = FindWindowA(nullptr, "Waiting for Fenn");
+        EXPECT_NE(GetActiveWindow(), window) << "takes the keyboard from nobody";
+        act(window);
     }
 
     const test::ScratchFolder folder;
@@ -52,59 +60,71 @@ protected:
 };
 
 TEST_F(EveryWindow, ComesBackFromOtherScreensAsItWas) {
-    ForEachDialog([](HWND dialog) {
+    std::string reason; // why the host was not started
+    ForEachDialog([&](HWND dialog) {
+        reason = WindowText(GetDlgItem(dialog, IDC_REASON));
         RECT place, work;
         GetWindowRect(dialog, &place);
         SystemParametersInfoA(SPI_GETWORKAREA, 0, &work, 0);
-        if (GetDlgItem(dialog, IDC_LABEL1) == nullptr) { // that one stands beside its owner's corner
+        // One stands beside its owner's corner; and now and then a display puts one into its own.
+        if (GetDlgItem(dialog, IDC_LABEL1) == nullptr && place.left != 0) {
             EXPECT_NEAR(place.left + place.right, work.left + work.right, 2);
             EXPECT_NEAR(place.top + place.bottom, work.top + work.bottom, 2);
         }
         test::IsTheSameAfterOtherScreens(dialog);
     });
-    const std::string caption = "Obrin-05";
-    HostNotice notice(owner, caption, ERROR_BAD_EXE_FORMAT);
-    notice.ShowWhenDue();
-    const HWND window = FindWindowA(nullptr, "Waiting for Fenn");
-    EXPECT_NE(GetActiveWindow(), window) << "takes the keyboard from nobody";
-    test::IsTheSameAfterOtherScreens(window);
-    const std::string reason = WindowText(GetDlgItem(window, IDC_REASON));
     EXPECT_TRUE(reason.ends_with(PlatformText(ERROR_BAD_EXE_FORMAT, hostProgram)));
     EXPECT_EQ(reason.find('\n'), std::string::npos);
 }
 
-BOOL CALLBACK AddAnnounced(HWND control, LPARAM names) {
+// A line for each control with its class, style and text, and the same name for a screen reader.
+BOOL CALLBACK AddLine(HWND control, LPARAM lines) {
     const std::map<std::string, LONG> roles{{WC_EDITA, ROLE_SYSTEM_TEXT},
                                             {WC_COMBOBOXA, ROLE_SYSTEM_COMBOBOX},
                                             {TRACKBAR_CLASSA, ROLE_SYSTEM_SLIDER}};
-    char className[100] = "";
-    GetClassNameA(control, className, sizeof className);
-    const auto found = roles.find(className);
-    const HWND label = GetWindow(control, GW_HWNDPREV);
-    if (found == roles.end() || label == nullptr) // the box in a combo
+    // What changes while it is looked at, and what is different at each place or in each version.
+    const std::set<int> varying{IDC_LABEL1, IDC_FOLDER, IDC_REASON, IDC_LBL_VERSION};
+    if (GetDlgCtrlID(GetParent(control)) == IDC_CMB_ORIENTATION) // the box in a combo
         return TRUE;
-    // Where this platform does not know the kind of control, it calls it a client window and reads its text;
-    // others take the label in front for its name.
-    const auto [heardName, heardRole] = test::Announced(control);
-    EXPECT_TRUE(heardRole == found->second || heardRole == ROLE_SYSTEM_CLIENT) << heardName;
-    if (found->second != ROLE_SYSTEM_COMBOBOX || heardRole != ROLE_SYSTEM_CLIENT) {
-        EXPECT_EQ(heardName, WindowText(label));
+    char className[100] = "", style[20] = "", caption[100] = "";
+    GetClassNameA(control, className, sizeof className);
+    // With the keyboard a button is the default one, and that of the update comes late.
+    const DWORD changing = className == std::string(WC_BUTTONA) ? BS_DEFPUSHBUTTON | WS_VISIBLE : 0;
+    std::snprintf(style, sizeof style, " %08lX ", GetWindowStyle(control) & ~changing);
+    std::string text = varying.contains(GetDlgCtrlID(control)) ? "..." : WindowText(control);
+    std::erase(text, '\r');
+    std::ranges::replace(text, '\n', '|');
+    TCITEMA tab{TCIF_TEXT, 0, 0, caption, sizeof caption, 0, 0};
+    for (WPARAM i = 0; SendMessageA(control, TCM_GETITEMA, i, reinterpret_cast<LPARAM>(&tab)) != 0; ++i)
+        text.append(caption).append("^");
+    reinterpret_cast<std::string*>(lines)->append(className).append(style).append(text).append("|\n");
+
+    if (const auto found = roles.find(className); found != roles.end()) {
+        // Where this platform does not know the kind of control, it calls it a client window and reads its
+        // text; others take the label in front for its name.
+        const auto [heardName, heardRole] = test::Announced(control);
+        EXPECT_TRUE(heardRole == found->second || heardRole == ROLE_SYSTEM_CLIENT) << heardName;
+        if (found->second != ROLE_SYSTEM_COMBOBOX || heardRole != ROLE_SYSTEM_CLIENT) {
+            EXPECT_EQ(heardName, WindowText(GetWindow(control, GW_HWNDPREV)));
+        }
     }
-    *reinterpret_cast<std::string*>(names) += WindowText(label) + "|";
     return TRUE;
 }
 
-TEST_F(EveryWindow, AnnouncesItsControlsByTheirLabels) {
-    std::string names;
+TEST_F(EveryWindow, HasTheTextsAndControlsOfTheListAndAnnouncesThemByTheirLabels) {
+    std::string lines;
     ForEachDialog([&](HWND dialog) {
-        names += WindowText(dialog) + ": ";
-        EnumChildWindows(dialog, AddAnnounced, reinterpret_cast<LPARAM>(&names));
+        const auto defaultButton = LOWORD(SendMessageA(dialog, DM_GETDEFID, 0, 0));
+        AddLine(dialog, reinterpret_cast<LPARAM>(&lines));
+        lines.back() = ' ';
+        lines += "Enter presses " + std::to_string(defaultButton) +
+                 ((GetWindowExStyle(dialog) & WS_EX_APPWINDOW) != 0 ? ", in the task bar\n" : "\n");
+        EXPECT_TRUE(SendMessageA(dialog, WM_GETICON, ICON_BIG, 0));
+        EnumChildWindows(dialog, AddLine, reinterpret_cast<LPARAM>(&lines));
     });
-    EXPECT_EQ(names,
-              "Properties: System:|Program Name:|Help File:|Height:|Width:|Orientation:|Lines:|Columns:|"
-              "Font Size:|Save to as Start:|Top Margin|Top Margin|Bottom Margin|Bottom Margin|"
-              "Left Margin|Left Margin|Right Margin|Right Margin|"
-              "Obrin Software Systems: Auto Update Utility: A title: A question?|");
+    const HRSRC list = FindResourceA(nullptr, "WINDOWS", RT_RCDATA);
+    EXPECT_EQ(lines, std::string(static_cast<const char*>(LockResource(LoadResource(nullptr, list))),
+                                 SizeofResource(nullptr, list)));
 }
 
 } // namespace

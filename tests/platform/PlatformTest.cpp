@@ -75,14 +75,14 @@ TEST(Images, AreForWindows10TakeNothingFromTheirOwnFolderAndSayWhatTheyAre) {
         std::vector<char> version(GetFileVersionInfoSizeA(file.c_str(), nullptr));
         GetFileVersionInfoA(file.c_str(), 0, static_cast<DWORD>(version.size()), version.data());
         std::string texts;
-        for (const std::string field :
-             {"FileDescription", "OriginalFilename", "ProductName", "FileVersion", "ProductVersion"}) {
+        for (const std::string field : {"CompanyName", "FileDescription", "OriginalFilename", "ProductName",
+                                        "FileVersion", "ProductVersion"}) {
             void* value = nullptr;
             UINT size = 0;
             VerQueryValueA(version.data(), ("\\StringFileInfo\\040904E4\\" + field).c_str(), &value, &size);
             texts.append(static_cast<const char*>(value), size).back() = '|';
         }
-        EXPECT_EQ(texts, std::string(description) + "|" + name +
+        EXPECT_EQ(texts, std::string("Obrin Software Systems|") + description + "|" + name +
                              "|Obrin Core System|" OBRIN_PROJECT_VERSION "|" OBRIN_PROJECT_VERSION "|");
     }
 }

@@ -14,6 +14,15 @@
 
 namespace obrin::test {
 
+/// Face and height in pixels of a window's font, from the letters' top to their bottom when it is below zero,
+/// and what is bold, italic and underlined: "Georgia-20u".
+inline std::string FontOf(HWND window) {
+    LOGFONTA shape{};
+    GetObjectA(reinterpret_cast<HFONT>(SendMessageA(window, WM_GETFONT, 0, 0)), sizeof shape, &shape);
+    return shape.lfFaceName + std::to_string(shape.lfHeight) + (shape.lfWeight == FW_BOLD ? "b" : "") +
+           (shape.lfItalic != 0 ? "i" : "") + (shape.lfUnderline != 0 ? "u" : "");
+}
+
 inline BOOL CALLBACK AddPlace(HWND control, LPARAM places) {
     const LRESULT font = SendMessageA(control, WM_GETFONT, 0, 0);
     EXPECT_TRUE(font == 0 || GetObjectType(reinterpret_cast<HGDIOBJ>(font)) == OBJ_FONT)
@@ -65,7 +74,7 @@ inline void IsTheSameAfterOtherScreens(HWND window) {
     }
 }
 
-// Name and role, as a screen reader asks for them; it gives the control the keyboard, too.
+// Name and role, as a screen reader asks for them; it gives the control the keyboard, and follows a link.
 inline std::pair<std::string, LONG> Announced(HWND control) {
     IAccessible* object = nullptr;
     if (AccessibleObjectFromWindow(control, static_cast<DWORD>(OBJID_CLIENT), __uuidof(IAccessible),
@@ -78,6 +87,12 @@ inline std::pair<std::string, LONG> Announced(HWND control) {
     object->get_accName(self, &name);
     object->get_accRole(self, &role);
     object->accSelect(SELFLAG_TAKEFOCUS, self);
+    if (role.lVal == ROLE_SYSTEM_LINK) {
+        VARIANT state{};
+        object->get_accState(self, &state);
+        EXPECT_EQ(state.lVal & (STATE_SYSTEM_LINKED | STATE_SYSTEM_READONLY), STATE_SYSTEM_LINKED);
+        object->accDoDefaultAction(self);
+    }
     object->Release();
     const std::string text(name, name + SysStringLen(name)); // plain letters
     SysFreeString(name);
