@@ -124,7 +124,7 @@ void Do(const std::string& word, const std::string& file, const std::string& tex
         File(file, File::Use::ReadWrite).Close();
         setAttributes(FILE_ATTRIBUTE_READONLY);
     } else if (word == "hide") {
-        setAttributes(FILE_ATTRIBUTE_HIDDEN);
+        setAttributes(text == "system" ? FILE_ATTRIBUTE_SYSTEM : FILE_ATTRIBUTE_HIDDEN);
     } else if (word == "hold" || word == "share") {
         const DWORD sharing = word == "share" ? FILE_SHARE_READ | FILE_SHARE_WRITE : 0;
         held.reset(CreateFileA(file.c_str(), GENERIC_READ, sharing, nullptr, OPEN_ALWAYS, 0, nullptr));

@@ -6,8 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 namespace obrin {
 
 TEST(File, FirstLineIsReadInFewSteps) {
@@ -40,27 +38,6 @@ TEST(File, OthersMayReadAndWriteAnOpenFile) {
     mine.Write("X");
     EXPECT_TRUE(MoveFileA("shared", "moved")) << "and replace it";
     EXPECT_EQ(ReadFileBytes("moved"), "abcXef");
-}
-
-TEST(File, ListingsShowNormalFilesOnly) {
-    const test::ScratchFolder folder;
-    for (const char* name : {"readonly", "archived", "hidden", "system"})
-        WriteFileBytes(name, "");
-    SetFileAttributesA("readonly", FILE_ATTRIBUTE_READONLY);
-    SetFileAttributesA("hidden", FILE_ATTRIBUTE_HIDDEN);
-    SetFileAttributesA("system", FILE_ATTRIBUTE_SYSTEM);
-    for (int i = 0; i < 2; ++i)
-        CreateFolder("folder"); // which another program may have made meanwhile
-    auto names = ListNormalFiles(CurrentFolder());
-    std::ranges::sort(names);
-    EXPECT_EQ(names, (std::vector<std::string>{"archived", "readonly"}));
-    for (const char* name : {"readonly", "hidden", "folder", "*", "missing"}) {
-        const bool listed = std::ranges::binary_search(names, name);
-        EXPECT_EQ(NormalFileExists(name), listed) << name;
-        EXPECT_EQ(FileExists(name), listed || name == std::string("hidden")) << name;
-    }
-    SetFileAttributesA("readonly", FILE_ATTRIBUTE_NORMAL);
-    EXPECT_THROW(ListNormalFiles("missing"), RunTimeError);
 }
 
 TEST(File, ShortPathIsEmptyWhenItDoesNotFit) {
