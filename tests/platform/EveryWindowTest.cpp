@@ -77,27 +77,42 @@ TEST_F(EveryWindow, ComesBackFromOtherScreensAsItWas) {
     EXPECT_EQ(reason.find('\n'), std::string::npos);
 }
 
-// A line for each control with its class, style and text, and the same name for a screen reader.
+// A line for each control with its class, style, place in dialog units and text, and the same name for a
+// screen reader.
 BOOL CALLBACK AddLine(HWND control, LPARAM lines) {
     const std::map<std::string, LONG> roles{{WC_EDITA, ROLE_SYSTEM_TEXT},
                                             {WC_COMBOBOXA, ROLE_SYSTEM_COMBOBOX},
                                             {TRACKBAR_CLASSA, ROLE_SYSTEM_SLIDER}};
     // What changes while it is looked at, and what is different at each place or in each version.
-    const std::set<int> varying{IDC_LABEL1, IDC_FOLDER, IDC_REASON, IDC_LBL_VERSION};
-    if (GetDlgCtrlID(GetParent(control)) == IDC_CMB_ORIENTATION) // the box in a combo
+    const std::set<int> varying{IDC_LABEL1, IDC_FOLDER, IDC_REASON, IDC_LBL_VERSION, IDC_PIC_ICON};
+    const HWND parent = GetParent(control);
+    if (GetDlgCtrlID(parent) == IDC_CMB_ORIENTATION) // the box in a combo
         return TRUE;
-    char className[100] = "", style[20] = "", caption[100] = "";
+    char className[100] = "", line[200] = "", caption[100] = "";
     GetClassNameA(control, className, sizeof className);
     // With the keyboard a button is the default one, and that of the update comes late.
     const DWORD changing = className == std::string(WC_BUTTONA) ? BS_DEFPUSHBUTTON | WS_VISIBLE : 0;
-    std::snprintf(style, sizeof style, " %08lX ", GetWindowStyle(control) & ~changing);
-    std::string text = varying.contains(GetDlgCtrlID(control)) ? "..." : WindowText(control);
+    std::string text = "...";
+    RECT units{0, 0, 400, 800}, place{};
+    if (!varying.contains(GetDlgCtrlID(control))) {
+        MapDialogRect(parent, &units);
+        GetWindowRect(control, &place);
+        MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&place), 2);
+        text = WindowText(control);
+    }
+    if (className == std::string("#32770")) // at a place that depends on fonts
+        place = {};
+    if (GetDlgItem(parent, IDC_PIC_ICON) != nullptr) // takes its heights from its texts
+        place.top = 0;
+    std::snprintf(line, sizeof line, "%s %08lX %d,%d %d ", className, GetWindowStyle(control) & ~changing,
+                  MulDiv(place.left, 400, units.right), MulDiv(place.top, 800, units.bottom),
+                  MulDiv(place.right - place.left, 400, units.right));
     std::erase(text, '\r');
     std::ranges::replace(text, '\n', '|');
     TCITEMA tab{TCIF_TEXT, 0, 0, caption, sizeof caption, 0, 0};
     for (WPARAM i = 0; SendMessageA(control, TCM_GETITEMA, i, reinterpret_cast<LPARAM>(&tab)) != 0; ++i)
         text.append(caption).append("^");
-    reinterpret_cast<std::string*>(lines)->append(className).append(style).append(text).append("|\n");
+    reinterpret_cast<std::string*>(lines)->append(line).append(text).append("|\n");
 
     if (const auto found = roles.find(className); found != roles.end()) {
         // Where this platform does not know the kind of control, it calls it a client window and reads its
