@@ -8,7 +8,6 @@
 #include "platform/Events.h"
 #include "platform/File.h"
 #include "platform/Font.h"
-#include "platform/Picture.h"
 #include "platform/Window.h"
 #include "platform/WindowChecks.h"
 #include "resources/Ids.h"
@@ -49,6 +48,8 @@ TEST_F(MenuWindow, KeepsItsMarginsAtEverySize) {
         return distances;
     };
     const std::vector<LONG> designed = margins();
+    EXPECT_EQ(GetAwarenessFromDpiAwarenessContext(GetWindowDpiAwarenessContext(menu)),
+              DPI_AWARENESS_PER_MONITOR_AWARE);
     if (GetDpiForWindow(menu) == USER_DEFAULT_SCREEN_DPI) {
         RECT inside;
         GetClientRect(menu, &inside);
@@ -61,7 +62,10 @@ TEST_F(MenuWindow, KeepsItsMarginsAtEverySize) {
         }
         for (const int label : {IDC_LABEL1, IDC_LABEL2, IDC_LABEL3, IDC_IMAGE1})
             places += " " + std::to_string(Place(Control(label)).top);
-        EXPECT_EQ(places, "740x500 10 8 410 488 20 30 400 440 20 448 140 476 16 60 82 120");
+        const RECT idea = Place(Control(IDC_LABEL4)), link = Place(Control(IDC_LABEL5));
+        for (const LONG side : {link.left - idea.right, link.right, link.bottom})
+            places += " " + std::to_string(side);
+        EXPECT_EQ(places, "740x500 10 8 410 488 20 30 400 440 20 448 140 476 16 60 82 120 0 733 499");
     }
     for (const SIZE size : {SIZE{1200, 900}, {1, 1}, {760, 560}}) {
         for (const int id : {IDC_FRAME1, IDC_LABEL5})
@@ -146,9 +150,14 @@ TEST(MenuWindowHere, IsTheSameOnEveryScreenAndForEveryReader) {
     const HWND link = control(IDC_LABEL5);
     const HWND tree = GetDlgItem(control(IDC_FRAME1), IDC_TREEVIEW1);
     const HWND button = GetDlgItem(control(IDC_FRAME1), IDC_COMMAND1);
-    const std::vector<RECT> picture = Places(control(IDC_IMAGE1));
-    EXPECT_EQ(picture[0].right - picture[0].left, 120);
-    EXPECT_TRUE(SendMessageA(control(IDC_IMAGE1), STM_GETIMAGE, IMAGE_BITMAP, 0));
+    const HDC linkScreen = GetDC(link);
+    for (const bool marked : {true, false}) { // every second pixel
+        SetFocus(marked ? link : tree);
+        SendMessageA(window, WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
+        UpdateWindow(link);
+        EXPECT_EQ(GetPixel(linkScreen, 0, 0) != GetPixel(linkScreen, 1, 0), marked);
+    }
+    ReleaseDC(link, linkScreen);
     SetWindowPos(window, nullptr, 0, 0, 600, 450, SWP_NOZORDER); // twice as large it still has the room
     IsTheSameAfterOtherScreens(window);
 
@@ -160,19 +169,26 @@ TEST(MenuWindowHere, IsTheSameOnEveryScreenAndForEveryReader) {
         for (const int id : {IDC_FRAME1, IDC_LABEL2, IDC_LABEL3})
             EXPECT_EQ(fontOf(control(id)), fontOf(tree));
     }
+    CentreOnScreen(window, {700, 500});
+    const RECT centred = Places(window)[0];
     CentreOnScreen(window, {30'000, 30'000});
     RECT work, title;
     GetWindowRect(window, &title);
     SystemParametersInfoA(SPI_GETWORKAREA, 0, &work, 0);
     EXPECT_TRUE(EqualRect(&title, &work)) << "no larger than a small screen";
+    EXPECT_NEAR(centred.left + centred.right, work.left + work.right, 1);
+    EXPECT_NEAR(centred.top + centred.bottom, work.top + work.bottom, 1);
     GetWindowRect(control(IDC_LABEL1), &title);
     const auto font = reinterpret_cast<HFONT>(SendMessageA(control(IDC_LABEL1), WM_GETFONT, 0, 0));
+    const RECT idea = Places(control(IDC_LABEL4))[0];
+    EXPECT_EQ(idea.right - idea.left, MeasureText(control(IDC_LABEL4), "Got a better idea? ").cx);
     EXPECT_EQ(title.right - title.left, MeasureText(font, "Water & Waste").cx) << "as in the frame's caption";
     SendMessageA(window, WM_DPICHANGED, MAKEWPARAM(144, 144), reinterpret_cast<LPARAM>(&title));
-    EXPECT_EQ(PictureSize(
-                  reinterpret_cast<HBITMAP>(SendMessageA(control(IDC_IMAGE1), STM_GETIMAGE, IMAGE_BITMAP, 0)))
-                  .cx,
-              180);
+    const UniqueDc memory(CreateCompatibleDC(nullptr));
+    const LRESULT image = SendMessageA(control(IDC_IMAGE1), STM_GETIMAGE, IMAGE_BITMAP, 0);
+    const HGDIOBJ none = SelectObject(memory.get(), reinterpret_cast<HBITMAP>(image));
+    EXPECT_EQ(GetPixel(memory.get(), 179, 134), RGB(255, 255, 255)) << "scaled whole";
+    SelectObject(memory.get(), none);
     const RECT shownTitle = Places(control(IDC_LABEL1))[0], shownPicture = Places(control(IDC_IMAGE1))[0];
     EXPECT_NEAR(shownTitle.left + shownTitle.right, shownPicture.left + shownPicture.right, 2);
     std::string fonts;
@@ -186,7 +202,8 @@ TEST(MenuWindowHere, IsTheSameOnEveryScreenAndForEveryReader) {
     EXPECT_EQ(SendMessageA(window, WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(screen),
                            reinterpret_cast<LPARAM>(link)),
               reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_BTNFACE)));
-    EXPECT_EQ(GetTextColor(screen), GetSysColor(COLOR_HOTLIGHT));
+    EXPECT_EQ(std::pair(GetTextColor(screen), GetBkMode(screen)),
+              std::pair(GetSysColor(COLOR_HOTLIGHT), TRANSPARENT));
     ReleaseDC(link, screen);
     // What opens, and what the button runs.
     constexpr DWORD seen = TVS_HASLINES | TVS_LINESATROOT | TVS_HASBUTTONS | TVS_SHOWSELALWAYS;
@@ -195,10 +212,12 @@ TEST(MenuWindowHere, IsTheSameOnEveryScreenAndForEveryReader) {
     EXPECT_EQ(GetWindowStyle(window) & WS_OVERLAPPEDWINDOW, DWORD{WS_OVERLAPPEDWINDOW});
     EXPECT_EQ(GetClassLongPtrA(window, GCLP_HICON),
               reinterpret_cast<ULONG_PTR>(LoadIconA(Instance(), MAKEINTRESOURCEA(IDI_OBRIN))));
+    EXPECT_EQ(GetClassLongPtrA(window, GCLP_HBRBACKGROUND),
+              reinterpret_cast<ULONG_PTR>(GetSysColorBrush(COLOR_BTNFACE)));
     std::array<char, 80> listed{};
     GetMenuStringA(GetMenu(window), ID_SYSTEMS, listed.data(), listed.size(), MF_BYCOMMAND);
     EXPECT_STREQ(listed.data(), "Water && Waste");
-    EXPECT_NE(Announced(tree).first, "") << "though its text is shown nowhere";
+    EXPECT_EQ(TextOf(tree), "Water && Waste") << "for a screen reader, shown nowhere";
     EXPECT_EQ(GetNextDlgTabItem(window, button, FALSE), link);
     EXPECT_EQ(GetNextDlgTabItem(window, link, FALSE), tree);
     SetFocus(button);
@@ -209,11 +228,12 @@ TEST(MenuWindowHere, IsTheSameOnEveryScreenAndForEveryReader) {
         SendMessageA(link, WM_KEYDOWN, key, 0);
         SendMessageA(link, WM_KEYDOWN, key, LPARAM{KF_REPEAT} << 16); // held
     }
+    SendMessageA(link, WM_LBUTTONDOWN, MK_LBUTTON, 0);
     SendMessageA(window, WM_COMMAND, MAKEWPARAM(IDC_LABEL5, STN_DBLCLK), reinterpret_cast<LPARAM>(link));
     ProcessPendingEvents(); // with what the reader has asked for
     SendMessageA(window, WM_COMMAND, ID_SYSTEM_HELP, 0);
-    EXPECT_EQ(documents,
-              "Help\\BetterIdea.url Help\\BetterIdea.url Help\\BetterIdea.url Help\\UB\\Index.html ");
+    EXPECT_EQ(documents, "Help\\BetterIdea.url Help\\BetterIdea.url Help\\BetterIdea.url "
+                         "Help\\BetterIdea.url Help\\UB\\Index.html ");
     MSG enter{link, WM_KEYDOWN, VK_RETURN, 0, 0, {}};
     EXPECT_TRUE(SendMessageA(link, WM_GETDLGCODE, VK_RETURN, reinterpret_cast<LPARAM>(&enter)) &
                 DLGC_WANTMESSAGE);

@@ -41,6 +41,7 @@ TEST_F(AboutBox, SaysItsTextsUnclipped) {
                 places.push_back(place);
             }
         }
+        EXPECT_GT(MeasureText(box, "a a a", 10).cy, MeasureText(box, "a", 10).cy) << "lines are broken";
         EXPECT_EQ(test::FontOf(GetDlgItem(box, IDC_LBL_TITLE)), "MS Shell Dlg-35b");
         ICONINFO icon{};
         GetIconInfo(reinterpret_cast<HICON>(SendDlgItemMessageA(box, IDC_PIC_ICON, STM_GETICON, 0, 0)),

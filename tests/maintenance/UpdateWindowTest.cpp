@@ -66,7 +66,8 @@ TEST_F(UpdateWindow, CopiesOnceAndAgainOnEveryResizeAndEntersTheWorkstation) {
         const std::vector<RECT> label = test::Places(GetDlgItem(window, IDC_LABEL1));
         RECT inner;
         GetClientRect(window, &inner);
-        EXPECT_EQ(label[0].top, inner.bottom / 4);
+        EXPECT_EQ(std::tuple(label[0].left, label[0].top, label[0].bottom),
+                  std::tuple(inner.bottom / 16, inner.bottom / 4, inner.bottom / 4 * 2));
         EXPECT_EQ(inner.right - label[0].right, label[0].left);
         const std::string font = test::FontOf(GetDlgItem(window, IDC_LABEL1));
         EXPECT_TRUE(font.starts_with("Georgia") && font == test::FontOf(GetDlgItem(window, IDC_LABEL2)));

@@ -30,19 +30,19 @@ TEST(MenuTree, HasTheEntriesInTheirOrderAndOffersThePopupOfOne) {
                                         50, nullptr, nullptr, nullptr, nullptr);
     MenuTree tree;
     std::vector<int> popUps;
-    tree.Attach(window, {.run = {}, .popUp = [&](int, int y) { popUps.push_back(y); }});
+    tree.Attach(window, {.run = {}, .popUp = [&](int x, int y) { popUps.push_back(1000 * x + y); }});
     ShowWindow(window, SW_SHOWNOACTIVATE);
     for (int round = 0; round < 2; ++round) { // another system takes the place of the first
         tree.Clear();
         UpdateWindow(window);
         EXPECT_FALSE(tree.IsProgramNode());
-        tree.Fill(ParseMenuDefinition("T\ra\r>b^K1\r>c\r>>d^K2\r>^K3\re^K4", "", nullptr));
+        tree.Fill(ParseMenuDefinition("T\ra\r>b^K1\r>\xE4\r>>d^K2\r>^K3\re^K4", "", nullptr));
         EXPECT_TRUE(GetUpdateRect(window, nullptr, FALSE)) << "painted anew";
         EXPECT_FALSE(tree.IsProgramNode()) << "nothing is selected";
         EXPECT_EQ(tree.SelectedKey(), "");
         const HTREEITEM a = TreeView_GetRoot(window);
         EXPECT_EQ(TreeView_GetNextVisible(window, a), TreeView_GetNextSibling(window, a)) << "collapsed";
-        EXPECT_EQ(Shape(tree, a), "a(b=K1 c(d=K2 )K3)e=K4 ") << "K3 has no text: not a program's";
+        EXPECT_EQ(Shape(tree, a), "a(b=K1 \xE4(d=K2 )K3)e=K4 ") << "K3 has no text: not a program's";
     }
     TreeView_SelectItem(window, TreeView_GetRoot(window));
     SendMessageA(window, WM_CHAR, 'e', 1);
@@ -56,7 +56,7 @@ TEST(MenuTree, HasTheEntriesInTheirOrderAndOffersThePopupOfOne) {
     } last{TreeView_GetSelection(window)};
     SendMessageA(window, TVM_GETITEMRECT, TRUE, reinterpret_cast<LPARAM>(&last));
     EXPECT_LE(last.text.bottom, 50) << "in sight";
-    EXPECT_EQ(popUps[0], last.text.bottom);
+    EXPECT_EQ(popUps[0], 1000 * last.text.left + last.text.bottom);
     SetCursorPos(20, 30);
     const UINT late = GetDoubleClickTime() + 50; // too late for the click before
     for (const auto& [pause, click, shown] : {std::tuple{0U, WM_RBUTTONDOWN, 1U},
@@ -72,7 +72,7 @@ TEST(MenuTree, HasTheEntriesInTheirOrderAndOffersThePopupOfOne) {
         SendMessageA(window, static_cast<UINT>(click), 0, 0);
         EXPECT_EQ(popUps.size(), shown) << pause;
     }
-    EXPECT_EQ(popUps[1], 30) << "at the pointer";
+    EXPECT_EQ(popUps[1], 20'030) << "at the pointer";
     DestroyWindow(window);
 }
 

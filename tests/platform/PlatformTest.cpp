@@ -29,6 +29,9 @@ TEST(SupportLibrary, KeepsTextsInTheRegistry) {
     }
     const auto set = reinterpret_cast<LONG(__stdcall*)(HKEY, const char*, const char*, const char*)>(
         GetProcAddress(GetModuleHandleA("Corvel.dll"), "SetRegValue"));
+    const auto get = reinterpret_cast<BSTR(__stdcall*)(HKEY, const char*, const char*)>(
+        GetProcAddress(GetModuleHandleA("Corvel.dll"), "GetRegValue"));
+    EXPECT_NE(UniqueString(get(HKEY_LOCAL_MACHINE, key, "Missing")), nullptr) << "but empty";
     EXPECT_NE(set(nullptr, key, "Text", ""), 0) << "the suite's programs are told";
     machine.Set(key, "Number", REG_DWORD, "abcd");
     EXPECT_EQ(corvel.GetRegValue(HKEY_LOCAL_MACHINE, key, "Number"), "") << "no text";
@@ -74,6 +77,13 @@ TEST(Images, AreForWindows10TakeNothingFromTheirOwnFolderAndSayWhatTheyAre) {
 
         std::vector<char> version(GetFileVersionInfoSizeA(file.c_str(), nullptr));
         GetFileVersionInfoA(file.c_str(), 0, static_cast<DWORD>(version.size()), version.data());
+        VS_FIXEDFILEINFO* numbers = nullptr;
+        UINT length = 0;
+        VerQueryValueA(version.data(), "\\", reinterpret_cast<void**>(&numbers), &length);
+        EXPECT_EQ(std::to_string(HIWORD(numbers->dwFileVersionMS)) + "." +
+                      std::to_string(LOWORD(numbers->dwFileVersionMS)) + "." +
+                      std::to_string(numbers->dwFileVersionLS),
+                  OBRIN_PROJECT_VERSION);
         std::string texts;
         for (const std::string field : {"CompanyName", "FileDescription", "OriginalFilename", "ProductName",
                                         "FileVersion", "ProductVersion"}) {
@@ -108,6 +118,7 @@ TEST(GroupBox, PaintsWhatIsBehindAThemedButtonInIt) {
     UpdateWindow(box);
     const HDC shown = GetDC(box);
     EXPECT_EQ(GetPixel(shown, 100, 90), GetSysColor(COLOR_BTNFACE));
+    EXPECT_NE(GetPixel(shown, 0, 50), GetSysColor(COLOR_BTNFACE)) << "its border";
     ReleaseDC(box, shown);
     DestroyWindow(box);
 }

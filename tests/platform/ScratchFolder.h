@@ -35,12 +35,12 @@ private:
     std::filesystem::path before;
 };
 
-/// A black picture of 24 bits a pixel; the width is a multiple of 4.
+/// A white picture of 24 bits a pixel; the width is a multiple of 4.
 inline std::string Bmp(int width, int height) {
     const BITMAPINFOHEADER info{sizeof info, width, height, 1, 24, BI_RGB, 0, 0, 0, 0, 0};
     const std::string head("BM\0\0\0\0\0\0\0\0\x36\0\0\0", 14);
     return head + std::string(reinterpret_cast<const char*>(&info), sizeof info) +
-           std::string(static_cast<std::size_t>(3 * width * height), '\0');
+           std::string(static_cast<std::size_t>(3 * width * height), '\xFF');
 }
 
 } // namespace obrin::test

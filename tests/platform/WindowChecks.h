@@ -32,10 +32,14 @@ inline BOOL CALLBACK AddPlace(HWND control, LPARAM places) {
         GetWindowRect(control, &place); // but for combo boxes, which have a list
     MapWindowPoints(nullptr, GetAncestor(control, GA_PARENT), reinterpret_cast<POINT*>(&place), 2);
     reinterpret_cast<std::vector<RECT>*>(places)->push_back(place);
+    LOGFONTA shape{};
+    GetObjectA(reinterpret_cast<HFONT>(font), sizeof shape, &shape);
+    if (GetWindow(control, GW_CHILD) == nullptr) // a dialog itself keeps the font that it was made with
+        reinterpret_cast<std::vector<RECT>*>(places)->push_back({0, 0, std::abs(shape.lfHeight), 0});
     return TRUE;
 }
 
-// Of the window and all that is in it.
+// Of the window and all that is in it, with the heights of their fonts.
 inline std::vector<RECT> Places(HWND window) {
     std::vector<RECT> places;
     AddPlace(window, reinterpret_cast<LPARAM>(&places));
@@ -90,7 +94,8 @@ inline std::pair<std::string, LONG> Announced(HWND control) {
     if (role.lVal == ROLE_SYSTEM_LINK) {
         VARIANT state{};
         object->get_accState(self, &state);
-        EXPECT_EQ(state.lVal & (STATE_SYSTEM_LINKED | STATE_SYSTEM_READONLY), STATE_SYSTEM_LINKED);
+        constexpr LONG link = STATE_SYSTEM_LINKED | STATE_SYSTEM_FOCUSABLE | STATE_SYSTEM_FOCUSED;
+        EXPECT_EQ(state.lVal & (link | STATE_SYSTEM_READONLY), link);
         object->accDoDefaultAction(self);
     }
     object->Release();

@@ -40,7 +40,10 @@ protected:
     }
     std::string Text(int id) const { return WindowText(Item(id)); }
     void SetText(int id, const char* text) const { SetWindowTextA(Item(id), text); }
-    void Press(int button) const { Send(button, BM_CLICK); }
+    void Press(int button) const {
+        Send(button, BM_CLICK);
+        EXPECT_EQ(IsWindowVisible(dialog) != FALSE, button == IDC_APPLY || button == IDC_COMMAND2);
+    }
     void SelectTab(int index) const { Send(IDC_TABSTRIP1, TCM_SETCURFOCUS, index); }
     // Box and slider of a margin.
     std::string Margin(int index) const {
@@ -105,15 +108,19 @@ TEST_F(Properties, PagesAreShownByTheirTabsAndReachedByTheKeyboardInFrontOnly) {
             const HWND inPage = Item(firsts[before]);
             SetFocus(inPage);
             SelectTab(tab);
+            SendMessageA(dialog, WM_SETTINGCHANGE, 0, 0); // laid out anew
             EXPECT_EQ(GetFocus(), tab == before ? inPage : tabs) << "never in a hidden page";
             before = tab;
             std::string shown;
             for (const HWND page : pages) {
                 shown += IsWindowVisible(page) ? 'v' : '-';
-                // Those behind must not paint over the one in front.
-                EXPECT_TRUE(GetWindowStyle(page) & GetWindowStyle(tabs) & WS_CLIPSIBLINGS);
             }
             EXPECT_EQ(shown, visible);
+            RECT strip, page;
+            GetWindowRect(tabs, &strip);
+            GetWindowRect(pages[tab], &page);
+            SendMessageA(tabs, TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&strip));
+            EXPECT_TRUE(EqualRect(&strip, &page)) << "under the tabs";
             EXPECT_EQ(GetWindow(dialog, GW_CHILD), pages[tab]) << "in front";
             EXPECT_EQ(GetNextDlgTabItem(dialog, tabs, FALSE), Item(firsts[tab]));
             EXPECT_EQ(GetNextDlgTabItem(dialog, Item(lasts[tab]), FALSE), Item(IDOK));
@@ -220,6 +227,7 @@ TEST_F(Properties, MarginsAreTypedKeyByKeyAndStayUnlessTheSliderHasTheirValue) {
         MSG message; // the tips come when the dialog stands
         GetMessageA(&message, dialog, WM_TIMER, WM_TIMER);
         DispatchMessageA(&message);
+        EXPECT_FALSE(KillTimer(dialog, message.wParam)) << "once";
         HWND tips = nullptr;
         do
             tips = FindWindowExA(nullptr, tips, TOOLTIPS_CLASSA, nullptr);
@@ -232,7 +240,8 @@ TEST_F(Properties, MarginsAreTypedKeyByKeyAndStayUnlessTheSliderHasTheirValue) {
         TOOLINFOA tip{sizeof tip, 0,       dialog, reinterpret_cast<UINT_PTR>(Item(IDC_SLD_MARGIN + 3)),
                       {},         nullptr, told,   0,
                       nullptr};
-        SendMessageA(tips, TTM_GETTEXTA, sizeof told, reinterpret_cast<LPARAM>(&tip));
+        SendMessageA(tips, TTM_GETTOOLINFOA, 0, reinterpret_cast<LPARAM>(&tip));
+        EXPECT_TRUE(tip.uFlags & TTF_SUBCLASS) << "comes by itself";
         EXPECT_STREQ(told, "0.76") << "where the pointer rests on the slider";
     });
 }
