@@ -8,8 +8,6 @@
 namespace obrin {
 namespace {
 
-using namespace std::string_literals;
-
 bool IsLeadByte(char byte) {
     return byte == '\x81';
 }
@@ -26,7 +24,6 @@ std::string Briefly(std::vector<Finding> findings) {
 
 TEST(MenuCheck, FindsEverythingThatIsWrongOrOdd) {
     const std::string noHeading = "there is no heading one level above this entry";
-    const std::string lineFeed = "a line end of LF alone";
     const std::string utf8 = "text in UTF-8";
     const std::pair<std::string, std::string> cases[] = {
         {"T\r\nA^K\r\nB\r\n>C^L", ""},
@@ -37,12 +34,8 @@ TEST(MenuCheck, FindsEverythingThatIsWrongOrOdd) {
          "E2 the key 1 is a number E3 the key 1 is a number E3 the key 1 is there already, in line 2 "
          "E5 the key K is there already, in line 4 E6 the key K is there already, in line 4"},
         {"T\r\nA^\x81^\r\nB^\x81^", "E3 the key \x81^ is there already, in line 2"},
-        {"T\r\nA^K\r\nB^L\nC^M\r\n\nD^N", "W3 " + lineFeed},
-        {"\xFF\xFET\0\r\0\n\0"s,
-         "W1 a byte-order mark of UTF-16 W2 a line end of LF alone W2 the heading ??? holds no program"},
         {"T\r\nA^K\r\nB\xC3\xA4^L\r\nC\xE2\x82\xAC^\xF0\x9F\x98\x80", "W3 " + utf8},
         {"T\r\nA\xC3\xA4^K\r\nB\xE4^L\r\nC\xC3\xA4^M", ""},
-        {"T\xC3\r\nA^K", ""},
         {"T\xC0\xA0\r\nA^K", ""},
         {"T\r\nA^a*b\r\nB^\x81|\r\nC^D/../E\r\nC^..M\\N..",
          "W2 the key a*b holds a character that no file name may (* ? "

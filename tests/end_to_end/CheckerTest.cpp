@@ -2,18 +2,6 @@
 
 #include "end_to_end/Installation.h"
 
-#include "platform/Failure.h"
-#include "platform/File.h"
-#include "platform/Folder.h"
-#include "platform/Machine.h"
-#include "platform/SupportLibrary.h"
-#include "platform/Workstation.h"
-#include "resources/Ids.h"
-#include "startup/UserRecords.h"
-
-#include <gtest/gtest.h>
-
-#include <array>
 #include <cstring>
 #include <map>
 
@@ -116,11 +104,9 @@ void Do(const std::string& word, const std::string& file, const std::string& tex
     if (word == "write") {
         WriteFileBytes(file, text);
     } else if (word == "delete") {
-        DeleteFileA(file.c_str());
+        std::filesystem::remove(file);
     } else if (word == "folder") {
         CreateFolder(file);
-    } else if (word == "rmdir") {
-        RemoveDirectoryA(file.c_str());
     } else if (word == "readonly") {
         File(file, File::Use::ReadWrite).Close();
         setAttributes(FILE_ATTRIBUTE_READONLY);

@@ -1,16 +1,6 @@
 #include "end_to_end/Installation.h"
 
 #include "common/Lines.h"
-#include "platform/File.h"
-#include "platform/Folder.h"
-#include "platform/Machine.h"
-#include "platform/Workstation.h"
-#include "resources/Ids.h"
-#include "startup/UserRecords.h"
-
-#include <gtest/gtest.h>
-
-#include <array>
 
 namespace obrin::test {
 

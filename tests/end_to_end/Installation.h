@@ -2,11 +2,17 @@
 // real keys and the real mouse. Everything waits with a deadline and nothing sleeps blindly.
 #pragma once
 
+#include "platform/Failure.h"
 #include "platform/Machine.h"
 #include "platform/ScratchFolder.h"
+#include "platform/SupportLibrary.h"
+#include "resources/Ids.h"
+#include "startup/UserRecords.h"
 
+#include <gtest/gtest.h>
+
+#include <array>
 #include <functional>
-#include <string>
 #include <vector>
 
 namespace obrin::test {

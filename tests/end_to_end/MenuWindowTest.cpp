@@ -6,15 +6,9 @@
 #include "common/Twips.h"
 #include "menu/frmMain.h"
 #include "platform/Events.h"
-#include "platform/File.h"
 #include "platform/Font.h"
 #include "platform/Window.h"
 #include "platform/WindowChecks.h"
-#include "resources/Ids.h"
-
-#include <gtest/gtest.h>
-
-#include <array>
 
 namespace obrin::test {
 namespace {

@@ -1,11 +1,9 @@
 #include "maintenance/frmAbout.h"
 
-#include "maintenance/LocalMachine.h"
 #include "platform/Font.h"
 #include "platform/ModalTest.h"
 #include "platform/Picture.h"
 #include "platform/WindowChecks.h"
-#include "resources/Ids.h"
 
 namespace obrin {
 namespace {

@@ -1,13 +1,9 @@
 #include "maintenance/SystemInformation.h"
 
-#include "maintenance/LocalMachine.h"
 #include "platform/Dialog.h"
-#include "platform/File.h"
 #include "platform/FileReplacement.h"
 #include "platform/Machine.h"
 #include "platform/ModalTest.h"
-#include "platform/ScratchFolder.h"
-#include "platform/Workstation.h"
 
 namespace obrin {
 namespace {

@@ -1,11 +1,7 @@
 #include "maintenance/WorkstationUpdate.h"
 
-#include "platform/File.h"
-#include "platform/Folder.h"
 #include "platform/ModalTest.h"
-#include "platform/ScratchFolder.h"
 #include "platform/WindowChecks.h"
-#include "resources/Ids.h"
 
 namespace obrin {
 namespace {
@@ -88,6 +84,9 @@ TEST_F(UpdateWindow, CopiesOnceAndAgainOnEveryResizeAndEntersTheWorkstation) {
     EXPECT_EQ(ReadFileBytes("Updated.txt"), "005");
     Update(5, Okay);
     EXPECT_EQ(captions.size(), 0U) << "no second window";
+    for (const int wsid : {-7, 1234})
+        Update(wsid, Okay);
+    EXPECT_EQ(ReadFileBytes("Updated.txt"), "005-00123") << "three bytes each";
 }
 
 TEST_F(UpdateWindow, ClosedWhileCopyingStillCopiesTheRest) {

@@ -33,7 +33,6 @@ TEST(MenuDefinition, LinesBecomeNodes) {
         {"A>B^K>1>\r\n", "AB|K1|0 "},
         {"A>B\r\n>C>D\r\n", "A>B||0 C>D||1 "}, // headings keep inner marks
         {"A>B^K^x^y\r\n", "AB|K|0 "},
-        {"A^\r\nB^\r\n^\r\n", "A||0 B||0 ||0 "}, // missing keys may repeat
         {"A\r\n\r\n>B^K\r\n", "A||0 ||0 B|K|2 "},
         {"A\r\n>B\r\nC\r\n>D\r\n>>E^K\r\n", "A||0 B||1 C||0 D||3 E|K|4 "},
         {"A\nB\rC\r\n\nD\r\rE", "A\nB||0 C||0 \nD||0 ||0 E||0 "},

@@ -1,7 +1,6 @@
 #include "menu/MenuLayout.h"
 
 #include "common/RunTimeError.h"
-#include "common/Twips.h"
 
 #include <gtest/gtest.h>
 
@@ -37,10 +36,9 @@ TEST(MenuLayout, FrameAndTreeKeepTheirMargins) {
     };
     for (const auto& [outer, frame, tree] : cases) {
         const MenuLayout layout = At(outer.width, outer.height);
-        EXPECT_EQ(layout.frame1.width, frame.width);
-        EXPECT_EQ(layout.frame1.height, frame.height);
-        EXPECT_EQ(layout.treeView1.width, tree.width);
-        EXPECT_EQ(layout.treeView1.height, tree.height);
+        const auto& [frame1, tree1] = std::tie(layout.frame1, layout.treeView1);
+        EXPECT_EQ(std::tuple(frame1.width, frame1.height, tree1.width, tree1.height),
+                  std::tuple(frame.width, frame.height, tree.width, tree.height));
         EXPECT_EQ(layout.command1.top, 20 + tree.height + design::command1Gap) << "below the tree";
     }
     const auto recorded = RecordMargins({5000.4, 4000.6}, designed);
@@ -68,15 +66,6 @@ TEST(MenuLayout, CentresByTheOuterWidthAndPutsTheLinkIntoTheInnerCorner) {
     EXPECT_EQ(layout.label5.top, 3500 - 20 - 250);
     EXPECT_EQ(layout.label4.left, layout.label5.left - 900);
     EXPECT_EQ(layout.label4.top, layout.label5.top);
-}
-
-TEST(Twips, AreAFixedPartOfAnInch) {
-    EXPECT_EQ(ToPixels(1000, 96), 67) << "66.7";
-    for (const unsigned dpi : {96U, 120U, 144U, 192U}) {
-        EXPECT_EQ(ToPixels(-720, dpi), -static_cast<int>(dpi) / 2);
-        for (const int pixels : {-7, 0, 1, 333, 30'000})
-            EXPECT_EQ(ToPixels(ToTwips(pixels, dpi), dpi), pixels) << "there and back";
-    }
 }
 
 } // namespace

@@ -1,14 +1,11 @@
 // What holds for every dialog: it is as windows.txt says, it comes back from a screen of another DPI as it
 // was, and a screen reader knows its controls by their labels.
 
-#include "maintenance/LocalMachine.h"
 #include "maintenance/frmAbout.h"
 #include "maintenance/frmUpdate.h"
 #include "platform/Failure.h"
 #include "platform/ModalTest.h"
-#include "platform/ScratchFolder.h"
 #include "platform/WindowChecks.h"
-#include "resources/Ids.h"
 #include "settings/Form2.h"
 #include "startup/HostLink.h"
 #include "startup/HostNotice.h"

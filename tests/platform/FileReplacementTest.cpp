@@ -1,11 +1,7 @@
 #include "platform/FileReplacement.h"
 
-#include "common/RunTimeError.h"
-#include "platform/File.h"
-#include "platform/Folder.h"
 #include "platform/Machine.h"
 #include "platform/ScratchFolder.h"
-#include "platform/Workstation.h"
 
 #include <gtest/gtest.h>
 

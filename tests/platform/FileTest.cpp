@@ -1,7 +1,5 @@
 #include "platform/File.h"
 
-#include "common/RunTimeError.h"
-#include "platform/Folder.h"
 #include "platform/ScratchFolder.h"
 
 #include <gtest/gtest.h>

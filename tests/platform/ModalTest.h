@@ -1,7 +1,9 @@
 // Tests of modal windows: they act while the window is up.
 #pragma once
 
-#include "platform/WindowsApi.h"
+#include "maintenance/LocalMachine.h"
+#include "platform/ScratchFolder.h"
+#include "resources/Ids.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,7 @@
 #include "maintenance/LocalMachine.h"
 #include "platform/GroupBox.h"
-#include "platform/Handle.h"
 #include "platform/Machine.h"
 #include "platform/SupportLibrary.h"
-#include "platform/Workstation.h"
 
 #include <gtest/gtest.h>
 

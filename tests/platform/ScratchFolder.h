@@ -1,6 +1,9 @@
 // An empty folder that is the current directory as long as the object lives.
 #pragma once
 
+#include "common/RunTimeError.h"
+#include "platform/File.h"
+#include "platform/Folder.h"
 #include "platform/WindowsApi.h"
 
 #include <filesystem>

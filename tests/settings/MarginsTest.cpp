@@ -18,15 +18,6 @@ TEST(Margins, AreTheLeadingNumberWithinTheRangeAndWhileTypedNothingBelowIt) {
     }
 }
 
-TEST(ReadsAsMargin, IsExactForEveryValueOfASlider) {
-    for (int margin = smallestMargin; margin <= largestMargin; ++margin) {
-        const std::string text =
-            std::to_string(margin / 1000) + "." + std::to_string(1000 + margin % 1000).substr(1);
-        EXPECT_TRUE(ReadsAsMargin(text + "0", margin)) << margin;
-        EXPECT_FALSE(ReadsAsMargin(text + "1", margin)) << margin;
-    }
-}
-
 TEST(KeptCaret, KeepsItsPlaceRelativeToThePoint) {
     EXPECT_EQ(KeptCaret(".5", 0, "0.5"), 1U) << "the 1 of 1.5 deleted, a 2 to come";
     EXPECT_EQ(KeptCaret("1.29345", 4, "1.293"), 4U);

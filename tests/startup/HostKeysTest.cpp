@@ -24,7 +24,6 @@ TEST(HostKeys, AreUnsignedUpperCaseCodes) {
     EXPECT_EQ(HostKeyCodes("\x81\\\\\x81\r\\", GreekUpper, [](char byte) { return byte == '\x81'; }),
               (Codes{0x81, 0x5C, 220, 0x81, 13, 220}))
         << "a character of two bytes is typed as they are";
-    EXPECT_EQ(HostStartArguments(7) + StationCaption(7), "run core\\start -7Obrin-07");
     EXPECT_EQ(HostStartArguments(-7) + StationCaption(-7), "run core\\start --7Obrin--07");
 }
 

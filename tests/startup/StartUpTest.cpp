@@ -1,7 +1,5 @@
 #include "startup/StartUp.h"
 
-#include "platform/File.h"
-#include "platform/Folder.h"
 #include "platform/ScratchFolder.h"
 
 #include <gtest/gtest.h>
