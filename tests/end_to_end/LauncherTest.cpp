@@ -260,7 +260,7 @@ TEST(Launcher, RefusesToRunBesideAnOpenHost) {
     ASSERT_TRUE(Eventually([&] { return (host = FindWindowA("ZafWindow", "Obrin-01")) != nullptr; }));
     ShowWindow(host, SW_SHOWMINNOACTIVE);
     ShowWindow(host, SW_HIDE);
-    for (const int answer : {IDNO, IDYES}) {
+    for (const int answer : {IDNO, IDYES, IDYES}) {
         WriteFileBytes("FennConfig.Sys", "x\r\n");
         const Launcher launcher;
         EXPECT_NE(launcher.Texts(hostIsOpen).find(question), std::string::npos);
@@ -271,6 +271,8 @@ TEST(Launcher, RefusesToRunBesideAnOpenHost) {
         EXPECT_EQ(launcher.ExitCode(), 0);
         EXPECT_TRUE(ReadFileBytes("FennConfig.Sys").starts_with("Drive S,")) << "rewritten all the same";
         EXPECT_EQ(IsWindowVisible(host) && !IsIconic(host), answer == IDYES);
+        EXPECT_TRUE(answer == IDNO || KeepsForeground(host));
+        SetForegroundWindow(GetDesktopWindow());
     }
 }
 

@@ -212,6 +212,7 @@ TEST(MenuWindowHere, IsTheSameOnEveryScreenAndForEveryReader) {
     GetMenuStringA(GetMenu(window), ID_SYSTEMS, listed.data(), listed.size(), MF_BYCOMMAND);
     EXPECT_STREQ(listed.data(), "Water && Waste");
     EXPECT_EQ(TextOf(tree), "Water && Waste") << "for a screen reader, shown nowhere";
+    EXPECT_EQ(GetNextDlgTabItem(window, tree, FALSE), button);
     EXPECT_EQ(GetNextDlgTabItem(window, button, FALSE), link);
     EXPECT_EQ(GetNextDlgTabItem(window, link, FALSE), tree);
     SetFocus(button);

@@ -38,7 +38,8 @@ TEST(MenuTree, HasTheEntriesInTheirOrderAndOffersThePopupOfOne) {
         EXPECT_FALSE(tree.IsProgramNode());
         tree.Fill(ParseMenuDefinition("T\ra\r>b^K1\r>\xE4\r>>d^K2\r>^K3\re^K4", "", nullptr));
         EXPECT_TRUE(GetUpdateRect(window, nullptr, FALSE)) << "painted anew";
-        EXPECT_TRUE(!tree.IsProgramNode() && tree.SelectedKey().empty()) << "nothing is selected";
+        EXPECT_TRUE(!tree.IsProgramNode() && tree.SelectedKey().empty());
+        EXPECT_EQ(TreeView_GetSelection(window), nullptr) << "without the keyboard";
         const HTREEITEM a = TreeView_GetRoot(window);
         EXPECT_EQ(TreeView_GetNextVisible(window, a), TreeView_GetNextSibling(window, a)) << "collapsed";
         EXPECT_EQ(Shape(tree, a), "a(b=K1 \xE4(d=K2 )K3)e=K4 ") << "K3 has no text: not a program's";

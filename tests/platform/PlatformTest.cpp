@@ -21,6 +21,7 @@ TEST(SupportLibrary, KeepsTextsInTheRegistry) {
         DWORD size = 0, type = 0;
         RegOpenKeyExA(HKEY_LOCAL_MACHINE, key, 0, KEY_READ, &opened);
         RegQueryValueExA(opened, "Text", nullptr, &type, nullptr, &size);
+        EXPECT_EQ(corvel.GetRegValue(opened, "", "Text"), text) << "below any key";
         RegCloseKey(opened);
         EXPECT_EQ(type, DWORD{REG_SZ});
         EXPECT_EQ(size, text.size() + 1) << "stored with its NUL";

@@ -200,6 +200,8 @@ TEST_F(Properties, MarginsAreTypedKeyByKeyAndStayUnlessTheSliderHasTheirValue) {
         for (const auto& [typed, states, left, slider] : cases) {
             SetText(IDC_TXT_MARGIN, "");
             SetFocus(Item(IDC_TXT_MARGIN));
+            UpdateWindow(Item(IDC_SLD_MARGIN));
+            const LRESULT before = Send(IDC_SLD_MARGIN, TBM_GETPOS);
             std::string shown;
             for (const char character : typed) {
                 DWORD caret = 0;
@@ -208,6 +210,8 @@ TEST_F(Properties, MarginsAreTypedKeyByKeyAndStayUnlessTheSliderHasTheirValue) {
                 shown += Text(IDC_TXT_MARGIN).insert(caret, "|") + " ";
             }
             EXPECT_EQ(shown, states);
+            EXPECT_EQ(GetUpdateRect(Item(IDC_SLD_MARGIN), nullptr, FALSE) != FALSE,
+                      Send(IDC_SLD_MARGIN, TBM_GETPOS) != before);
             SendMessageA(dialog, WM_HSCROLL, TB_ENDTRACK, reinterpret_cast<LPARAM>(Item(IDC_SLD_MARGIN)));
             SetFocus(Item(IDC_SLD_MARGIN));
             EXPECT_EQ(Text(IDC_TXT_MARGIN), left);
