@@ -26,14 +26,14 @@ TEST(MenuCheck, FindsEverythingThatIsWrongOrOdd) {
     const std::string noHeading = "there is no heading one level above this entry";
     const std::string utf8 = "text in UTF-8";
     const std::pair<std::string, std::string> cases[] = {
-        {"T\r\nA^K\r\nB\r\n>C^L", ""},
+        {"T\r\nA^K\r\nB\r\n>C^L\xE4", ""},
         {"T\r\n>A^K\r\n>B^L\r\nC\r\n>D^M\r\n>>>E^N\r\n>>F^O",
          "E2 " + noHeading + " E3 " + noHeading + " E6 " + noHeading + " E7 " + noHeading},
         {"T\r\nA\r\n>>>B\r\n>>>>C^K\r\n>D^L\r\n>>E^M", "E3 " + noHeading + " E6 " + noHeading},
         {"T\r\nA^1\r\nB^1\r\nC^K\r\nD^K\r\nE^K",
          "E2 the key 1 is a number E3 the key 1 is a number E3 the key 1 is there already, in line 2 "
          "E5 the key K is there already, in line 4 E6 the key K is there already, in line 4"},
-        {"T\r\nA^\x81^\r\nB^\x81^", "E3 the key \x81^ is there already, in line 2"},
+        {"T\r\nA^\x81^\x1B\r\nB^\x81^\x1B", "E3 the key \x81^? is there already, in line 2"},
         {"T\r\nA^K\r\nB\xC3\xA4^L\r\nC\xE2\x82\xAC^\xF0\x9F\x98\x80", "W3 " + utf8},
         {"T\r\nA\xC3\xA4^K\r\nB\xE4^L\r\nC\xC3\xA4^M", ""},
         {"T\xC0\xA0\r\nA^K", ""},

@@ -78,6 +78,8 @@ std::string Meant(std::string text) {
     Replace(text, "{user}", LoginName());
     Replace(text, "{bits}", is64 ? "32" : "64");
     Replace(text, "{own}", is64 ? "64" : "32");
+    Replace(text, "{sharing}", PlatformText(ERROR_SHARING_VIOLATION));
+    Replace(text, "{index}", PlatformText(ERROR_INVALID_INDEX));
     Replace(text, "\\r", "\r");
     Replace(text, "\\n", "\n");
     Replace(text, "\\0", "\0"s);
@@ -113,8 +115,11 @@ void Do(const std::string& word, const std::string& file, const std::string& tex
     } else if (word == "hide") {
         setAttributes(text == "system" ? FILE_ATTRIBUTE_SYSTEM : FILE_ATTRIBUTE_HIDDEN);
     } else if (word == "hold" || word == "share") {
-        const DWORD sharing = word == "share" ? FILE_SHARE_READ | FILE_SHARE_WRITE : 0;
-        held.reset(CreateFileA(file.c_str(), GENERIC_READ, sharing, nullptr, OPEN_ALWAYS, 0, nullptr));
+        const DWORD sharing = word == "share"         ? FILE_SHARE_READ | FILE_SHARE_WRITE
+                              : text == "for writing" ? FILE_SHARE_READ
+                                                      : 0;
+        held.reset(CreateFileA(file.c_str(), GENERIC_READ | (word == "share" ? GENERIC_WRITE : 0U), sharing,
+                               nullptr, OPEN_ALWAYS, 0, nullptr));
     } else if (word == "otherbits") {
         const auto machine = [](bool bits64) { return "PE\0\0"s + (bits64 ? "\x64\x86" : "\x4C\x01"); };
         patch(machine(is64), machine(!is64));
@@ -164,10 +169,15 @@ void Compare(const std::string& section) {
         const Installation installation(5);
         SetEnvironmentVariableA("TesselTemp", ".");
         UniqueFile held;
+        std::string said; // by the menu's error
         Lines steps = Split(line, " | ");
         const std::string finding = Meant(steps.front());
         for (auto step = steps.begin() + 1; step != steps.end(); ++step) {
             const auto word = step->find(' ');
+            if (step->starts_with("says ")) {
+                said = Meant(step->substr(word + 1));
+                continue;
+            }
             // A name with a blank has nothing behind it.
             const auto name = step->starts_with("readonly") || step->starts_with("folder")
                                   ? std::string::npos
@@ -199,6 +209,7 @@ void Compare(const std::string& section) {
                 named = "Config File Not found!"; // of which the menu tells before all others
             }
             EXPECT_NE(error.find(named), std::string::npos) << error;
+            EXPECT_NE(error.find(said), std::string::npos) << error;
         }
         held.reset();
         for (const auto& [path, times] : Everything())
@@ -223,6 +234,7 @@ TEST(Checker, TakesFoldersFilesAndNothingElse) {
     CreateFolder("empty");
     WriteFileBytes("other.txt", "T\r\n>A^K");
     WriteFileBytes("Local\\ZZ.mnu", "T\r\n>A^K");
+    WriteFileBytes("Local\\Updated.txt", "0050");
     struct {
         const char* arguments;
         DWORD exitCode;
@@ -230,7 +242,12 @@ TEST(Checker, TakesFoldersFilesAndNothingElse) {
     } const cases[] = {
         {"empty", 1, "empty\\FennConfig.Sys: error: missing"},
         {"empty", 1, "3 errors, 1 warning in 0 menu files\r\n"},
-        {"Local", 1, "Local\\ZZ.mnu:2: error: there is no heading"},
+        {"other.txt empty", 1, "4 errors, 2 warnings in 1 menu file\r\n"},
+        {"Local", 1,
+         "Local\\Obrin-User.url: warning: missing: Obrin User Website opens nothing; put the document "
+         "there\r\n"
+         "Local\\Updated.txt: warning: the last record is cut off: the next workstation that is updated "
+         "overwrites it; cut the file to 3 bytes\r\nLocal\\ZZ.mnu:2: error: there is no heading"},
         {"UB.mnu .\\other.txt", 1, ".\\other.txt:2: error: there is no heading"},
         {"--tree other.txt", 1, "  A [K]\r\nother.txt: warning: the name does not end in .mnu"},
         {"UB.mnu", 0, "0 errors, 0 warnings in 1 menu file\r\n"},

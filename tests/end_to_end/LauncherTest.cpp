@@ -71,7 +71,8 @@ TEST(Launcher, FirstDayOfAUser) {
     EXPECT_TRUE(FileExists("Menu 5.txt"));
     EXPECT_EQ(installation.Logged("start"), Lines{"run core\\start -5"});
     EXPECT_TRUE(installation.HostTypes({"LOAD CORE\\STARTSYS", "RUN", "UB"}));
-    EXPECT_EQ(installation.Logged("down").front(), std::to_string('L')) << "sent, not posted";
+    const std::string keys = "down 76\r\nup 76\r\ndown 79\r\nup 79\r\n"; // L and O
+    EXPECT_NE(ReadFileBytes("fenn.log").find(keys), std::string::npos) << "sent, not posted";
     const HWND host = FindWindowA("ZafWindow", "Obrin-05");
     ASSERT_TRUE(host);
     EXPECT_FALSE(IsWindowVisible(host));
@@ -140,7 +141,11 @@ TEST(Launcher, RunsProgramsAndUpdatesTheWorkstationOnce) {
             EXPECT_TRUE(KeepsForeground(launcher.Menu()));
             Key(VK_RETURN);
         },
-        [&] { PostMessageA(GetDlgItem(GetParent(tree), IDC_COMMAND1), BM_CLICK, 0, 0); },
+        [&] { // the button, behind the tree
+            EXPECT_TRUE(KeepsForeground(launcher.Menu()));
+            Key(VK_TAB);
+            Key(VK_SPACE);
+        },
     };
     for (const auto& run : ways) {
         run();
@@ -372,14 +377,14 @@ TEST(Launcher, CanBeClosedByTheNoticeThatItWaits) {
 TEST(Launcher, WaitsForItsNumberOrWithADamagedOneUntilItIsClosed) {
     for (const int number : {0, -7}) {
         const Installation installation(number);
-        DeleteFileA("Fenn.exe"); // of which there would be a notice at once
+        DeleteFileA("Corvel.dll"); // of which there would be an error at once
         const Launcher launcher;
         HWND menu = nullptr;
         ASSERT_TRUE(
             Eventually([&] { return (menu = FindWindowA("ObrinMenu.frmMain", nullptr)) != nullptr; }));
         Sleep(300); // in which it must not start the host
         EXPECT_EQ(IsWindowEnabled(menu), number != 0) << "asks only the one without a number";
-        EXPECT_FALSE(launcher.Shown(noticeTitle));
+        EXPECT_FALSE(launcher.Shown("ObrinMenu"));
         SendMessageA(menu, WM_SETTINGCHANGE, 0, 0); // without any control yet
         PostMessageA(menu, WM_CLOSE, 0, 0);
         EXPECT_EQ(launcher.ExitCode(), 0) << "and neither asks again nor starts it now";

@@ -145,11 +145,11 @@ TEST(MenuWindowHere, IsTheSameOnEveryScreenAndForEveryReader) {
     const HWND tree = GetDlgItem(control(IDC_FRAME1), IDC_TREEVIEW1);
     const HWND button = GetDlgItem(control(IDC_FRAME1), IDC_COMMAND1);
     const HDC linkScreen = GetDC(link);
-    for (const bool marked : {true, false}) { // every second pixel
-        SetFocus(marked ? link : tree);
+    for (const HWND focused : {link, tree, link}) { // every second pixel
+        SetFocus(focused);
         SendMessageA(window, WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
         UpdateWindow(link);
-        EXPECT_EQ(GetPixel(linkScreen, 0, 0) != GetPixel(linkScreen, 1, 0), marked);
+        EXPECT_EQ(GetPixel(linkScreen, 0, 0) != GetPixel(linkScreen, 1, 0), focused == link);
     }
     ReleaseDC(link, linkScreen);
     SetWindowPos(window, nullptr, 0, 0, 600, 450, SWP_NOZORDER); // twice as large it still has the room
@@ -158,7 +158,11 @@ TEST(MenuWindowHere, IsTheSameOnEveryScreenAndForEveryReader) {
     const auto fontOf = [](HWND lettered) { return SendMessageA(lettered, WM_GETFONT, 0, 0); };
     for (const int change : {WM_SETTINGCHANGE, WM_THEMECHANGED, WM_SYSCOLORCHANGE}) {
         const LRESULT messageFont = fontOf(tree);
+        SetWindowPos(control(IDC_LABEL3), nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        UpdateWindow(control(IDC_IMAGE1));
         SendMessageA(window, static_cast<UINT>(change), 0, 0);
+        EXPECT_TRUE(GetUpdateRect(control(IDC_IMAGE1), nullptr, FALSE)) << "painted anew";
+        EXPECT_GT(Places(control(IDC_LABEL3))[0].left, 0) << "laid out anew";
         EXPECT_NE(fontOf(tree), messageFont) << "the user's may be another one now";
         for (const int id : {IDC_FRAME1, IDC_LABEL2, IDC_LABEL3})
             EXPECT_EQ(fontOf(control(id)), fontOf(tree));
@@ -199,11 +203,19 @@ TEST(MenuWindowHere, IsTheSameOnEveryScreenAndForEveryReader) {
     EXPECT_EQ(std::pair(GetTextColor(screen), GetBkMode(screen)),
               std::pair(GetSysColor(COLOR_HOTLIGHT), TRANSPARENT));
     ReleaseDC(link, screen);
-    // What opens, and what the button runs.
-    constexpr DWORD seen = TVS_HASLINES | TVS_LINESATROOT | TVS_HASBUTTONS | TVS_SHOWSELALWAYS;
-    EXPECT_EQ(GetWindowStyle(tree) & seen, seen);
+    std::string styles;
+    for (const HWND styled :
+         {window, control(IDC_FRAME1), tree, button, control(IDC_LABEL1), control(IDC_IMAGE1),
+          control(IDC_LABEL2), control(IDC_LABEL3), control(IDC_LABEL4), link}) {
+        std::array<char, 40> style{};
+        std::snprintf(style.data(), style.size(), "%08lX-%lX ", GetWindowStyle(styled),
+                      GetWindowExStyle(styled));
+        styles += style.data();
+    }
+    EXPECT_EQ(styles,
+              "16CF0000-10100 56000007-10000 54010027-200 54010000-0 54000000-0 5400000E-0 54000080-0 "
+              "54000080-0 54000080-0 54010180-0 ");
     EXPECT_EQ(TextOf(button), "&Run Program");
-    EXPECT_EQ(GetWindowStyle(window) & WS_OVERLAPPEDWINDOW, DWORD{WS_OVERLAPPEDWINDOW});
     EXPECT_EQ(GetClassLongPtrA(window, GCLP_HICON),
               reinterpret_cast<ULONG_PTR>(LoadIconA(Instance(), MAKEINTRESOURCEA(IDI_OBRIN))));
     EXPECT_EQ(GetClassLongPtrA(window, GCLP_HBRBACKGROUND),
@@ -229,9 +241,15 @@ TEST(MenuWindowHere, IsTheSameOnEveryScreenAndForEveryReader) {
     SendMessageA(window, WM_COMMAND, ID_SYSTEM_HELP, 0);
     EXPECT_EQ(documents, "Help\\BetterIdea.url Help\\BetterIdea.url Help\\BetterIdea.url "
                          "Help\\BetterIdea.url Help\\UB\\Index.html ");
-    MSG enter{link, WM_KEYDOWN, VK_RETURN, 0, 0, {}};
-    EXPECT_TRUE(SendMessageA(link, WM_GETDLGCODE, VK_RETURN, reinterpret_cast<LPARAM>(&enter)) &
-                DLGC_WANTMESSAGE);
+    for (const WPARAM key : {WPARAM{VK_RETURN}, WPARAM{VK_TAB}}) {
+        MSG typed{link, WM_KEYDOWN, key, 0, 0, {}};
+        for (const HWND asked : {link, tree}) {
+            const LRESULT code = SendMessageA(asked, WM_GETDLGCODE, key, reinterpret_cast<LPARAM>(&typed));
+            EXPECT_EQ((code & DLGC_WANTMESSAGE) != 0, key == VK_RETURN);
+        }
+    }
+    SendMessageA(window, WM_SETCURSOR, reinterpret_cast<WPARAM>(link), HTCLIENT);
+    EXPECT_EQ(GetCursor(), LoadCursorA(nullptr, IDC_CROSS));
     SendMessageA(window, WM_CLOSE, 0, 0);
     RunEvents(); // up to the end that the closed window has asked for
 }

@@ -38,6 +38,8 @@ TEST_F(AboutBox, SaysItsTextsUnclipped) {
                     EXPECT_FALSE(IntersectRect(&common, &place, &other)) << text;
                 places.push_back(place);
             }
+            EXPECT_NEAR(inner.bottom - places.back().bottom, static_cast<double>(dpi) / 6,
+                        static_cast<double>(dpi) / 10);
         }
         EXPECT_GT(MeasureText(box, "a a a", 10).cy, MeasureText(box, "a", 10).cy) << "lines are broken";
         EXPECT_EQ(test::FontOf(GetDlgItem(box, IDC_LBL_TITLE)), "MS Shell Dlg-35b");

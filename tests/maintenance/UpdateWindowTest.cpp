@@ -66,7 +66,9 @@ TEST_F(UpdateWindow, CopiesOnceAndAgainOnEveryResizeAndEntersTheWorkstation) {
                   std::tuple(inner.bottom / 16, inner.bottom / 4, inner.bottom / 4 * 2));
         EXPECT_EQ(inner.right - label[0].right, label[0].left);
         const std::string font = test::FontOf(GetDlgItem(window, IDC_LABEL1));
-        EXPECT_TRUE(font.starts_with("Georgia") && font == test::FontOf(GetDlgItem(window, IDC_LABEL2)));
+        EXPECT_EQ(font,
+                  "Georgia-" + std::to_string(MulDiv(10, static_cast<int>(GetDpiForWindow(window)), 72)));
+        EXPECT_EQ(font, test::FontOf(GetDlgItem(window, IDC_LABEL2)));
         const HWND okay = GetDlgItem(window, IDOK);
         EXPECT_EQ(IsWindowVisible(okay) && GetFocus() == okay, shown > 6) << "once all are copied";
         // The notification alone: how often a display tells of a real resize is its own affair.

@@ -97,13 +97,20 @@ BOOL CALLBACK AddLine(HWND control, LPARAM lines) {
         MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&place), 2);
         text = WindowText(control);
     }
-    if (className == std::string("#32770")) // at a place that depends on fonts
-        place = {};
-    if (GetDlgItem(parent, IDC_PIC_ICON) != nullptr) // takes its heights from its texts
-        place.top = 0;
-    std::snprintf(line, sizeof line, "%s %08lX %d,%d %d ", className, GetWindowStyle(control) & ~changing,
-                  MulDiv(place.left, 400, units.right), MulDiv(place.top, 800, units.bottom),
-                  MulDiv(place.right - place.left, 400, units.right));
+    if (className == std::string("#32770")) { // the pages' places depend on the tabs
+        GetClientRect(control, &place);
+        units = {0, 0, 400, 800};
+        MapDialogRect(control, &units);
+        place.right = (GetWindowStyle(control) & WS_CHILD) != 0 ? 0 : place.right;
+    }
+    // The about box takes its heights from its texts, and others those of combo boxes from the font.
+    const bool grows =
+        GetDlgItem(parent, IDC_PIC_ICON) != nullptr || GetDlgItem(control, IDC_PIC_ICON) != nullptr;
+    const bool isHigh = !grows && place.right != 0 && className != std::string(WC_COMBOBOXA);
+    std::snprintf(line, sizeof line, "%s %08lX %d,%d %d,%d ", className, GetWindowStyle(control) & ~changing,
+                  MulDiv(place.left, 400, units.right), MulDiv(grows ? 0 : place.top, 800, units.bottom),
+                  MulDiv(place.right - place.left, 400, units.right),
+                  MulDiv(isHigh ? place.bottom - place.top : 0, 800, units.bottom));
     std::erase(text, '\r');
     std::ranges::replace(text, '\n', '|');
     TCITEMA tab{TCIF_TEXT, 0, 0, caption, sizeof caption, 0, 0};
@@ -138,7 +145,15 @@ TEST_F(EveryWindow, HasTheTextsAndControlsOfTheListAndAnnouncesThemByTheirLabels
         EnumChildWindows(dialog, AddLine, reinterpret_cast<LPARAM>(&lines));
         RECT place{};
         SendMessageA(dialog, WM_DPICHANGED, USER_DEFAULT_SCREEN_DPI, reinterpret_cast<LPARAM>(&place));
-        lines += test::FontOf(GetDlgItem(dialog, defaultButton)) + "\n";
+        const HWND button = GetDlgItem(dialog, defaultButton);
+        lines += test::FontOf(button) + "\n";
+        for (const int change : {WM_SETTINGCHANGE, WM_THEMECHANGED, WM_SYSCOLORCHANGE}) {
+            const LRESULT font = SendMessageA(button, WM_GETFONT, 0, 0);
+            UpdateWindow(dialog);
+            SendMessageA(dialog, static_cast<UINT>(change), 0, 0);
+            EXPECT_NE(SendMessageA(button, WM_GETFONT, 0, 0), font) << "laid out anew";
+            EXPECT_TRUE(GetUpdateRect(dialog, nullptr, FALSE)) << "painted anew";
+        }
     });
     const HRSRC list = FindResourceA(nullptr, "WINDOWS", RT_RCDATA);
     EXPECT_EQ(lines, std::string(static_cast<const char*>(LockResource(LoadResource(nullptr, list))),

@@ -83,15 +83,22 @@ TEST(Images, AreForWindows10TakeNothingFromTheirOwnFolderAndSayWhatTheyAre) {
                       std::to_string(LOWORD(numbers->dwFileVersionMS)) + "." +
                       std::to_string(numbers->dwFileVersionLS),
                   OBRIN_PROJECT_VERSION);
+        EXPECT_EQ(std::pair(numbers->dwProductVersionMS, numbers->dwProductVersionLS),
+                  std::pair(numbers->dwFileVersionMS, numbers->dwFileVersionLS));
+        DWORD* block = nullptr;
+        VerQueryValueA(version.data(), "\\VarFileInfo\\Translation", reinterpret_cast<void**>(&block),
+                       &length);
+        EXPECT_EQ(*block, 0x04E40409U) << "where the texts are";
         std::string texts;
-        for (const std::string field : {"CompanyName", "FileDescription", "OriginalFilename", "ProductName",
-                                        "FileVersion", "ProductVersion"}) {
+        for (const std::string field : {"InternalName", "CompanyName", "FileDescription", "OriginalFilename",
+                                        "ProductName", "FileVersion", "ProductVersion"}) {
             void* value = nullptr;
             UINT size = 0;
             VerQueryValueA(version.data(), ("\\StringFileInfo\\040904E4\\" + field).c_str(), &value, &size);
             texts.append(static_cast<const char*>(value), size).back() = '|';
         }
-        EXPECT_EQ(texts, std::string("Obrin Software Systems|") + description + "|" + name +
+        EXPECT_EQ(texts, std::string(name).substr(0, std::string(name).find('.')) +
+                             "|Obrin Software Systems|" + description + "|" + name +
                              "|Obrin Core System|" OBRIN_PROJECT_VERSION "|" OBRIN_PROJECT_VERSION "|");
     }
 }

@@ -143,13 +143,13 @@ TEST_F(Properties, OpensADamagedFileAtOnceWithinTheLimitsOfItsControls) {
 
 TEST_F(Properties, ApplySavesAndStaysOkSavesAndCloses) {
     Open(0, [&] {
-        SetText(IDC_TXT_HEIGHT, "  12.000 ");
+        SetText(IDC_TXT_SAVE_TO_AS_START, "  12.000 ");
         SetText(IDC_TXT_PROGRAM_NAME, "edited");
         SetText(IDC_CMB_ORIENTATION, "Sideways");
         SetText(IDC_TXT_MARGIN + 2, "1");
         Press(IDC_APPLY);
         EXPECT_TRUE(Saved(std::string("Program           =     ") + key));
-        EXPECT_TRUE(Saved("Height            =     12.000"));
+        EXPECT_TRUE(Saved("SaveToAsStart     =     12.000"));
         // The file stays the one of the opening, the name in it is the tree's.
         treeTag = " Core\\Other ";
         Press(IDOK);
@@ -229,14 +229,16 @@ TEST_F(Properties, MarginsAreTypedKeyByKeyAndStayUnlessTheSliderHasTheirValue) {
         do
             tips = FindWindowExA(nullptr, tips, TOOLTIPS_CLASSA, nullptr);
         while (tips != nullptr && GetWindow(tips, GW_OWNER) != dialog);
+        char told[80] = "";
+        TOOLINFOA tip{sizeof tip, 0, dialog, reinterpret_cast<UINT_PTR>(Item(IDC_SLD_MARGIN)), {}, nullptr,
+                      told,       0, nullptr};
+        SendMessageA(tips, TTM_GETTOOLINFOA, 0, reinterpret_cast<LPARAM>(&tip));
+        EXPECT_STREQ(told, "2.05") << "as when the tips came";
         Send(IDC_SLD_MARGIN + 3, WM_KEYDOWN, VK_RIGHT);
         EXPECT_EQ(Margin(3), "0.51 510");
         Send(IDC_SLD_MARGIN + 3, WM_KEYDOWN, VK_NEXT);
         EXPECT_EQ(Margin(3), "0.76 760");
-        char told[80] = "";
-        TOOLINFOA tip{sizeof tip, 0,       dialog, reinterpret_cast<UINT_PTR>(Item(IDC_SLD_MARGIN + 3)),
-                      {},         nullptr, told,   0,
-                      nullptr};
+        tip.uId = reinterpret_cast<UINT_PTR>(Item(IDC_SLD_MARGIN + 3));
         SendMessageA(tips, TTM_GETTOOLINFOA, 0, reinterpret_cast<LPARAM>(&tip));
         EXPECT_TRUE(tip.uFlags & TTF_SUBCLASS) << "comes by itself";
         EXPECT_STREQ(told, "0.76") << "where the pointer rests on the slider";
