@@ -1,22 +1,10 @@
 #include "settings/ProgramSettings.h"
 
 #include "common/RunTimeError.h"
-#include "settings/InifileManipulation.h"
 
 #include <gtest/gtest.h>
 
 namespace obrin {
-
-TEST(Settings, AreWrittenBehindAColumnOf18AndReadAsTheyWere) {
-    EXPECT_EQ(FormatIniLine(std::string(18, 'K'), "v"), std::string(18, 'K') + "=     v");
-    EXPECT_THROW(FormatIniLine(std::string(19, 'K'), "v"), RunTimeError);
-    SettingValues values;
-    for (std::size_t i = 0; i < values.size(); ++i)
-        values[i] = "  value\t" + std::to_string(i) + " ";
-    const LoadedSettings loaded = ParseSettings(FormatSettings(values), "a.ini");
-    for (std::size_t i = 0; i < values.size(); ++i)
-        EXPECT_EQ(loaded[i], "value\t" + std::to_string(i)) << settings[i].key;
-}
 
 TEST(Settings, AreReadLineByLine) {
     const auto lines = [](std::string_view file) { return ParseSettings(file, "a.ini")[6]; };
