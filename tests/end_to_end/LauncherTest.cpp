@@ -29,10 +29,19 @@ void Key(BYTE key) {
     keybd_event(key, 0, KEYEVENTF_KEYUP, 0);
 }
 
-// Of a message box, where Windows and Wine give it different numbers.
-bool HasIcon(HWND box) {
-    return SendDlgItemMessageA(box, 20, STM_GETICON, 0, 0) != 0 ||
-           SendDlgItemMessageA(box, 1088, STM_GETICON, 0, 0) != 0;
+// In a message box, where Windows and Wine give the icon different numbers.
+bool HasStopSign(HWND box) {
+    const HWND other = GetDlgItem(box, 1088), icon = other != nullptr ? other : GetDlgItem(box, 20);
+    RECT place{};
+    GetWindowRect(icon, &place);
+    MapWindowPoints(nullptr, box, reinterpret_cast<POINT*>(&place), 2);
+    const HDC screen = GetDC(box);
+    const bool isRed = Eventually([&] {
+        const COLORREF colour = GetPixel(screen, place.left + 6, (place.top + place.bottom) / 2);
+        return colour != CLR_INVALID && GetRValue(colour) > GetBValue(colour) + 50;
+    });
+    ReleaseDC(box, screen);
+    return isRed;
 }
 
 // Clicks the real mouse on one of the tree's visible rows, counted from 0; `depth` is the node's.
@@ -271,7 +280,7 @@ TEST(Launcher, RefusesToRunBesideAnOpenHost) {
         EXPECT_NE(launcher.Texts(hostIsOpen).find(question), std::string::npos);
         const HWND box = launcher.Window(hostIsOpen);
         EXPECT_TRUE(SendDlgItemMessageA(box, IDNO, WM_GETDLGCODE, 0, 0) & DLGC_DEFPUSHBUTTON);
-        EXPECT_TRUE(HasIcon(box) && GetDlgItem(box, IDCANCEL) == nullptr);
+        EXPECT_TRUE(HasStopSign(box) && GetDlgItem(box, IDCANCEL) == nullptr);
         launcher.Press(hostIsOpen, answer);
         EXPECT_EQ(launcher.ExitCode(), 0);
         EXPECT_TRUE(ReadFileBytes("FennConfig.Sys").starts_with("Drive S,")) << "rewritten all the same";
@@ -405,7 +414,7 @@ TEST(Launcher, EndsWithTheErrorOfAnEvent) {
         ASSERT_TRUE(installation.HostTypesLast("UB"));
         PostMessageA(launcher.Menu(), WM_COMMAND, static_cast<WPARAM>(command), 0);
         EXPECT_NE(launcher.Texts("ObrinMenu").find(text), std::string::npos);
-        EXPECT_TRUE(HasIcon(launcher.Window("ObrinMenu")) && !IsWindowEnabled(launcher.Menu()));
+        EXPECT_TRUE(HasStopSign(launcher.Window("ObrinMenu")) && !IsWindowEnabled(launcher.Menu()));
         SendMessageA(launcher.Menu(), WM_CLOSE, 0, 0); // of which nothing may come any more
         launcher.Press("ObrinMenu", IDOK);
         EXPECT_EQ(launcher.ExitCode(), 1);

@@ -38,12 +38,14 @@ private:
     std::filesystem::path before;
 };
 
-/// A white picture of 24 bits a pixel; the width is a multiple of 4.
+/// A picture of 24 bits a pixel, white and black from one to the next; the width is a multiple of 4.
 inline std::string Bmp(int width, int height) {
     const BITMAPINFOHEADER info{sizeof info, width, height, 1, 24, BI_RGB, 0, 0, 0, 0, 0};
     const std::string head("BM\0\0\0\0\0\0\0\0\x36\0\0\0", 14);
-    return head + std::string(reinterpret_cast<const char*>(&info), sizeof info) +
-           std::string(static_cast<std::size_t>(3 * width * height), '\xFF');
+    std::string file = head + std::string(reinterpret_cast<const char*>(&info), sizeof info);
+    for (int pixel = 0; pixel < width * height; ++pixel)
+        file.append(3, pixel % 2 == 0 ? '\xFF' : '\0');
+    return file;
 }
 
 } // namespace obrin::test
