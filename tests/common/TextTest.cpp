@@ -43,7 +43,6 @@ TEST(Bytes, AreFoundInBlocksAndBehindThem) {
             text += unusual;
             EXPECT_EQ(FindByte(text, unusual), place);
             EXPECT_EQ(FindUnusualByte(text, '^'), place);
-            EXPECT_EQ(FindByte(text, unusual, place + 1), blocks.size() + 1);
             EXPECT_EQ(FindUnusualByte(text, '^', place + 1), blocks.size() + 1);
         }
     }

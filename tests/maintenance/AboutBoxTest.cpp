@@ -2,7 +2,6 @@
 
 #include "platform/Font.h"
 #include "platform/ModalTest.h"
-#include "platform/Picture.h"
 #include "platform/WindowChecks.h"
 
 namespace obrin {
@@ -19,6 +18,7 @@ protected:
 TEST_F(AboutBox, SaysItsTextsUnclipped) {
     ShowWhile([&](HWND box) {
         EXPECT_FALSE(IsWindowEnabled(owner));
+        EXPECT_NE(SendDlgItemMessageA(box, IDC_PIC_ICON, STM_GETICON, 0, 0), 0);
         EXPECT_EQ(GetDlgCtrlID(GetFocus()), IDOK);
         for (const WPARAM dpi : {96U, 120U, 144U, 168U, 192U}) {
             RECT inner{}, place, common;
@@ -43,11 +43,6 @@ TEST_F(AboutBox, SaysItsTextsUnclipped) {
         }
         EXPECT_GT(MeasureText(box, "a a a", 10).cy, MeasureText(box, "a", 10).cy) << "lines are broken";
         EXPECT_EQ(test::FontOf(GetDlgItem(box, IDC_LBL_TITLE)), "MS Shell Dlg-35b");
-        ICONINFO icon{};
-        GetIconInfo(reinterpret_cast<HICON>(SendDlgItemMessageA(box, IDC_PIC_ICON, STM_GETICON, 0, 0)),
-                    &icon);
-        const UniqueBitmap colours(icon.hbmColor), mask(icon.hbmMask);
-        EXPECT_EQ(PictureSize(colours.get()).cx, 64);
         EXPECT_EQ(WindowText(GetDlgItem(box, IDC_LBL_VERSION)), "Version " OBRIN_PROJECT_VERSION);
         SendMessageA(box, WM_COMMAND, IDOK, 0);
     });

@@ -49,8 +49,7 @@ TEST(MenuDefinition, LinesBecomeNodes) {
     for (int i = 1; i <= 300; ++i)
         many += "\rA^K" + std::to_string(i);
     EXPECT_EQ(ParseMenuDefinition(many, "", nullptr).entries.size(), 300U);
-    for (const char* again : {"\rA^K1", "\rA^K300"})
-        EXPECT_THROW(ParseMenuDefinition(many + again, "", nullptr), RunTimeError);
+    EXPECT_THROW(ParseMenuDefinition(many + "\rA^K1", "", nullptr), RunTimeError);
 }
 
 } // namespace

@@ -6,27 +6,6 @@
 
 namespace obrin {
 
-TEST(File, FirstLineIsReadInFewSteps) {
-    const test::ScratchFolder folder;
-    const std::string longLine(10'000'000, 'x');
-    const std::string edge(4095, 'x'); // its line end stands on either side of the first step's end
-    const std::pair<std::string, std::string> cases[] = {
-        {"a\nb\r\nc", "a\nb"},
-        {"a", "a"},
-        {"\r\n", ""},
-        {edge + "\r\nb", edge},
-        {edge + "x\r\nb", edge + "x"},
-        {longLine + "\rb", longLine},
-    };
-    for (const auto& [bytes, line] : cases) {
-        WriteFileBytes("f", bytes);
-        EXPECT_EQ(ReadFirstLine("f"), line);
-    }
-    WriteFileBytes("f", "");
-    EXPECT_THROW(ReadFirstLine("f"), RunTimeError);
-    EXPECT_THROW(ReadFirstLine("missing"), RunTimeError);
-}
-
 TEST(File, OthersMayReadAndWriteAnOpenFile) {
     const test::ScratchFolder folder;
     File mine("shared", File::Use::ReadWrite);

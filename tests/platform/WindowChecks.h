@@ -98,14 +98,9 @@ inline std::pair<std::string, LONG> Announced(HWND control) {
         EXPECT_EQ(state.lVal & (link | STATE_SYSTEM_READONLY), link);
         object->accDoDefaultAction(self);
         BSTR action = nullptr;
-        LONG left = 0, top = 0, width = 0, height = 0;
-        RECT inner;
         object->get_accDefaultAction(self, &action);
         EXPECT_STREQ(action, L"Jump");
         SysFreeString(action);
-        object->accLocation(&left, &top, &width, &height, self);
-        GetClientRect(control, &inner);
-        EXPECT_EQ(std::pair(width, height), std::pair(inner.right, inner.bottom));
     }
     object->Release();
     const std::string text(name, name + SysStringLen(name)); // plain letters
