@@ -3,7 +3,6 @@
 
 #include "end_to_end/Installation.h"
 
-#include "common/Twips.h"
 #include "menu/frmMain.h"
 #include "platform/Events.h"
 #include "platform/Font.h"
