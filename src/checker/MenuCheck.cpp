@@ -31,8 +31,6 @@ const char* AdviceOn(MenuFault::Kind kind) {
 }
 
 bool NamesFolderAbove(std::string_view key, LeadByteTest isLeadByte) {
-    if (key.find("..") == std::string_view::npos)
-        return false;
     for (std::size_t start = 0; start <= key.size();) {
         // For a file name "/" separates as well.
         const auto end =
@@ -48,6 +46,14 @@ bool NamesFolderAbove(std::string_view key, LeadByteTest isLeadByte) {
 bool HoldsWhatNoFileNameMay(std::string_view key, LeadByteTest isLeadByte) {
     return key.find_first_of("*?\"<") != std::string_view::npos ||
            FindCharacter(key, '|', isLeadByte) != std::string_view::npos;
+}
+
+// All that is warned of in keys holds one of these; most keys hold none.
+bool NeedsCloserLook(std::string_view key) {
+    return std::ranges::any_of(key, [](char byte) {
+        return byte == ' ' || byte == '.' || byte == ':' || byte == '*' || byte == '?' || byte == '"' ||
+               byte == '<' || byte == '|';
+    });
 }
 
 class Checker : public MenuSink {
@@ -169,6 +175,8 @@ private:
         if (wishes.keys)
             check.keys.emplace_back(entry.key);
 
+        if (!NeedsCloserLook(entry.key))
+            return;
         const auto warn = [&](const char* text) { Warn(entry.line, "the key " + Show(entry.key) + text); };
         if (NamesFolderAbove(entry.key, codePage.isLeadByte))
             warn(" holds \"..\": the program's settings file may lie outside of the folder for these; write "

@@ -4,7 +4,9 @@
 #include "platform/File.h"
 #include "platform/Workstation.h"
 
+#include <atomic>
 #include <cstring>
+#include <future>
 #include <span>
 
 namespace obrin {
@@ -57,12 +59,19 @@ MenuCheck CheckMenuFile(const std::string& path, std::string& memory, const Code
 std::vector<MenuCheck> CheckMenuFiles(const std::vector<std::string>& paths, MenuWishes wishes,
                                       const CheckProgress& progress) {
     const CodePage codePage{.isLeadByte = CodePageLeadByteTest(), .isUtf8 = GetACP() == CP_UTF8};
-    std::string memory(1 << 20, '\0'); // the same for all: new memory takes longer than reading into it
-    std::vector<MenuCheck> checks;
-    for (const auto& path : paths) {
-        progress(checks.size(), paths.size());
-        checks.push_back(CheckMenuFile(path, memory, codePage, wishes));
-    }
+    std::vector<MenuCheck> checks(paths.size());
+    std::atomic<std::size_t> next = 0;
+    const auto work = [&](const CheckProgress& tell) {
+        std::string memory(1 << 20, '\0'); // the same for all: new memory takes longer than reading into it
+        for (auto file = next++; file < paths.size(); file = next++) {
+            tell(file, paths.size());
+            checks[file] = CheckMenuFile(paths[file], memory, codePage, wishes);
+        }
+    };
+    // Two at a time: while one file is waited for, the bytes of the other are looked at.
+    auto others = std::async(std::launch::async, work, [](std::size_t, std::size_t) {});
+    work(progress);
+    others.get();
     return checks;
 }
 

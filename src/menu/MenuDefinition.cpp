@@ -26,10 +26,11 @@ public:
     int Add(std::string_view key, int line) {
         if (2 * keys.size() >= places.size())
             Grow();
-        std::uint16_t& place = PlaceOf(key);
+        const KeyLine added{.key = key, .line = line, .hash = HashOf(key)};
+        std::uint16_t& place = PlaceOf(added);
         if (place != free)
             return keys[place - 1U].line;
-        keys.push_back({.key = key, .line = line});
+        keys.push_back(added);
         place = static_cast<std::uint16_t>(keys.size()); // there are never more keys than entries
         return 0;
     }
@@ -38,23 +39,31 @@ private:
     struct KeyLine {
         std::string_view key;
         int line;
+        std::uint32_t hash; // most keys of a file begin alike: comparing them is slow
     };
 
     static constexpr std::uint16_t free = 0;
 
+    static std::uint32_t HashOf(std::string_view key) {
+        return static_cast<std::uint32_t>(std::hash<std::string_view>{}(key));
+    }
+
     // Where the key is, or the free place for it.
-    std::uint16_t& PlaceOf(std::string_view key) {
-        auto place = std::hash<std::string_view>{}(key);
-        while (places[place & (places.size() - 1)] != free &&
-               keys[places[place & (places.size() - 1)] - 1U].key != key)
-            ++place;
-        return places[place & (places.size() - 1)];
+    std::uint16_t& PlaceOf(const KeyLine& wanted) {
+        for (std::size_t place = wanted.hash;; ++place) {
+            std::uint16_t& number = places[place & (places.size() - 1)];
+            if (number == free)
+                return number;
+            const KeyLine& there = keys[number - 1U];
+            if (there.hash == wanted.hash && there.key == wanted.key)
+                return number;
+        }
     }
 
     void Grow() {
         places.assign(std::max<std::size_t>(4 * places.size(), 256), free);
         for (std::size_t i = 0; i < keys.size(); ++i)
-            PlaceOf(keys[i].key) = static_cast<std::uint16_t>(i + 1);
+            PlaceOf(keys[i]) = static_cast<std::uint16_t>(i + 1);
     }
 
     std::vector<KeyLine> keys;
