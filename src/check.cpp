@@ -4,7 +4,9 @@
 #include "platform/Failure.h"
 #include "platform/Handle.h"
 
+#include <chrono>
 #include <exception>
+#include <future>
 #include <span>
 #include <string>
 #include <string_view>
@@ -102,10 +104,11 @@ public:
     }
 
     void Show(std::size_t done, std::size_t all) {
-        constexpr ULONGLONG patience = 1000; // milliseconds
-        if (!console.IsConsole() || GetTickCount64() - start < patience)
+        if (!console.IsConsole())
             return;
-        std::string text = "Checked " + std::to_string(done) + " of " + std::to_string(all) + " menu files";
+        std::string text =
+            all == 0 ? "Looking at the installation"
+                     : "Checked " + std::to_string(done) + " of " + std::to_string(all) + " menu files";
         text.resize(width, ' ');
         console.Write("\r" + text);
         shown = true;
@@ -114,14 +117,17 @@ public:
 private:
     static constexpr std::size_t width = 60;
     Stream console{STD_ERROR_HANDLE};
-    ULONGLONG start = GetTickCount64();
     bool shown = false;
 };
 
 obrin::CheckResult CheckWithProgress(const std::vector<std::string>& paths, bool withTrees) {
+    obrin::CheckProgress progress;
+    auto check =
+        std::async(std::launch::async, [&] { return obrin::CheckPaths(paths, withTrees, progress); });
     ProgressLine line;
-    return obrin::CheckPaths(paths, withTrees,
-                             [&](std::size_t done, std::size_t all) { line.Show(done, all); });
+    while (check.wait_for(std::chrono::seconds(1)) == std::future_status::timeout)
+        line.Show(progress.done, progress.all);
+    return check.get();
 }
 
 int Run(std::span<char*> arguments) {

@@ -34,14 +34,9 @@ public:
         FindMenuFiles(); // without a listing there is nothing to say
         for (const auto step :
              {&Installation::CheckSystemCodes, &Installation::CheckHelp, &Installation::CheckConfiguration,
-              &Installation::CheckLibrary, &Installation::CheckPicture, &Installation::CheckSharedFiles}) {
-            try {
-                (this->*step)();
-            } catch (const RunTimeError& error) {
-                Error(shownBase, std::string(error.what()) + ": " + PlatformText(error.Code()) +
-                                     ", to the menu too; give the operators the right to read what is here");
-            }
-        }
+              &Installation::CheckFolders, &Installation::CheckLibrary, &Installation::CheckPicture,
+              &Installation::CheckSharedFiles})
+            (this->*step)();
         return std::move(check);
     }
 
@@ -65,20 +60,17 @@ private:
     }
 
     void FindMenuFiles() {
-        for (const auto& [name, isFolder, isHidden] : ListFolder(shownBase)) {
+        for (const FolderEntry& file : ListFolder(shownBase)) {
+            const std::string& name = file.name;
             const std::string path = PathOf(name);
-            if (isFolder)
+            if (file.isFolder)
                 continue;
-            if (IsMistakenMenuFileName(name))
-                Warn(path, notListedByName);
-            else if (IsMenuFileName(name) && isHidden)
-                Warn(path,
-                     "hidden or a system file: the menu does not list this system; take the attribute away "
-                     "(attrib -h -s)");
-            else if (IsMenuFileName(name))
+            if (!IsMenuFileName(name) && !IsMistakenMenuFileName(name))
+                continue;
+            if (const auto reason = WhyNotListed(file); reason.empty())
                 names.push_back(name);
             else
-                continue;
+                Warn(path, reason);
             // Listed or not: it is shown where it is the system remembered.
             check.menuFiles.push_back(path);
         }
@@ -121,20 +113,30 @@ private:
                 captionOf.emplace(DocumentOf(id, name, isLeadByte).value_or(""), caption);
         }
         for (const auto& [document, caption] : captionOf) {
-            if (!FileExists(PathOf(document)))
-                Warn(PathOf(document),
-                     std::string("missing: ") + caption + " opens nothing; put the document there");
+            const std::string path = PathOf(document);
+            const std::string consequence = std::string(": ") + caption + " opens nothing; ";
+            try {
+                if (!FileExists(path))
+                    Warn(path, "missing" + consequence + "put the document there");
+            } catch (const RunTimeError& error) {
+                Warn(path, "cannot be read (" + PlatformText(error.Code()) + ")" + consequence +
+                               "give the operators the right to read it");
+            }
         }
     }
 
     void CheckConfiguration() {
-        const std::string configuration = PathOf("FennConfig.Sys");
-        if (!FileExists(configuration))
-            Error(configuration, "missing: the menu ends at every start with \"Config File Not found!\"; "
-                                 "restore the file, or start "
-                                 "the menu in the host's folder");
-        else
-            CheckRewriting(configuration);
+        const std::string path = PathOf("FennConfig.Sys");
+        Look(path, atEveryStart, [&] {
+            if (ReadFileIfThere(path))
+                CheckRewriting(path);
+            else
+                Error(path, "missing: the menu ends at every start with \"Config File Not found!\"; restore "
+                            "the file, or start the menu in the host's folder");
+        });
+    }
+
+    void CheckFolders() {
         const std::string core = PathOf("Core");
         if (FolderExists(core))
             ErrorIfNot("used for new files", core, WhyNoFilesIn(core), atEveryStart);
@@ -161,6 +163,10 @@ private:
     // The menu looks for it in its own folder and in that of Windows. That may be another than the host's:
     // then this program lies there, too.
     void CheckLibrary() {
+        Look(PathOf("Corvel.dll"), atEveryStart, [this] { LookAtLibrary(); });
+    }
+
+    void LookAtLibrary() {
         constexpr const char* menu = "ObrinMenu.exe";
         const bool elsewhere = !FileExists(PathOf(menu)) && FileExists(OwnFolder() + menu);
         const auto beside = [&](const char* name) { return elsewhere ? OwnFolder() + name : PathOf(name); };
@@ -203,14 +209,25 @@ private:
     void CheckSharedFile(const std::string& name, const char* consequence,
                          const std::function<std::vector<Finding>(std::string_view)>& checkContents = {}) {
         const std::string path = PathOf(name);
-        if (FolderExists(path))
-            Error(path, "cannot be written (a folder of this name is there)" + std::string(consequence) +
-                            "remove it");
-        if (!FileExists(path))
-            return; // made when it is needed
-        ErrorIfNot("written", path, WhyNotWritable(path), consequence);
-        if (checkContents)
-            AddFor(path, checkContents(ReadFileBytes(path)));
+        Look(path, consequence, [&] {
+            if (FolderExists(path))
+                Error(path, "cannot be written (a folder of this name is there)" + std::string(consequence) +
+                                "remove it");
+            if (!FileExists(path))
+                return; // made when it is needed
+            if (checkContents)
+                AddFor(path, checkContents(ReadFileBytes(path)));
+            ErrorIfNot("written", path, WhyNotWritable(path), consequence);
+        });
+    }
+
+    // What cannot be looked at keeps nothing else from being looked at.
+    void Look(const std::string& path, const char* consequence, const std::function<void()>& look) {
+        try {
+            look();
+        } catch (const RunTimeError& error) {
+            ErrorIfNot("read", path, PlatformText(error.Code()), consequence);
+        }
     }
 
     void ErrorIfNot(const char* done, const std::string& path, const std::string& reason,
@@ -228,6 +245,15 @@ private:
 };
 
 } // namespace
+
+std::string WhyNotListed(const FolderEntry& file) {
+    if (!IsMenuFileName(file.name))
+        return "the name does not end in .mnu in small letters: the menu does not list this system; rename "
+               "the file";
+    return file.isHidden ? "hidden or a system file: the menu does not list this system; take the attribute "
+                           "away (attrib -h -s)"
+                         : "";
+}
 
 FolderCheck CheckFolder(const std::string& folder) {
     return Installation(folder).Check();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "checker/Finding.h"
+#include "platform/Folder.h"
 
 #include <string>
 #include <vector>
@@ -17,9 +18,7 @@ struct FolderCheck {
 /// cannot be listed.
 FolderCheck CheckFolder(const std::string& folder);
 
-/// What is said of a file that looks like a menu file and is none by its name.
-constexpr const char* notListedByName =
-    "the name does not end in .mnu in small letters: the menu does not list "
-    "this system; rename the file";
+/// What is said of a file that the menu does not list for its name or its attributes; empty of others.
+std::string WhyNotListed(const FolderEntry& file);
 
 } // namespace obrin

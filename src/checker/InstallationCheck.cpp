@@ -46,17 +46,16 @@ public:
             Append(result.findings, std::move(findings));
             menuFiles.insert(menuFiles.end(), files.begin(), files.end());
         } else if (FileExists(path)) {
-            const auto name = path.substr(FindLastCharacter(path, '\\', CodePageLeadByteTest()) + 1);
-            if (!IsMenuFileName(name))
-                Warn(path, notListedByName);
+            if (const auto reason = WhyNotListed(EntryAt(path)); !reason.empty())
+                Warn(path, reason);
             menuFiles.push_back(path);
         } else {
             throw RunTimeError(ERROR_FILE_NOT_FOUND, path);
         }
     }
 
-    CheckResult Finish(const CheckProgress& progress) {
-        result.menuFiles = menuFiles.size();
+    CheckResult Finish(CheckProgress& progress) {
+        result.menuFiles = progress.all = menuFiles.size();
         std::map<std::string, std::string>
             keys; // the same for the file system, and as one of the files has it
         auto checks = CheckMenuFiles(menuFiles, wishes, progress);
@@ -65,16 +64,16 @@ public:
                 finding.file = menuFiles[i];
             Append(result.findings, std::move(checks[i].findings));
             if (wishes.tree)
-                result.trees.append(menuFiles[i]).append(": ").append(checks[i].tree);
+                result.trees.append(menuFiles[i])
+                    .append(checks[i].tree.empty() ? ":\r\n" : ": ")
+                    .append(checks[i].tree);
             for (auto& key : checks[i].keys)
                 keys.try_emplace(UpperCase(key), key);
         }
         if (installations)
             CheckTemporaryFolder();
-        for (const auto& [comparable, key] : keys) {
-            progress(menuFiles.size(), menuFiles.size());
+        for (const auto& [comparable, key] : keys)
             CheckSettings(SettingsPath(temporaryFolder, key));
-        }
         return std::move(result);
     }
 
@@ -114,7 +113,7 @@ private:
 
 } // namespace
 
-CheckResult CheckPaths(const std::vector<std::string>& paths, bool withTrees, const CheckProgress& progress) {
+CheckResult CheckPaths(const std::vector<std::string>& paths, bool withTrees, CheckProgress& progress) {
     Checks checks(withTrees);
     for (const auto& path : paths)
         checks.Add(path);

@@ -3,8 +3,8 @@
 
 #include "checker/Finding.h"
 
+#include <atomic>
 #include <cstddef>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -16,11 +16,14 @@ struct CheckResult {
     std::size_t menuFiles = 0;
 };
 
-/// Called before each menu file is read.
-using CheckProgress = std::function<void(std::size_t done, std::size_t all)>;
+/// How far a check is, for another thread to tell.
+struct CheckProgress {
+    std::atomic<std::size_t> done = 0; ///< menu files
+    std::atomic<std::size_t> all = 0;  ///< 0 before they are counted
+};
 
 /// Checks each path: a folder as an installation, a file as a menu file. Findings name the files as the path
 /// leads to them. Changes no file. Throws RunTimeError for a path where there is nothing.
-CheckResult CheckPaths(const std::vector<std::string>& paths, bool withTrees, const CheckProgress& progress);
+CheckResult CheckPaths(const std::vector<std::string>& paths, bool withTrees, CheckProgress& progress);
 
 } // namespace obrin

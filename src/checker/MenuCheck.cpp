@@ -172,7 +172,7 @@ private:
     void TakeProgram(const MenuLine& entry) {
         for (auto above = entry.parent; above != 0 && !std::exchange(Above(above).used, true);)
             above = Above(above).parent;
-        if (wishes.keys)
+        if (wishes.keys && !entry.key.empty()) // without a key, no settings
             check.keys.emplace_back(entry.key);
 
         if (!NeedsCloserLook(entry.key))

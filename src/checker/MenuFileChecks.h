@@ -11,6 +11,6 @@ namespace obrin {
 
 /// One result for each path; a file that cannot be read has an error as its only finding.
 std::vector<MenuCheck> CheckMenuFiles(const std::vector<std::string>& paths, MenuWishes wishes,
-                                      const CheckProgress& progress);
+                                      CheckProgress& progress);
 
 } // namespace obrin

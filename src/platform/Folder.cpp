@@ -8,6 +8,17 @@
 
 namespace obrin {
 
+namespace {
+
+FolderEntry EntryOf(const WIN32_FIND_DATAA& found) {
+    const DWORD attributes = found.dwFileAttributes;
+    return {.name = found.cFileName,
+            .isFolder = (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0,
+            .isHidden = (attributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) != 0};
+}
+
+} // namespace
+
 std::string CurrentFolder() {
     std::string folder(GetCurrentDirectoryA(0, nullptr), '\0');
     const DWORD length = GetCurrentDirectoryA(static_cast<DWORD>(folder.size()), folder.data());
@@ -30,6 +41,15 @@ void CreateFolder(const std::string& path) {
         throw RunTimeError(error, "Making the folder " + path);
 }
 
+FolderEntry EntryAt(const std::string& path) {
+    WIN32_FIND_DATAA entry;
+    const HANDLE found = FindFirstFileA(path.c_str(), &entry);
+    if (found == INVALID_HANDLE_VALUE)
+        ThrowLastError("Looking for " + path);
+    FindClose(found);
+    return EntryOf(entry);
+}
+
 std::vector<FolderEntry> ListFolder(const std::string& folder) {
     std::vector<FolderEntry> entries;
     WIN32_FIND_DATAA entry;
@@ -42,10 +62,7 @@ std::vector<FolderEntry> ListFolder(const std::string& folder) {
     }
     const UniqueSearch search(found);
     do {
-        const DWORD attributes = entry.dwFileAttributes;
-        entries.push_back({.name = entry.cFileName,
-                           .isFolder = (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0,
-                           .isHidden = (attributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) != 0});
+        entries.push_back(EntryOf(entry));
     } while (FindNextFileA(search.get(), &entry));
     if (GetLastError() != ERROR_NO_MORE_FILES)
         ThrowLastError("Listing " + folder);

@@ -22,6 +22,9 @@ struct FolderEntry {
     bool isHidden; ///< or belongs to the system
 };
 
+/// What is there under a path, with its name as it stands on the disk. Throws RunTimeError.
+FolderEntry EntryAt(const std::string& path);
+
 /// Everything in a folder, in the order of the file system. Throws RunTimeError.
 std::vector<FolderEntry> ListFolder(const std::string& folder);
 

@@ -16,6 +16,7 @@ std::pair<std::string, DWORD> RunChecker(const std::string& arguments = "", bool
     HANDLE readEnd = nullptr, writeEnd = nullptr;
     CreatePipe(&readEnd, &writeEnd, &inherited, 0);
     const UniqueFile reader(readEnd);
+    SetConsoleOutputCP(GetACP()); // of the texts that are expected
     UniqueFile writer(writeEnd);
     const Started checker = Start(OwnProgram().replace_filename("ObrinCheck.exe"), arguments,
                                   complaints ? nullptr : writeEnd, complaints ? writeEnd : nullptr);
@@ -165,6 +166,8 @@ Lines Faulty(const std::string& section) {
 // one about the same file and line; none, and the menu does not.
 void Compare(const std::string& section) {
     for (const std::string& line : Faulty(section)) {
+        if (line.find("| remember ") != std::string::npos && !test::MayRememberSystem())
+            continue;
         SCOPED_TRACE(line.substr(0, 200));
         const Installation installation(5);
         SetEnvironmentVariableA("TesselTemp", ".");
@@ -233,6 +236,7 @@ TEST(Checker, TakesFoldersFilesAndNothingElse) {
     const Installation installation(5);
     CreateFolder("empty");
     WriteFileBytes("other.txt", "T\r\n>A^K");
+    WriteFileBytes("Local\\EE.mnu", "");
     WriteFileBytes("Local\\ZZ.mnu", "T\r\n>A^K");
     WriteFileBytes("Local\\Updated.txt", "0050");
     struct {
@@ -249,6 +253,8 @@ TEST(Checker, TakesFoldersFilesAndNothingElse) {
          "Local\\Updated.txt: warning: the last record is cut off: the next workstation that is updated "
          "overwrites it; cut the file to 3 bytes\r\nLocal\\ZZ.mnu:2: error: there is no heading"},
         {"UB.mnu .\\other.txt", 1, ".\\other.txt:2: error: there is no heading"},
+        {"--tree Local\\EE.mnu", 1, "Local\\EE.mnu:\r\nLocal\\EE.mnu: error: the file has no header line"},
+        {"Local/zz.MNU", 1, "1 error, 0 warnings in 1 menu file\r\n"},
         {"--tree other.txt", 1, "  A [K]\r\nother.txt: warning: the name does not end in .mnu"},
         {"UB.mnu", 0, "0 errors, 0 warnings in 1 menu file\r\n"},
         {".", 0,

@@ -20,8 +20,8 @@ TEST_F(AboutBox, SaysItsTextsUnclipped) {
         EXPECT_FALSE(IsWindowEnabled(owner));
         EXPECT_NE(SendDlgItemMessageA(box, IDC_PIC_ICON, STM_GETICON, 0, 0), 0);
         EXPECT_EQ(GetDlgCtrlID(GetFocus()), IDOK);
-        for (const WPARAM dpi : {96U, 120U, 144U, 168U, 192U}) {
-            RECT inner{}, place, common;
+        for (const UINT dpi : {96U, 120U, 144U, 168U, 192U}) {
+            RECT inner{}, outer, frame{}, place, common;
             SendMessageA(box, WM_DPICHANGED, dpi, reinterpret_cast<LPARAM>(&inner));
             GetClientRect(box, &inner);
             MapWindowPoints(box, nullptr, reinterpret_cast<POINT*>(&inner), 2);
@@ -38,7 +38,11 @@ TEST_F(AboutBox, SaysItsTextsUnclipped) {
                     EXPECT_FALSE(IntersectRect(&common, &place, &other)) << text;
                 places.push_back(place);
             }
-            EXPECT_NEAR(inner.bottom - places.back().bottom, static_cast<double>(dpi) / 6,
+            // The frame is not drawn anew: it stays that of the screen where the box really is.
+            AdjustWindowRectExForDpi(&frame, GetWindowStyle(box), FALSE, GetWindowExStyle(box), dpi);
+            GetWindowRect(box, &outer);
+            const LONG bottom = inner.top + (outer.bottom - outer.top) - (frame.bottom - frame.top);
+            EXPECT_NEAR(bottom - places.back().bottom, static_cast<double>(dpi) / 6,
                         static_cast<double>(dpi) / 10);
         }
         EXPECT_GT(MeasureText(box, "a a a", 10).cy, MeasureText(box, "a", 10).cy) << "lines are broken";
