@@ -54,7 +54,7 @@ TEST(MenuCheck, ShowsTheTreeAndTheKeys) {
     const auto check =
         CheckMenuFile(" T ^x\r\nA>\r\n>B>C^K>1\r\n>D\n\r\n>>E^\r\n>>>>F^L", {}, {.keys = true, .tree = true});
     EXPECT_EQ(check.tree, " T \r\n  A>\r\n    BC [K1]\r\n    D?\r\n      E []\r\n  F [L]\r\n");
-    EXPECT_EQ(check.keys, (std::vector<std::string>{"K1", "", "L"}));
+    EXPECT_EQ(check.keys, (std::vector<std::string>{"K1", "L"}));
 }
 
 TEST(Finding, IsReportedInOrderAndOneLine) {

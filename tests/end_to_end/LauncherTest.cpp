@@ -204,6 +204,7 @@ TEST(Launcher, ShowsTheRememberedSystemWhileItsFileIsThere) {
 TEST(Launcher, RightClickSelectsAndOffersThePopup) {
     const Installation installation(5);
     SetEnvironmentVariableA("TesselTemp", ".");
+    WriteFileBytes("UB.mnu", "T\r\nBilling\r\n>Post^P\r\nBackup^B\r\n^Core\\Programs\\CSBackup");
     const Launcher launcher;
     ASSERT_TRUE(installation.HostTypesLast("UB"));
     const HWND tree = launcher.Tree();
@@ -230,6 +231,7 @@ TEST(Launcher, RightClickSelectsAndOffersThePopup) {
     Key(VK_APPS);
     chooseHelp();
     EXPECT_TRUE(KeepsForeground(launcher.Menu()));
+    Key(VK_DOWN); // has no text
     Key(VK_APPS);
     ASSERT_TRUE(Eventually(popupIsShown));
     Key('P');
