@@ -1,5 +1,7 @@
+#include "checker/FileChecks.h"
 #include "checker/Finding.h"
 #include "checker/MenuCheck.h"
+#include "startup/UserRecords.h"
 
 #include <gtest/gtest.h>
 
@@ -55,6 +57,15 @@ TEST(MenuCheck, ShowsTheTreeAndTheKeys) {
         CheckMenuFile(" T ^x\r\nA>\r\n>B>C^K>1\r\n>D\n\r\n>>E^\r\n>>>>F^L", {}, {.keys = true, .tree = true});
     EXPECT_EQ(check.tree, " T \r\n  A>\r\n    BC [K1]\r\n    D?\r\n      E []\r\n  F [L]\r\n");
     EXPECT_EQ(check.keys, (std::vector<std::string>{"K1", "L"}));
+}
+
+TEST(FileChecks, FindWhatIsOddInRecordsAndImages) {
+    const std::string records = UserWsidRecord("a", 0) + UserWsidRecord("a", 3) + UserWsidRecord("b", 3);
+    EXPECT_EQ(Briefly(CheckUserRecords(records, nullptr)),
+              "W0 record 1 gives the user a the workstation number 0 W0 the user a has the records 1 and 2 "
+              "W0 the users a and b both have the workstation number 3");
+    EXPECT_EQ(Briefly(CheckUpdateRegister("01\n0")), "W0 byte 3 is no digit W0 the last record is cut off");
+    EXPECT_EQ(Briefly(CheckSupportLibrary("MZ", "")), "E0 no library of Windows");
 }
 
 TEST(Finding, IsReportedInOrderAndOneLine) {
