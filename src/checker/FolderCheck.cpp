@@ -16,6 +16,7 @@
 #include <array>
 #include <functional>
 #include <map>
+#include <set>
 
 namespace obrin {
 
@@ -63,6 +64,7 @@ private:
         for (const FolderEntry& file : ListFolder(shownBase)) {
             const std::string& name = file.name;
             const std::string path = PathOf(name);
+            listed.insert(UpperCase(name));
             if (file.isFolder)
                 continue;
             if (!IsMenuFileName(name) && !IsMistakenMenuFileName(name))
@@ -163,24 +165,33 @@ private:
     // The menu looks for it in its own folder and in that of Windows. That may be another than the host's:
     // then this program lies there, too.
     void CheckLibrary() {
-        Look(PathOf("Corvel.dll"), atEveryStart, [this] { LookAtLibrary(); });
+        constexpr const char* menu = "ObrinMenu.exe";
+        const bool elsewhere = !MayBeThere(PathOf(menu)) && MayBeThere(OwnFolder() + menu);
+        const auto beside = [&](const char* name) { return elsewhere ? OwnFolder() + name : PathOf(name); };
+        std::string image;
+        try {
+            image = ReadFileBytes(beside(menu));
+        } catch (const RunTimeError&) {
+            image.clear(); // the menu never reads it, either
+        }
+        const std::string path = beside("Corvel.dll");
+        for (const auto& library : {path, SystemFolder(ImageMachine(image) == machine32) + "\\Corvel.dll"}) {
+            if (!MayBeThere(library))
+                continue;
+            const auto look = [&] { AddFor(library, CheckSupportLibrary(ReadFileBytes(library), image)); };
+            Look(library, atEveryStart, look, "read");
+            return;
+        }
+        Error(path, std::string("missing") + atEveryStart + "put the library there that came with the menu");
     }
 
-    void LookAtLibrary() {
-        constexpr const char* menu = "ObrinMenu.exe";
-        const bool elsewhere = !FileExists(PathOf(menu)) && FileExists(OwnFolder() + menu);
-        const auto beside = [&](const char* name) { return elsewhere ? OwnFolder() + name : PathOf(name); };
-        const std::string program = beside(menu);
-        const std::string image = FileExists(program) ? ReadFileBytes(program) : "";
-        const std::string path = beside("Corvel.dll");
-        const std::string systems = SystemFolder(ImageMachine(image) == machine32) + "\\Corvel.dll";
-        if (FileExists(path))
-            AddFor(path, CheckSupportLibrary(ReadFileBytes(path), image));
-        else if (FileExists(systems))
-            AddFor(systems, CheckSupportLibrary(ReadFileBytes(systems), image));
-        else
-            Error(path,
-                  std::string("missing") + atEveryStart + "put the library there that came with the menu");
+    // What cannot be told is left to a look at the file itself.
+    static bool MayBeThere(const std::string& path) {
+        try {
+            return FileExists(path);
+        } catch (const RunTimeError&) {
+            return true;
+        }
     }
 
     void CheckPicture() {
@@ -201,9 +212,11 @@ private:
                         [this](std::string_view bytes) { return CheckUserRecords(bytes, isLeadByte); });
         CheckSharedFile("Updated.txt", ": the menu ends with an error when an operator runs a program; ",
                         CheckUpdateRegister);
-        for (int wsid = 1; wsid <= mostWsid; ++wsid)
-            CheckSharedFile(MarkerFileName(wsid),
-                            ": the menu of this workstation ends with an error at every start; ");
+        for (int wsid = 1; wsid <= mostWsid; ++wsid) {
+            // Of the listing: to ask a share for each would take long.
+            if (const auto name = MarkerFileName(wsid); listed.contains(UpperCase(name)))
+                CheckSharedFile(name, ": the menu of this workstation ends with an error at every start; ");
+        }
     }
 
     void CheckSharedFile(const std::string& name, const char* consequence,
@@ -222,24 +235,26 @@ private:
     }
 
     // What cannot be looked at keeps nothing else from being looked at.
-    void Look(const std::string& path, const char* consequence, const std::function<void()>& look) {
+    void Look(const std::string& path, const char* consequence, const std::function<void()>& look,
+              const char* right = "modify") {
         try {
             look();
         } catch (const RunTimeError& error) {
-            ErrorIfNot("read", path, PlatformText(error.Code()), consequence);
+            ErrorIfNot("read", path, PlatformText(error.Code()), consequence, right);
         }
     }
 
     void ErrorIfNot(const char* done, const std::string& path, const std::string& reason,
-                    const char* consequence) {
+                    const char* consequence, const char* right = "modify") {
         if (!reason.empty())
             Error(path, std::string("cannot be ") + done + " (" + reason + ")" + consequence +
-                            "close what keeps it open, or give the operators the right to modify it");
+                            "close what keeps it open, or give the operators the right to " + right + " it");
     }
 
     std::string base;      // in front of the names of files
     std::string shownBase; // the folder itself
     LeadByteTest isLeadByte = CodePageLeadByteTest();
+    std::set<std::string> listed;   // names of everything in the folder, in capitals
     std::vector<std::string> names; // of menu files, sorted
     FolderCheck check;
 };

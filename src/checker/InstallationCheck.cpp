@@ -3,7 +3,6 @@
 #include "checker/Access.h"
 #include "checker/FolderCheck.h"
 #include "checker/MenuFileChecks.h"
-#include "menu/MenuDefinition.h"
 #include "platform/Failure.h"
 #include "platform/File.h"
 #include "platform/Folder.h"
@@ -46,7 +45,8 @@ public:
             Append(result.findings, std::move(findings));
             menuFiles.insert(menuFiles.end(), files.begin(), files.end());
         } else if (FileExists(path)) {
-            if (const auto reason = WhyNotListed(EntryAt(path)); !reason.empty())
+            const auto entry = FindEntry(path);
+            if (const auto reason = entry ? WhyNotListed(*entry) : ""; !reason.empty())
                 Warn(path, reason);
             menuFiles.push_back(path);
         } else {
@@ -56,8 +56,7 @@ public:
 
     CheckResult Finish(CheckProgress& progress) {
         result.menuFiles = progress.all = menuFiles.size();
-        std::map<std::string, std::string>
-            keys; // the same for the file system, and as one of the files has it
+        std::map<std::string, std::string> settings; // paths: the same for the file system, and as shown
         auto checks = CheckMenuFiles(menuFiles, wishes, progress);
         for (std::size_t i = 0; i < checks.size(); ++i) {
             for (auto& finding : checks[i].findings)
@@ -67,13 +66,15 @@ public:
                 result.trees.append(menuFiles[i])
                     .append(checks[i].tree.empty() ? ":\r\n" : ": ")
                     .append(checks[i].tree);
-            for (auto& key : checks[i].keys)
-                keys.try_emplace(UpperCase(key), key);
+            for (const auto& key : checks[i].keys) {
+                const std::string path = SettingsPath(temporaryFolder, key);
+                settings.try_emplace(UpperCase(path), path);
+            }
         }
         if (installations)
             CheckTemporaryFolder();
-        for (const auto& [comparable, key] : keys)
-            CheckSettings(SettingsPath(temporaryFolder, key));
+        for (const auto& [comparable, path] : settings)
+            CheckSettings(path);
         return std::move(result);
     }
 

@@ -41,11 +41,11 @@ void CreateFolder(const std::string& path) {
         throw RunTimeError(error, "Making the folder " + path);
 }
 
-FolderEntry EntryAt(const std::string& path) {
+std::optional<FolderEntry> FindEntry(const std::string& path) {
     WIN32_FIND_DATAA entry;
     const HANDLE found = FindFirstFileA(path.c_str(), &entry);
     if (found == INVALID_HANDLE_VALUE)
-        ThrowLastError("Looking for " + path);
+        return std::nullopt;
     FindClose(found);
     return EntryOf(entry);
 }

@@ -1,6 +1,7 @@
 // Folder listings.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,8 +23,8 @@ struct FolderEntry {
     bool isHidden; ///< or belongs to the system
 };
 
-/// What is there under a path, with its name as it stands on the disk. Throws RunTimeError.
-FolderEntry EntryAt(const std::string& path);
+/// What is there under a path, with its name as it stands on the disk; nothing where that cannot be listed.
+std::optional<FolderEntry> FindEntry(const std::string& path);
 
 /// Everything in a folder, in the order of the file system. Throws RunTimeError.
 std::vector<FolderEntry> ListFolder(const std::string& folder);

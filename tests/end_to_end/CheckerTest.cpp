@@ -16,7 +16,6 @@ std::pair<std::string, DWORD> RunChecker(const std::string& arguments = "", bool
     HANDLE readEnd = nullptr, writeEnd = nullptr;
     CreatePipe(&readEnd, &writeEnd, &inherited, 0);
     const UniqueFile reader(readEnd);
-    SetConsoleOutputCP(GetACP()); // of the texts that are expected
     UniqueFile writer(writeEnd);
     const Started checker = Start(OwnProgram().replace_filename("ObrinCheck.exe"), arguments,
                                   complaints ? nullptr : writeEnd, complaints ? writeEnd : nullptr);
@@ -25,6 +24,7 @@ std::pair<std::string, DWORD> RunChecker(const std::string& arguments = "", bool
     std::array<char, 4096> part{};
     for (DWORD got = 0; ReadFile(readEnd, part.data(), part.size(), &got, nullptr) && got > 0;)
         output.append(part.data(), got);
+    OemToCharBuffA(output.data(), output.data(), static_cast<DWORD>(output.size())); // of its own console
     WaitForSingleObject(checker.process.get(), 5000);
     DWORD exitCode = STILL_ACTIVE;
     GetExitCodeProcess(checker.process.get(), &exitCode);
