@@ -65,9 +65,7 @@ private:
             const std::string& name = file.name;
             const std::string path = PathOf(name);
             listed.insert(UpperCase(name));
-            if (file.isFolder)
-                continue;
-            if (!IsMenuFileName(name) && !IsMistakenMenuFileName(name))
+            if (file.isFolder || (!IsMenuFileName(name) && !IsMistakenMenuFileName(name)))
                 continue;
             if (const auto reason = WhyNotListed(file); reason.empty())
                 names.push_back(name);
