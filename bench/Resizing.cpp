@@ -7,9 +7,10 @@
 #include "Program.h"
 #include "Scratch.h"
 
+#include "controls/Dialog.h"
+#include "controls/WindowText.h"
 #include "menu/MenuDefinition.h"
 #include "menu/frmMain.h"
-#include "platform/Dialog.h"
 #include "platform/Events.h"
 #include "platform/Failure.h"
 #include "platform/File.h"
@@ -109,8 +110,7 @@ BareWindow::BareWindow(HWND menu) {
             controlsInFrame = CopyChildren(original, copy);
     }
     tree.Attach(GetDlgItem(GetDlgItem(window, IDC_FRAME1), IDC_TREEVIEW1), {});
-    tree.Fill(ParseMenuDefinition(ReadFileBytes(Installation::system), Installation::system,
-                                  CodePageLeadByteTest()));
+    tree.Fill(ParseMenuDefinition(ReadFileBytes(Installation::system), CodePageLeadByteTest()).entries);
     ShowWindow(window, SW_SHOWNORMAL);
 }
 

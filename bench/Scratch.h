@@ -1,7 +1,7 @@
 // Folders that live as long as a measurement.
 #pragma once
 
-#include "platform/ScratchFolder.h"
+#include "support/ScratchFolder.h"
 
 #include <string>
 

@@ -6,8 +6,7 @@
 #include "Measurements.h"
 #include "Scratch.h"
 
-#include "platform/Dialog.h"
-#include "platform/StringTable.h"
+#include "controls/Dialog.h"
 #include "platform/SupportLibrary.h"
 #include "resources/Ids.h"
 #include "settings/Form2.h"
@@ -95,7 +94,10 @@ std::vector<Row> MeasureSettings() {
     SetEnvironmentVariableA("TesselTemp", ".");
     const std::string path = SettingsPath(key);
     WriteDefaultSettings(path, key);
-    SettingValues values = DefaultSettings(key, StringOfTable);
+    SettingValues values;
+    const LoadedSettings loaded = LoadSystemSettings(path);
+    for (std::size_t i = 0; i < values.size(); ++i)
+        values[i] = *loaded[i];
     std::string bytes = FormatSettings(values);
     // Another value each time: what is right already is not saved again.
     const auto change = [](std::string& text) { text.back() ^= 1; };

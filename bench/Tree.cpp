@@ -48,8 +48,8 @@ double ShowByProduct(MenuTree& tree, const char* fileName) {
     return 1e3 * Timed([&] {
                tree.Clear();
                MenuDefinition definition =
-                   ParseMenuDefinition(ReadFileBytes(fileName), fileName, CodePageLeadByteTest());
-               tree.Fill(std::move(definition));
+                   ParseMenuDefinition(ReadFileBytes(fileName), CodePageLeadByteTest());
+               tree.Fill(std::move(definition.entries));
                UpdateWindow(tree.Window());
            });
 }
@@ -96,8 +96,7 @@ Row MeasureShape(const char* what, int programs) {
     constexpr int runs = 21;
     constexpr const char* fileName = "UB.mnu";
     WriteFileBytes(fileName, MenuFileText("Utility Billing", entryCount, programs));
-    const MenuDefinition definition =
-        ParseMenuDefinition(ReadFileBytes(fileName), fileName, CodePageLeadByteTest());
+    const MenuDefinition definition = ParseMenuDefinition(ReadFileBytes(fileName), CodePageLeadByteTest());
     const std::vector<MenuEntry>& entries = definition.entries;
 
     const UniqueWindow frame = ShowFrame();

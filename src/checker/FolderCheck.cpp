@@ -2,12 +2,12 @@
 
 #include "checker/Access.h"
 #include "checker/FileChecks.h"
+#include "controls/Picture.h"
 #include "menu/MenuCommands.h"
 #include "menu/MenuDefinition.h"
 #include "platform/Failure.h"
 #include "platform/File.h"
 #include "platform/Folder.h"
-#include "platform/Picture.h"
 #include "platform/Workstation.h"
 #include "resources/Ids.h"
 #include "startup/UserRecords.h"

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "checker/Finding.h"
-#include "common/Lines.h"
 #include "common/Text.h"
 
 #include <string>
@@ -29,8 +28,6 @@ struct MenuCheck {
     std::string tree;              ///< a line for the title and each entry, when wished
 };
 
-/// A file as a whole, or part by part.
 MenuCheck CheckMenuFile(std::string_view file, const CodePage& codePage, MenuWishes wishes);
-MenuCheck CheckMenuFile(MoreText file, const CodePage& codePage, MenuWishes wishes);
 
 } // namespace obrin

@@ -1,7 +1,5 @@
 #include "common/Text.h"
 
-#include "common/Bytes.h"
-
 #include <algorithm>
 
 namespace obrin {
@@ -17,7 +15,7 @@ std::size_t NextCharacter(std::string_view text, std::size_t place, LeadByteTest
 
 std::size_t FindCharacter(std::string_view text, char character, LeadByteTest isLeadByte, std::size_t start) {
     if (isLeadByte == nullptr)
-        return FindByte(text, character, start);
+        return text.find(character, start);
     for (auto place = start; place < text.size(); place = NextCharacter(text, place, isLeadByte)) {
         if (text[place] == character)
             return place;

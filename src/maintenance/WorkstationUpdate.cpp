@@ -1,5 +1,6 @@
 #include "maintenance/WorkstationUpdate.h"
 
+#include "common/Installation.h"
 #include "maintenance/UpdateRegister.h"
 #include "maintenance/frmUpdate.h"
 #include "platform/File.h"
@@ -8,7 +9,7 @@ namespace obrin {
 
 void CheckWorkstationUpdate(HWND owner, int wsid) {
     const std::string key = UpdateKey(wsid);
-    File updated("Updated.txt", File::Use::ReadWrite);
+    File updated(updateRegisterFile, File::Use::ReadWrite);
     const UpdateSearch found = FindUpdateKey(updated.ReadToEnd(), key);
     if (found.updated)
         return;

@@ -1,8 +1,8 @@
 #include "maintenance/frmAbout.h"
 
+#include "controls/Font.h"
 #include "maintenance/AboutTexts.h"
 #include "maintenance/SystemInformation.h"
-#include "platform/Font.h"
 #include "resources/Ids.h"
 
 #include <algorithm>

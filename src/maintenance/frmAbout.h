@@ -1,7 +1,7 @@
 // The about box: which version is running, who made it, and a way to the system-information tool.
 #pragma once
 
-#include "platform/Dialog.h"
+#include "controls/Dialog.h"
 #include "platform/Handle.h"
 
 namespace obrin {

@@ -1,30 +1,18 @@
 #include "maintenance/frmUpdate.h"
 
+#include "common/Installation.h"
 #include "common/Text.h"
+#include "controls/Font.h"
+#include "maintenance/UpdateFiles.h"
 #include "platform/Events.h"
-#include "platform/Font.h"
 #include "platform/Workstation.h"
 #include "resources/Ids.h"
 
-#include <array>
 #include <string>
 
 namespace obrin {
 
 namespace {
-
-struct UpdateFile {
-    const char* source;      // below the shared installation
-    const char* destination; // in the workstation's local host folder
-};
-
-constexpr std::array<UpdateFile, 5> updateFiles{{
-    {"Tessel\\Exe\\Tessel.Exe", "Tessel.exe"},
-    {"Tessel\\Exe\\Sweeper.Exe", "Sweeper.exe"},
-    {"Tessel\\Exe\\Notebox.Exe", "Notebox.exe"},
-    {"Tessel\\Exe\\ShowAllFenns.Exe", "ShowAllFenns.exe"},
-    {"Tessel\\Exe\\Glass.Exe", "Glass.exe"},
-}};
 
 // The first resize notification, which starts the first copy. The dialog manager's own comes at another
 // moment on each platform, on some before the window can be seen.
@@ -130,8 +118,8 @@ void frmUpdate::CopyFiles() {
         if (!IsWindow(window))
             return;
         show(destination);
-        CopyUnexamined(source,
-                       EnsureTrailingBackslash(EnvironmentVariable("Tessel"), isLeadByte) + destination);
+        CopyUnexamined(source, EnsureTrailingBackslash(EnvironmentVariable(localHostVariable), isLeadByte) +
+                                   destination);
         ProcessPendingEvents();
     }
     show("Complete");

@@ -1,7 +1,7 @@
 // The update window: copies the shared executables to the workstation while it shows their names.
 #pragma once
 
-#include "platform/Dialog.h"
+#include "controls/Dialog.h"
 #include "platform/Handle.h"
 
 namespace obrin {

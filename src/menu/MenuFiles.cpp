@@ -1,5 +1,6 @@
 #include "menu/MenuFiles.h"
 
+#include "common/Installation.h"
 #include "common/RunTimeError.h"
 #include "menu/MenuDefinition.h"
 #include "platform/File.h"
@@ -16,12 +17,24 @@ std::vector<MenuFile> EnumerateMenuFiles() {
         if (!IsMenuFileName(name))
             continue;
         const std::string header = ReadFirstLine(name);
-        if (files.size() == SYSTEMS_TEMPLATE)
-            throw RunTimeError(PlatformError::InvalidIndex,
-                               "Adding " + name + " to the system list as item 99");
+        if (files.size() == mostSystems)
+            throw RunTimeError(PlatformError::InvalidIndex, "Adding " + name +
+                                                                " to the system list as item " +
+                                                                std::to_string(mostSystems));
         files.push_back({.name = name, .title = std::string(HeaderTitle(header, isLeadByte))});
     }
     return files;
+}
+
+void FillSystemList(HMENU bar, const std::vector<MenuFile>& systems) {
+    if (systems.empty()) {
+        DeleteMenu(bar, 0, MF_BYPOSITION);
+        return;
+    }
+    const HMENU list = GetSubMenu(bar, 0);
+    for (std::size_t i = 0; i < systems.size(); ++i)
+        AppendMenuA(list, MF_STRING, ID_SYSTEMS + i, systems[i].title.c_str());
+    DeleteMenu(list, ID_SYSTEMS_TEMPLATE, MF_BYCOMMAND);
 }
 
 } // namespace obrin

@@ -1,9 +1,7 @@
 #include "menu/MenuTree.h"
 
+#include "controls/Window.h"
 #include "platform/Failure.h"
-#include "platform/Window.h"
-
-#include <algorithm>
 
 namespace obrin {
 
@@ -13,14 +11,6 @@ namespace {
 template <class Argument>
 LRESULT Send(HWND tree, UINT message, WPARAM wParam, Argument* argument) {
     return SendMessageA(tree, message, wParam, reinterpret_cast<LPARAM>(argument));
-}
-
-// As the platform itself would, of a text without a NUL behind it.
-void Widen(std::string_view text, std::wstring& wide) {
-    wide.resize(text.size()); // no code page makes more of it
-    const int size = MultiByteToWideChar(CP_ACP, 0, text.data(), static_cast<int>(text.size()), wide.data(),
-                                         static_cast<int>(wide.size()));
-    wide.resize(static_cast<std::size_t>(size));
 }
 
 // No repaint while a tree with thousands of nodes changes: each would cost one.
@@ -46,47 +36,23 @@ private:
 void MenuTree::Clear() {
     const RedrawPause pause(window);
     Send(window, TVM_DELETEITEM, 0, TVI_ROOT);
-    shown = {};
+    nodes.clear();
 }
 
-void MenuTree::Fill(MenuDefinition definition) {
-    shown = std::move(definition);
-    const std::vector<MenuEntry>& nodes = shown.entries;
-    // Level by level, since a tree view may look for a node's parent in the order in which its nodes came:
-    // with thousands of programs in front of the last headings, most of the time would go there.
-    std::vector<std::size_t> depths(nodes.size() + 1); // by tree index, from 1; the root's is 0
-    std::vector<std::vector<std::size_t>> levels;      // positions in `nodes`
-    for (std::size_t i = 0; i < nodes.size(); ++i) {
-        const std::size_t depth = depths[static_cast<std::size_t>(nodes[i].parent)] + 1;
-        depths[i + 1] = depth;
-        levels.resize(std::max(levels.size(), depth));
-        levels[depth - 1].push_back(i);
-    }
-
+void MenuTree::Fill(std::vector<MenuEntry> entries) {
+    nodes = std::move(entries);
     const RedrawPause pause(window);
-    std::vector<HTREEITEM> items(nodes.size() + 1, TVI_ROOT); // by tree index
-    std::wstring text;
-    TVINSERTSTRUCTW insertion{};
-    // Windows walks all siblings to the place behind the last, which hundreds below one heading do not make
-    // felt. To insert them backwards would spare it that, but Wine finds such nodes later when it removes
-    // them: that costs it a tenth of the whole, and at the top level, where it counts the nodes behind a new
-    // one, far more.
+    std::vector<HTREEITEM> items{TVI_ROOT}; // by tree index
+    TVINSERTSTRUCTA insertion{};
     insertion.hInsertAfter = TVI_LAST;
     insertion.item.mask = TVIF_TEXT | TVIF_PARAM;
-    for (const auto& level : levels) {
-        for (const std::size_t i : level) {
-            const MenuEntry& entry = nodes[i];
-            insertion.hParent = items[static_cast<std::size_t>(entry.parent)];
-            Widen(entry.text, text);
-            insertion.item.pszText = text.data();
-            insertion.item.lParam = static_cast<LPARAM>(i);
-            // Straight to the stock tree view: that, too, counts with thousands of nodes.
-            items[i + 1] = reinterpret_cast<HTREEITEM>(
-                OwnAnswer(TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&insertion)));
-            if (items[i + 1] == nullptr)
-                throw RunTimeError(ERROR_NOT_ENOUGH_MEMORY,
-                                   "Adding " + std::string(entry.text) + " to the tree");
-        }
+    for (std::size_t i = 0; i < nodes.size(); ++i) {
+        insertion.hParent = items[static_cast<std::size_t>(nodes[i].parent)];
+        insertion.item.pszText = nodes[i].text.data();
+        insertion.item.lParam = static_cast<LPARAM>(i);
+        items.push_back(reinterpret_cast<HTREEITEM>(Send(window, TVM_INSERTITEMA, 0, &insertion)));
+        if (items.back() == nullptr)
+            throw RunTimeError(ERROR_NOT_ENOUGH_MEMORY, "Adding " + nodes[i].text + " to the tree");
     }
     // A tree view selects its first node when it gets the keyboard; without a selection its keys do nothing.
     if (!nodes.empty() && GetFocus() == window)
@@ -105,7 +71,7 @@ const MenuEntry* MenuTree::SelectedNode() const {
     item.mask = TVIF_PARAM;
     item.hItem = selected;
     Send(window, TVM_GETITEMA, 0, &item);
-    return &shown.entries[static_cast<std::size_t>(item.lParam)];
+    return &nodes[static_cast<std::size_t>(item.lParam)];
 }
 
 std::string_view MenuTree::SelectedKey() const {
@@ -124,7 +90,7 @@ void MenuTree::Attach(HWND treeView, Events treeEvents) {
     window = treeView;
     events = std::move(treeEvents);
     SetWindowLongPtrA(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-    ownProcedure = PutBefore(window, Procedure);
+    ownProcedure = ReplaceWindowProcedure(window, Procedure);
 }
 
 LRESULT CALLBACK MenuTree::Procedure(HWND tree, UINT message, WPARAM wParam, LPARAM lParam) noexcept {

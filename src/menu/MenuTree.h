@@ -7,6 +7,7 @@
 #include <functional>
 #include <optional>
 #include <string_view>
+#include <vector>
 
 namespace obrin {
 
@@ -28,7 +29,7 @@ public:
     /// Empties the tree.
     void Clear();
     /// Fills the empty tree, all nodes collapsed. Throws RunTimeError when the tree takes no more.
-    void Fill(MenuDefinition definition);
+    void Fill(std::vector<MenuEntry> entries);
 
     /// The key of the selected node; empty for a heading and without a selection.
     std::string_view SelectedKey() const;
@@ -49,7 +50,7 @@ private:
     WNDPROC ownProcedure = nullptr; // the stock tree view's
     Events events;
     std::optional<DWORD> rightClickLatch; // set while clicks put in by the menu are to come: since when, ms
-    MenuDefinition shown;                 // an item's lParam is its entry's position here
+    std::vector<MenuEntry> nodes;         // an item's lParam is its entry's position here
 };
 
 } // namespace obrin

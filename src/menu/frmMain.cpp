@@ -1,21 +1,22 @@
 #include "menu/frmMain.h"
 
+#include "common/Installation.h"
 #include "common/RunTimeError.h"
 #include "common/Text.h"
 #include "common/Twips.h"
+#include "controls/Font.h"
+#include "controls/GroupBox.h"
+#include "controls/Link.h"
+#include "controls/Window.h"
+#include "controls/WindowText.h"
 #include "maintenance/WorkstationUpdate.h"
 #include "maintenance/frmAbout.h"
 #include "menu/MenuCommands.h"
 #include "menu/MenuDefinition.h"
-#include "menu/SystemList.h"
 #include "platform/Failure.h"
 #include "platform/File.h"
 #include "platform/Folder.h"
-#include "platform/Font.h"
-#include "platform/GroupBox.h"
-#include "platform/Link.h"
 #include "platform/Shell.h"
-#include "platform/Window.h"
 #include "platform/Workstation.h"
 #include "resources/Ids.h"
 #include "settings/Form2.h"
@@ -27,8 +28,6 @@ namespace obrin {
 
 namespace {
 
-constexpr const char* registryKey = "Software\\Obrin";
-constexpr const char* lastSystemValue = "LastSystem";
 // Runs the selected program once the tree has finished with the event that asks for it: the update and the
 // host may take their time, and the window may be closed meanwhile, with the tree in it.
 constexpr UINT runSelected = WM_APP;
@@ -170,30 +169,26 @@ bool frmMain::Form_Load() {
     MnuFiles = EnumerateMenuFiles();
     FillSystemList(GetMenu(window), MnuFiles);
 
-    if (hostLink.Stands()) { // the window is loaded a second time in the same run
+    const std::string loginName = LoginName();
+    wsid = EstablishIdentity(window, loginName);
+    if (!IsWindow(window))
+        return false;
+    // Ahead of the host: it would stay behind, hidden, when the library is missing.
+    corvel.emplace();
+    hostLink.StartHost(window, wsid, [&] {
         CreateControls();
-    } else {
-        const std::string loginName = LoginName();
-        wsid = EstablishIdentity(window, loginName);
-        if (!IsWindow(window))
-            return false;
-        // Ahead of the host: it would stay behind, hidden, when the library is missing.
-        corvel.emplace();
-        hostLink.StartHost(window, wsid, [&] {
-            CreateControls();
-            SetLabel(Label2, UserCaption(loginName));
-            SetLabel(Label3, WsidCaption(wsid));
-        });
-        if (!IsWindow(window))
-            return false;
-    }
+        SetLabel(Label2, UserCaption(loginName));
+        SetLabel(Label3, WsidCaption(wsid));
+    });
+    if (!IsWindow(window))
+        return false;
 
     WriteFileBytes(MarkerFileName(wsid), "");
 
     const std::string lastSystem(
-        TrimBlanks(corvel->GetRegValue(HKEY_LOCAL_MACHINE, registryKey, lastSystemValue)));
+        TrimBlanks(corvel->GetRegValue(HKEY_LOCAL_MACHINE, menuRegistryKey, lastSystemValue)));
     if (auto file = lastSystem.empty() ? std::nullopt : ReadFileIfThere(lastSystem))
-        LoadSystem(lastSystem, std::move(*file));
+        LoadSystem(lastSystem, *file);
     else if (!MnuFiles.empty())
         mnuSystems_Click(0);
     else
@@ -288,7 +283,7 @@ void frmMain::Form_Unload() {
     hostLink.SendHostCommand("Run Core\\Exit\r");
     // Closed before any system was shown, there is none to remember: the earlier one stays remembered.
     if (!currentSystem.empty())
-        corvel->SetRegValue(HKEY_LOCAL_MACHINE, registryKey, lastSystemValue, currentSystem);
+        corvel->SetRegValue(HKEY_LOCAL_MACHINE, menuRegistryKey, lastSystemValue, currentSystem);
     DeleteFileA(MarkerFileName(wsid).c_str());
     DestroyWindow(window);
 }
@@ -298,7 +293,7 @@ void frmMain::Form_Unload() {
 void frmMain::CreateControls() {
     Frame1 =
         CreateControl(window, WC_BUTTONA, IDC_FRAME1, BS_GROUPBOX | WS_CLIPCHILDREN, "", WS_EX_CONTROLPARENT);
-    HoldControls(Frame1);
+    MakeContainer(Frame1);
     TreeView1.Attach(
         CreateControl(Frame1, WC_TREEVIEWA, IDC_TREEVIEW1,
                       WS_TABSTOP | TVS_HASLINES | TVS_LINESATROOT | TVS_HASBUTTONS | TVS_SHOWSELALWAYS, "",
@@ -394,13 +389,14 @@ void frmMain::mnuSystems_Click(std::size_t index) {
     LoadSystem(name, ReadFileBytes(name));
 }
 
-void frmMain::LoadSystem(const std::string& fileName, std::string file) {
+void frmMain::LoadSystem(const std::string& fileName, std::string_view file) {
     currentSystem = fileName;
     TreeView1.Clear();
     const LeadByteTest isLeadByte = CodePageLeadByteTest();
-    MenuDefinition definition = ParseMenuDefinition(std::move(file), fileName, isLeadByte);
+    MenuDefinition definition = ParseMenuDefinition(file, isLeadByte);
+    RefuseFaults(definition, fileName);
     // With its folder: the platform looks for a bare name in other folders too.
-    const std::string pictureFile = EnsureTrailingBackslash(CurrentFolder(), isLeadByte) + "Startup.bmp";
+    const std::string pictureFile = EnsureTrailingBackslash(CurrentFolder(), isLeadByte) + startupPictureFile;
     if (NormalFileExists(pictureFile))
         Image1.Load(pictureFile, dpi);
     SetWindowTextA(window, menuCaption);
@@ -409,7 +405,7 @@ void frmMain::LoadSystem(const std::string& fileName, std::string file) {
     SetWindowTextA(TreeView1.Window(), title.c_str()); // shown nowhere: a screen reader's name for the tree
     SetLabel(Label1, title);
     Form_Resize(); // title and picture are centred by their own widths
-    TreeView1.Fill(std::move(definition));
+    TreeView1.Fill(std::move(definition.entries));
     hostLink.SendHostCommand(StartSystem(SystemCode(fileName, isLeadByte)));
 }
 
@@ -422,7 +418,6 @@ void frmMain::RunSelectedProgram() {
 
 void frmMain::RunHostProgram(std::string_view program) {
     hostLink.SendHostCommand(LoadAndRun(program));
-    AfterHostCommand();
 }
 
 } // namespace obrin

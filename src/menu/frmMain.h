@@ -1,11 +1,11 @@
 // The menu window: the tree of one system, its title and picture, the menu bar, and the link to the host.
 #pragma once
 
+#include "controls/Picture.h"
 #include "menu/MenuFiles.h"
 #include "menu/MenuLayout.h"
 #include "menu/MenuTree.h"
 #include "platform/Handle.h"
-#include "platform/Picture.h"
 #include "platform/SupportLibrary.h"
 #include "startup/HostLink.h"
 
@@ -63,10 +63,9 @@ private:
     Size OwnSize(HWND control) const;
     void PopUp(int x, int y);
 
-    void LoadSystem(const std::string& fileName, std::string file);
+    void LoadSystem(const std::string& fileName, std::string_view file);
     void RunSelectedProgram();
     void RunHostProgram(std::string_view program);
-    void AfterHostCommand() {} // the window stays as it is: one program is started after the other
 
     std::optional<SupportLibrary> corvel; // from the load on
     HWND window = nullptr;

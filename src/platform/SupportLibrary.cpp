@@ -1,40 +1,40 @@
 #include "platform/SupportLibrary.h"
 
+#include "common/Installation.h"
 #include "platform/Failure.h"
+#include "platform/Library.h"
 
 namespace obrin {
 
 namespace {
 
-constexpr const char* libraryName = "Corvel.dll";
-
-HMODULE Load() {
-    const HMODULE module = LoadLibraryExA(libraryName, nullptr,
-                                          LOAD_LIBRARY_SEARCH_APPLICATION_DIR | LOAD_LIBRARY_SEARCH_SYSTEM32);
-    if (module != nullptr)
-        return module;
+UniqueLibrary Load() {
+    UniqueLibrary library =
+        LoadFrom(supportLibraryFile, LOAD_LIBRARY_SEARCH_APPLICATION_DIR | LOAD_LIBRARY_SEARCH_SYSTEM32);
+    if (library)
+        return library;
     if (GetLastError() == ERROR_BAD_EXE_FORMAT) // whose text has a gap in the place of the name
-        throw RunTimeError(PlatformError::InvalidData,
-                           std::string(libraryName) + " is no library for a program of " +
-                               std::to_string(8 * sizeof(void*)) +
-                               " bits. Beside ObrinMenu.exe belongs the one that was delivered with it");
-    ThrowLastError(std::string("Loading ") + libraryName);
+        throw RunTimeError(PlatformError::InvalidData, std::string(supportLibraryFile) + " is not a " +
+                                                           std::to_string(8 * sizeof(void*)) +
+                                                           "-bit library. Use the one that came with " +
+                                                           menuProgram);
+    ThrowLastError(std::string("Loading ") + supportLibraryFile);
 }
 
 template <class Routine>
-Routine Find(HMODULE module, const char* name) {
-    const FARPROC routine = GetProcAddress(module, name);
+Routine Find(const UniqueLibrary& library, const char* name) {
+    const auto routine = FindRoutine<Routine>(library, name);
     if (routine == nullptr)
-        ThrowLastError(std::string("Looking for ") + name + " in " + libraryName);
-    return reinterpret_cast<Routine>(routine);
+        ThrowLastError(std::string("Looking for ") + name + " in " + supportLibraryFile);
+    return routine;
 }
 
 } // namespace
 
 SupportLibrary::SupportLibrary()
     : library(Load())
-    , getRegValue(Find<GetRoutine>(library.get(), "GetRegValue"))
-    , setRegValue(Find<SetRoutine>(library.get(), "SetRegValue")) {}
+    , getRegValue(Find<GetRoutine>(library, "GetRegValue"))
+    , setRegValue(Find<SetRoutine>(library, "SetRegValue")) {}
 
 std::string SupportLibrary::GetRegValue(HKEY root, const char* keyPath, const char* valueName) const {
     // The library's strings hold bytes of the code page, not wide characters.

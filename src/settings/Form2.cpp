@@ -1,10 +1,12 @@
 #include "settings/Form2.h"
 
+#include "common/Installation.h"
 #include "common/Numbers.h"
 #include "common/Text.h"
+#include "controls/Theme.h"
+#include "controls/WindowText.h"
 #include "platform/Failure.h"
 #include "platform/File.h"
-#include "platform/Theme.h"
 #include "platform/Workstation.h"
 #include "resources/Ids.h"
 #include "settings/Margins.h"
@@ -14,16 +16,11 @@ namespace obrin {
 
 namespace {
 
-// Other programs of the installation may fill it; it is not where the menu remembers its own last system.
-constexpr const char* registryKey = "Software\\Obrin\\Menu";
-
 constexpr std::array<const char*, 3> tabCaptions{"General", "Page Settings", "Page Margins"};
 
 // As much as can be typed into a box. The platform takes half a minute to lay out the ten megabytes of a
 // damaged file.
 constexpr std::size_t longestText = 32767;
-
-constexpr UINT_PTR tipsDue = 1; // a timer
 
 // The element of a control array that an id names; out of the array's range for the id of another control.
 std::size_t ElementOf(int id, int firstId) {
@@ -54,10 +51,6 @@ INT_PTR Form2::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             from->hwndFrom != TabStrip1 || from->code != static_cast<UINT>(TCN_SELCHANGE))
             return FALSE;
         TabStrip1_Click();
-        return TRUE;
-    case WM_TIMER:
-        KillTimer(window, tipsDue);
-        PrepareTips();
         return TRUE;
     default:
         return FALSE;
@@ -90,11 +83,9 @@ void Form2::Form_Load() {
         WriteDefaultSettings(IniPath, std::string(TrimBlanks(treeTag)));
     CreatePages();
     PrepareSliders();
+    PrepareTips();
     LoadSettings();
     SetFocus(TabStrip1);
-    // Nobody can ask for a tip sooner, and the dialog stands sooner without them.
-    constexpr UINT delay = 200; // milliseconds
-    SetTimer(window, tipsDue, delay, nullptr);
 }
 
 // A page hands on what its controls say.
@@ -234,8 +225,7 @@ int Form2::SliderValue(std::size_t index) const {
 
 void Form2::sldMargin_Change(std::size_t index) {
     shownMargin[index] = SliderValue(index);
-    if (sliderTips != nullptr)
-        TellTips(TTM_UPDATETIPTEXTA, index);
+    TellTips(TTM_UPDATETIPTEXTA, index);
     WriteMarginText(index);
 }
 
@@ -289,7 +279,9 @@ void Form2::SaveSettings() const {
 }
 
 void Form2::LoadSettings() {
-    const std::string lastSystem = corvel.GetRegValue(HKEY_LOCAL_MACHINE, registryKey, "LastSystem");
+    // Not where the menu remembers its own last system: other programs of the suite may fill this key.
+    const std::string lastSystem =
+        corvel.GetRegValue(HKEY_LOCAL_MACHINE, propertiesRegistryKey, lastSystemValue);
     SetWindowTextA(Control(IDC_TXT_SYSTEM),
                    std::string(FirstCharacters(lastSystem, 2, CodePageLeadByteTest())).c_str());
     loaded = LoadSystemSettings(IniPath);

@@ -1,7 +1,7 @@
 // The Properties dialog: the settings of the program last right-clicked in the menu's tree, on three pages.
 #pragma once
 
-#include "platform/Dialog.h"
+#include "controls/Dialog.h"
 #include "platform/SupportLibrary.h"
 #include "settings/ProgramSettings.h"
 

@@ -1,5 +1,6 @@
 #include "settings/ProgramSettings.h"
 
+#include "common/Installation.h"
 #include "common/Lines.h"
 #include "common/RunTimeError.h"
 #include "common/Text.h"
@@ -10,7 +11,7 @@
 namespace obrin {
 
 std::string SettingsPath(std::string_view temporaryFolder, std::string_view programKey) {
-    return std::string(temporaryFolder).append("\\Ini\\").append(TrimBlanks(programKey)).append(".ini");
+    return std::string(temporaryFolder).append(settingsFolder).append(TrimBlanks(programKey)).append(".ini");
 }
 
 SettingValues DefaultSettings(const std::string& name, StringTable stringTable) {

@@ -1,5 +1,6 @@
 #include "startup/HostLink.h"
 
+#include "common/Installation.h"
 #include "platform/Events.h"
 #include "platform/Shell.h"
 #include "platform/Workstation.h"

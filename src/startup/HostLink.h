@@ -13,9 +13,6 @@ namespace obrin {
 /// Every top-level window of the host has this class.
 constexpr const char* hostWindowClass = "ZafWindow";
 
-/// The host, in the installation folder.
-constexpr const char* hostProgram = "Fenn.exe";
-
 class HostLink {
 public:
     explicit HostLink(HWND commandWindow = nullptr)
@@ -26,9 +23,6 @@ public:
     /// the operator. The link stands when it returns, unless `menu` was closed meanwhile. Throws
     /// RunTimeError.
     void StartHost(HWND menu, std::int16_t wsid, const std::function<void()>& meanwhile);
-
-    /// Whether the host's command window has been found. A host that ends later is not noticed.
-    bool Stands() const { return hostCommandWindow != nullptr; }
 
     /// Types a command into the host's command window, key by key; each key has been handled by the host when
     /// the next is sent. Without a host the keys are lost, without a message.

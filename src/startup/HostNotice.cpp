@@ -1,9 +1,9 @@
 #include "startup/HostNotice.h"
 
+#include "common/Installation.h"
 #include "platform/Failure.h"
 #include "platform/Folder.h"
 #include "resources/Ids.h"
-#include "startup/HostLink.h"
 
 namespace obrin {
 

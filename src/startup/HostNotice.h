@@ -1,7 +1,7 @@
 // The small window that tells the operator what is waited for when the host does not come at once.
 #pragma once
 
-#include "platform/Dialog.h"
+#include "controls/Dialog.h"
 
 #include <string>
 

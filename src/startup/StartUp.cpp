@@ -1,5 +1,6 @@
 #include "startup/StartUp.h"
 
+#include "common/Installation.h"
 #include "platform/File.h"
 #include "platform/FileReplacement.h"
 #include "platform/Folder.h"
@@ -15,15 +16,13 @@ namespace obrin {
 
 namespace {
 
-constexpr const char* configuration = "FennConfig.Sys";
-
 void RewriteHostConfiguration(std::string present) {
-    constexpr const char* temporary = "Core\\TempOut.tmp";
     const std::string blanked = BlankDriveLines(present, UpperCase);
-    WriteFileBytes(temporary, blanked);
+    WriteFileBytes(temporaryConfigurationFile, blanked);
     // Not read back from the temporary file: a workstation that starts at the same instant empties it. And
     // the configuration keeps its old lines until the new ones are safely on disk.
-    ReplaceFileBytes(configuration, WithDriveLine(ShortPath(CurrentFolder()), blanked), std::move(present));
+    ReplaceFileBytes(hostConfigurationFile, WithDriveLine(ShortPath(CurrentFolder()), blanked),
+                     std::move(present));
 }
 
 // Under any caption: the class alone counts.
@@ -71,7 +70,7 @@ void ShowWhatLoadingMenuShows(HWND menu) {
 } // namespace
 
 void Main(const MenuWindow& menu) {
-    std::optional<std::string> present = ReadFileIfThere(configuration);
+    std::optional<std::string> present = ReadFileIfThere(hostConfigurationFile);
     if (!present) {
         MessageBoxA(nullptr, "Config File Not found!", "Error!", MB_OK);
         return;

@@ -1,8 +1,9 @@
 #include "startup/WorkstationIdentity.h"
 
+#include "common/Installation.h"
 #include "common/Numbers.h"
 #include "common/Text.h"
-#include "platform/Dialog.h"
+#include "controls/InputBox.h"
 #include "platform/Events.h"
 #include "platform/File.h"
 #include "startup/UserRecords.h"
@@ -22,7 +23,7 @@ std::string AskForWsid(HWND menu, const std::string& loginName) {
 } // namespace
 
 std::int16_t EstablishIdentity(HWND menu, const std::string& loginName) {
-    File users("UserWSID.sys", File::Use::ReadWrite);
+    File users(userRecordsFile, File::Use::ReadWrite);
     auto [wsid, recordsRead] = ScanUserRecords(users.ReadToEnd(), loginName);
     const std::string user(TrimBlanks(loginName));
 

@@ -1,7 +1,5 @@
 #include "common/Text.h"
 
-#include "common/Bytes.h"
-
 #include <gtest/gtest.h>
 
 namespace obrin {
@@ -32,22 +30,6 @@ TEST(Text, CharactersAreFoundAmongThoseOfTwoBytes) {
         EXPECT_EQ(FirstCharacters(text, 2, isLeadByte), twoCharacters);
         EXPECT_EQ(EnsureTrailingBackslash(text, isLeadByte), asFolder);
     }
-}
-
-TEST(Bytes, AreFoundInBlocksAndBehindThem) {
-    const std::string blocks(300, 'x');
-    for (std::size_t place = 0; place <= blocks.size(); ++place) {
-        for (const char unusual : {'\r', '\x80', '\0', '^'}) {
-            std::string text = blocks;
-            text.insert(place, 1, unusual);
-            text += unusual;
-            EXPECT_EQ(FindByte(text, unusual), place);
-            EXPECT_EQ(FindUnusualByte(text, '^'), place);
-            EXPECT_EQ(FindUnusualByte(text, '^', place + 1), blocks.size() + 1);
-        }
-    }
-    EXPECT_EQ(FindByte(blocks, ' '), std::string::npos);
-    EXPECT_EQ(FindUnusualByte(blocks + " ~\x7F^"), std::string::npos);
 }
 
 } // namespace obrin

@@ -3,11 +3,11 @@
 #pragma once
 
 #include "platform/Failure.h"
-#include "platform/Machine.h"
-#include "platform/ScratchFolder.h"
 #include "platform/SupportLibrary.h"
 #include "resources/Ids.h"
 #include "startup/UserRecords.h"
+#include "support/Machine.h"
+#include "support/ScratchFolder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,9 @@
 #include "maintenance/frmAbout.h"
 
-#include "platform/Font.h"
-#include "platform/ModalTest.h"
-#include "platform/WindowChecks.h"
+#include "controls/Font.h"
+#include "controls/WindowText.h"
+#include "support/ModalTest.h"
+#include "support/WindowChecks.h"
 
 namespace obrin {
 namespace {

@@ -1,9 +1,10 @@
 #include "maintenance/SystemInformation.h"
 
-#include "platform/Dialog.h"
+#include "controls/Dialog.h"
+#include "controls/WindowText.h"
 #include "platform/FileReplacement.h"
-#include "platform/Machine.h"
-#include "platform/ModalTest.h"
+#include "support/Machine.h"
+#include "support/ModalTest.h"
 
 namespace obrin {
 namespace {

@@ -1,7 +1,7 @@
 #include "maintenance/WorkstationUpdate.h"
 
-#include "platform/ModalTest.h"
-#include "platform/WindowChecks.h"
+#include "support/ModalTest.h"
+#include "support/WindowChecks.h"
 
 namespace obrin {
 namespace {

@@ -1,6 +1,6 @@
 #include "menu/MenuCommands.h"
 
-#include "menu/SystemList.h"
+#include "menu/MenuFiles.h"
 #include "platform/WindowsApi.h"
 #include "resources/Ids.h"
 

@@ -36,7 +36,7 @@ TEST(MenuTree, HasTheEntriesInTheirOrderAndOffersThePopupOfOne) {
         tree.Clear();
         UpdateWindow(window);
         EXPECT_FALSE(tree.IsProgramNode());
-        tree.Fill(ParseMenuDefinition("T\ra\r>b^K1\r>\xE4\r>>d^K2\r>^K3\re^K4", "", nullptr));
+        tree.Fill(ParseMenuDefinition("T\ra\r>b^K1\r>\xE4\r>>d^K2\r>^K3\re^K4", nullptr).entries);
         EXPECT_TRUE(GetUpdateRect(window, nullptr, FALSE)) << "painted anew";
         EXPECT_TRUE(!tree.IsProgramNode() && tree.SelectedKey().empty());
         EXPECT_EQ(TreeView_GetSelection(window), nullptr) << "without the keyboard";

@@ -1,7 +1,7 @@
 #include "platform/FileReplacement.h"
 
-#include "platform/Machine.h"
-#include "platform/ScratchFolder.h"
+#include "support/Machine.h"
+#include "support/ScratchFolder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "platform/File.h"
 
-#include "platform/ScratchFolder.h"
+#include "support/ScratchFolder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
-#include "maintenance/LocalMachine.h"
-#include "platform/GroupBox.h"
-#include "platform/Machine.h"
+#include "controls/GroupBox.h"
 #include "platform/SupportLibrary.h"
+#include "support/LocalMachine.h"
+#include "support/Machine.h"
 
 #include <gtest/gtest.h>
 
@@ -104,7 +104,7 @@ TEST(Images, AreForWindows10TakeNothingFromTheirOwnFolderAndSayWhatTheyAre) {
 TEST(GroupBox, PaintsWhatIsBehindAThemedButtonInIt) {
     const HWND box = CreateWindowExA(0, WC_BUTTONA, "Caption", WS_POPUP | BS_GROUPBOX, 0, 0, 200, 100,
                                      nullptr, nullptr, nullptr, nullptr);
-    HoldControls(box);
+    MakeContainer(box);
     constexpr int width = 90, height = 30;
     const HWND button = CreateWindowExA(0, WC_BUTTONA, "Run", WS_CHILD | WS_VISIBLE, 20, 40, width, height,
                                         box, nullptr, nullptr, nullptr);

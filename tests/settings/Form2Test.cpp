@@ -1,7 +1,9 @@
 #include "settings/Form2.h"
 
-#include "platform/ModalTest.h"
+#include "controls/WindowText.h"
 #include "settings/SettingsStore.h"
+#include "support/ModalTest.h"
+#include "support/TopWindow.h"
 
 namespace obrin {
 namespace {
@@ -222,14 +224,16 @@ TEST_F(Properties, MarginsAreTypedKeyByKeyAndStayUnlessTheSliderHasTheirValue) {
         Press(IDC_APPLY);
         EXPECT_TRUE(Saved("TopMargin         =     2.05")) << "the slider's value, not the text";
         EXPECT_EQ(Margin(1), "0.5 500") << "the others stay";
-        MSG message; // the tips come when the dialog stands
-        GetMessageA(&message, dialog, WM_TIMER, WM_TIMER);
-        DispatchMessageA(&message);
-        EXPECT_FALSE(KillTimer(dialog, message.wParam)) << "once";
-        HWND tips = nullptr;
-        do
-            tips = FindWindowExA(nullptr, tips, TOOLTIPS_CLASSA, nullptr);
-        while (tips != nullptr && GetWindow(tips, GW_OWNER) != dialog);
+    });
+}
+
+TEST_F(Properties, SliderShowsItsValueInItsTip) {
+    Open(2, [&] {
+        const HWND tips = test::FindTopWindow([&](HWND window) {
+            char className[40] = "";
+            GetClassNameA(window, className, sizeof className);
+            return className == std::string(TOOLTIPS_CLASSA) && GetWindow(window, GW_OWNER) == dialog;
+        });
         char told[80] = "";
         TOOLINFOA tip{sizeof tip, 0,       dialog, reinterpret_cast<UINT_PTR>(Item(IDC_SLD_MARGIN + 3)),
                       {},         nullptr, told,   0,

@@ -1,6 +1,6 @@
 #include "startup/StartUp.h"
 
-#include "platform/ScratchFolder.h"
+#include "support/ScratchFolder.h"
 
 #include <gtest/gtest.h>
 

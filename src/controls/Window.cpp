@@ -1,4 +1,4 @@
-#include "platform/Window.h"
+#include "controls/Window.h"
 
 #include "platform/Failure.h"
 
@@ -16,7 +16,7 @@ HWND CreateControl(HWND parent, const char* controlClass, int id, DWORD style, c
     return control;
 }
 
-WNDPROC PutBefore(HWND control, WNDPROC procedure) {
+WNDPROC ReplaceWindowProcedure(HWND control, WNDPROC procedure) {
     return reinterpret_cast<WNDPROC>(
         SetWindowLongPtrW(control, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
 }

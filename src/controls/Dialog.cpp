@@ -1,8 +1,8 @@
-#include "platform/Dialog.h"
+#include "controls/Dialog.h"
 
+#include "controls/Font.h"
+#include "controls/Window.h"
 #include "platform/Failure.h"
-#include "platform/Font.h"
-#include "platform/Window.h"
 #include "resources/Ids.h"
 
 namespace obrin {
@@ -97,49 +97,6 @@ void Dialog::LayOut(UINT newDpi, POINT topLeft) {
     // Last: whatever the resize starts may close the dialog.
     const SIZE outer = OuterSize(layout, dpi);
     SetWindowPos(window, nullptr, topLeft.x, topLeft.y, outer.cx, outer.cy, SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
-std::string WindowText(HWND window) {
-    std::string text(static_cast<std::size_t>(GetWindowTextLengthA(window)) + 1, '\0');
-    text.resize(static_cast<std::size_t>(GetWindowTextA(window, text.data(), static_cast<int>(text.size()))));
-    return text;
-}
-
-namespace {
-
-class InputDialog final : public Dialog {
-public:
-    InputDialog(const std::string& question, const char* caption)
-        : prompt(question)
-        , title(caption) {}
-
-    std::string answer;
-
-private:
-    INT_PTR OnMessage(UINT message, WPARAM wParam, LPARAM) override {
-        if (message == WM_INITDIALOG) {
-            SetWindowTextA(window, title);
-            SetWindowTextA(Control(IDC_PROMPT), prompt.c_str());
-            return TRUE;
-        }
-        if (message != WM_COMMAND || (LOWORD(wParam) != IDOK && LOWORD(wParam) != IDCANCEL))
-            return FALSE;
-        if (LOWORD(wParam) == IDOK)
-            answer = WindowText(Control(IDC_ANSWER));
-        EndDialog(window, LOWORD(wParam));
-        return TRUE;
-    }
-
-    const std::string& prompt;
-    const char* title;
-};
-
-} // namespace
-
-std::string InputBox(HWND owner, const std::string& prompt, const char* title) {
-    InputDialog dialog(prompt, title);
-    dialog.ShowModal(owner, IDD_INPUT_BOX);
-    return dialog.answer;
 }
 
 } // namespace obrin

@@ -1,4 +1,4 @@
-#include "platform/Font.h"
+#include "controls/Font.h"
 
 namespace obrin {
 

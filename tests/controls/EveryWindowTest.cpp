@@ -1,14 +1,17 @@
 // What holds for every dialog: it is as windows.txt says, it comes back from a screen of another DPI as it
 // was, and a screen reader knows its controls by their labels.
 
+#include "common/Installation.h"
+#include "controls/InputBox.h"
+#include "controls/WindowText.h"
 #include "maintenance/frmAbout.h"
 #include "maintenance/frmUpdate.h"
 #include "platform/Failure.h"
-#include "platform/ModalTest.h"
-#include "platform/WindowChecks.h"
 #include "settings/Form2.h"
 #include "startup/HostLink.h"
 #include "startup/HostNotice.h"
+#include "support/ModalTest.h"
+#include "support/WindowChecks.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -1,4 +1,4 @@
-#include "platform/Picture.h"
+#include "controls/Picture.h"
 
 #include "platform/Failure.h"
 

@@ -1,7 +1,7 @@
-#include "platform/GroupBox.h"
+#include "controls/GroupBox.h"
 
-#include "platform/Theme.h"
-#include "platform/Window.h"
+#include "controls/Theme.h"
+#include "controls/Window.h"
 
 namespace obrin {
 
@@ -61,8 +61,9 @@ LRESULT CALLBACK Procedure(HWND box, UINT message, WPARAM wParam, LPARAM lParam)
 
 } // namespace
 
-void HoldControls(HWND groupBox) {
-    SetWindowLongPtrA(groupBox, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(PutBefore(groupBox, Procedure)));
+void MakeContainer(HWND groupBox) {
+    SetWindowLongPtrA(groupBox, GWLP_USERDATA,
+                      reinterpret_cast<LONG_PTR>(ReplaceWindowProcedure(groupBox, Procedure)));
 }
 
 } // namespace obrin

@@ -1,27 +1,23 @@
-#include "platform/Theme.h"
+#include "controls/Theme.h"
+
+#include "platform/Library.h"
 
 namespace obrin {
 
 namespace {
 
-// All null without the library.
+// The routines are null without the library.
 struct UxTheme {
-    HMODULE library = LoadLibraryExA("UxTheme.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32); // stays
-    decltype(&BeginBufferedPaint) begin = Find<decltype(begin)>("BeginBufferedPaint");
-    decltype(&EndBufferedPaint) end = Find<decltype(end)>("EndBufferedPaint");
+    UniqueLibrary library = LoadFrom("UxTheme.dll", LOAD_LIBRARY_SEARCH_SYSTEM32);
+    decltype(&BeginBufferedPaint) begin = FindRoutine<decltype(begin)>(library, "BeginBufferedPaint");
+    decltype(&EndBufferedPaint) end = FindRoutine<decltype(end)>(library, "EndBufferedPaint");
     decltype(&EnableThemeDialogTexture) enableTexture =
-        Find<decltype(enableTexture)>("EnableThemeDialogTexture");
+        FindRoutine<decltype(enableTexture)>(library, "EnableThemeDialogTexture");
 
     // Once for the thread that paints; its buffers are kept from one painting to the next.
     UxTheme() {
-        if (const auto init = Find<decltype(&BufferedPaintInit)>("BufferedPaintInit"))
+        if (const auto init = FindRoutine<decltype(&BufferedPaintInit)>(library, "BufferedPaintInit"))
             init();
-    }
-
-private:
-    template <class Routine>
-    Routine Find(const char* name) const {
-        return reinterpret_cast<Routine>(GetProcAddress(library, name));
     }
 };
 

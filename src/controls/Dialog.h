@@ -2,10 +2,9 @@
 // screen and the user's settings.
 #pragma once
 
-#include "platform/DialogLayout.h"
+#include "controls/DialogLayout.h"
 
 #include <optional>
-#include <string>
 
 namespace obrin {
 
@@ -60,11 +59,5 @@ private:
     std::optional<DialogDesign> design;
     UniqueFont font; // none of ours before the first layout
 };
-
-/// The text of a window or control.
-std::string WindowText(HWND window);
-
-/// Asks for one line of text. Returns it, or an empty text when the box was cancelled or closed.
-std::string InputBox(HWND owner, const std::string& prompt, const char* title);
 
 } // namespace obrin

@@ -1,9 +1,9 @@
 // Tests of modal windows: they act while the window is up.
 #pragma once
 
-#include "maintenance/LocalMachine.h"
-#include "platform/ScratchFolder.h"
 #include "resources/Ids.h"
+#include "support/LocalMachine.h"
+#include "support/ScratchFolder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,9 @@
-#include "platform/Link.h"
+#include "controls/Link.h"
 
-#include "platform/AccessibleLink.h"
 #include "platform/Failure.h"
+#include "platform/Handle.h"
+
+#include <oleacc.h>
 
 namespace obrin {
 
@@ -48,12 +50,6 @@ LRESULT OnMessage(HWND label, UINT message, WPARAM wParam, LPARAM lParam) {
         DrawFocus(label);
         return result;
     }
-    case WM_GETOBJECT:
-        if (static_cast<LONG>(lParam) == OBJID_CLIENT) {
-            if (const LRESULT answer = AnswerAsLink(label, wParam, OBJID_CLIENT))
-                return answer;
-        }
-        return DefSubclassProc(label, message, wParam, lParam);
     default:
         return DefSubclassProc(label, message, wParam, lParam);
     }
@@ -62,6 +58,19 @@ LRESULT OnMessage(HWND label, UINT message, WPARAM wParam, LPARAM lParam) {
 LRESULT CALLBACK Procedure(HWND label, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
                            DWORD_PTR) noexcept {
     return AtBoundary([=] { return OnMessage(label, message, wParam, lParam); });
+}
+
+// Gives the label the role of a link for screen readers. A platform without this service leaves it a label.
+void AnnounceAsLink(HWND label) {
+    void* created = nullptr;
+    if (FAILED(CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER, IID_IAccPropServices,
+                                &created)))
+        return;
+    const UniqueObject<IAccPropServices> services(static_cast<IAccPropServices*>(created));
+    VARIANT role{};
+    role.vt = VT_I4;
+    role.lVal = ROLE_SYSTEM_LINK;
+    services->SetHwndProp(label, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, PROPID_ACC_ROLE, role);
 }
 
 } // namespace
@@ -74,6 +83,7 @@ LRESULT UseLinkColours(HDC context) {
 
 void MakeLink(HWND label) {
     SetWindowSubclass(label, Procedure, 0, 0);
+    AnnounceAsLink(label);
 }
 
 } // namespace obrin

@@ -1,6 +1,6 @@
-#include "platform/DialogLayout.h"
+#include "controls/DialogLayout.h"
 
-#include "platform/Window.h"
+#include "controls/Window.h"
 
 #include <algorithm>
 
