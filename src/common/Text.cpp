@@ -48,6 +48,23 @@ std::string_view TrimBlanks(std::string_view text) {
     return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
+std::string WithoutAccessKeyMarks(std::string_view caption) {
+    std::string shown;
+    for (std::size_t i = 0; i < caption.size(); ++i) {
+        if (caption[i] == '&' && ++i == caption.size())
+            break; // a mark at the end marks nothing
+        shown += caption[i];
+    }
+    return shown;
+}
+
+std::string WithAmpersandsDoubled(std::string_view text) {
+    std::string doubled;
+    for (const char character : text)
+        doubled.append(character == '&' ? 2 : 1, character);
+    return doubled;
+}
+
 std::string EnsureTrailingBackslash(std::string path, LeadByteTest isLeadByte) {
     if (path.empty() || FindLastCharacter(path, '\\', isLeadByte) != path.size() - 1)
         path += '\\';

@@ -34,7 +34,7 @@ LRESULT OnMessage(HWND label, UINT message, WPARAM wParam, LPARAM lParam) {
     }
     case WM_KEYDOWN:
         if ((wParam == VK_RETURN || wParam == VK_SPACE) && (HIWORD(lParam) & KF_REPEAT) == 0)
-            Click(label); // once, however long the key is held
+            Click(label); // once, also when the key is held
         return 0;
     case WM_SETFOCUS:
     case WM_KILLFOCUS:

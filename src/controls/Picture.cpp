@@ -1,16 +1,22 @@
 #include "controls/Picture.h"
 
+#include "common/BitmapFile.h"
 #include "platform/Failure.h"
+#include "platform/File.h"
 
 namespace obrin {
 
 UniqueBitmap LoadPicture(const std::string& path) {
+    const std::string doing = "Loading the picture " + path;
+    File file(path, File::Use::Read);
+    if (!IsWholeBitmap(file.Read(bitmapHeaderBytes), file.Size()))
+        throw RunTimeError(PlatformError::InvalidData, doing);
+    file.Close();
     SetLastError(0);
     UniqueBitmap picture(static_cast<HBITMAP>(
         LoadImageA(nullptr, path.c_str(), IMAGE_BITMAP, 0, 0, LR_LOADFROMFILE | LR_CREATEDIBSECTION)));
     if (picture)
         return picture;
-    const std::string doing = "Loading the picture " + path;
     if (GetLastError() != 0)
         ThrowLastError(doing);
     throw RunTimeError(PlatformError::InvalidData, doing); // the call itself is silent about bad contents

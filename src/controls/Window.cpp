@@ -21,6 +21,24 @@ WNDPROC ReplaceWindowProcedure(HWND control, WNDPROC procedure) {
         SetWindowLongPtrW(control, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
 }
 
+namespace {
+
+LRESULT CALLBACK HeldEnterProcedure(HWND button, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                    DWORD_PTR) noexcept {
+    // The dialog manager asks for each key. What is wanted reaches the button, to which Enter means nothing.
+    const auto* key = reinterpret_cast<const MSG*>(lParam);
+    if (message == WM_GETDLGCODE && key != nullptr && key->message == WM_KEYDOWN &&
+        key->wParam == VK_RETURN && (HIWORD(key->lParam) & KF_REPEAT) != 0)
+        return DLGC_WANTMESSAGE | DefSubclassProc(button, message, wParam, lParam);
+    return DefSubclassProc(button, message, wParam, lParam);
+}
+
+} // namespace
+
+void IgnoreHeldEnter(HWND button) {
+    SetWindowSubclass(button, HeldEnterProcedure, 0, 0);
+}
+
 void CentreOnScreen(HWND window, SIZE outer) {
     MONITORINFO monitor{};
     monitor.cbSize = sizeof monitor;

@@ -15,6 +15,9 @@ HWND CreateControl(HWND parent, const char* controlClass, int id, DWORD style, c
 /// Unicode window that it is. SetWindowSubclass costs a tree of thousands of nodes several times as long.
 WNDPROC ReplaceWindowProcedure(HWND control, WNDPROC procedure);
 
+/// Lets a button of a dialog take no notice of the repeated keys of Enter held down.
+void IgnoreHeldEnter(HWND button);
+
 /// Sizes a window, in pixels with its frame, and centres it on its screen. A screen without room makes it
 /// smaller.
 void CentreOnScreen(HWND window, SIZE outer);

@@ -18,7 +18,8 @@ void CheckWorkstationUpdate(HWND owner, int wsid) {
         return; // the program ends: the workstation is updated at its next start
     updated.Seek((found.record - 1) * updateKeyBytes);
     updated.Write(key);
-    updated.FlushAndClose();
+    updated.Flush();
+    updated.Close();
 }
 
 } // namespace obrin

@@ -3,6 +3,7 @@
 #include "common/Installation.h"
 #include "common/Text.h"
 #include "controls/Font.h"
+#include "controls/Window.h"
 #include "maintenance/UpdateFiles.h"
 #include "platform/Events.h"
 #include "platform/Workstation.h"
@@ -17,6 +18,8 @@ namespace {
 // The first resize notification, which starts the first copy. The dialog manager's own comes at another
 // moment on each platform, on some before the window can be seen.
 constexpr UINT firstShown = WM_APP;
+
+constexpr UINT neverSent = WM_APP + 1;
 
 // A file that cannot be copied is passed over: the next one is tried, and nobody is told.
 void CopyUnexamined(const char* source, const std::string& destination) {
@@ -44,9 +47,9 @@ INT_PTR frmUpdate::OnMessage(UINT message, WPARAM wParam, LPARAM) {
             Form_Resize();
         return TRUE;
     case WM_COMMAND:
-        if (LOWORD(wParam) != IDOK && LOWORD(wParam) != IDCANCEL)
-            return FALSE;
-        Command1_Click();
+        // Enter stands for the button also while it is hidden. The close box may be clicked at any time.
+        if ((LOWORD(wParam) == IDOK && IsWindowVisible(Command1)) || LOWORD(wParam) == IDCANCEL)
+            Command1_Click();
         return TRUE;
     default:
         return FALSE;
@@ -57,6 +60,7 @@ void frmUpdate::Form_Load() {
     Label1 = Control(IDC_LABEL1);
     Label2 = Control(IDC_LABEL2);
     Command1 = Control(IDOK);
+    IgnoreHeldEnter(Command1); // held since the program was run, it would close the window at once
     LaidOut();
 
     // A quarter of its own height below the menu window's top and half its own width right of its left edge.
@@ -111,6 +115,10 @@ void frmUpdate::CopyFiles() {
         SetWindowTextA(Label1, (std::string("Updating:\r\n") + what).c_str());
         // Now: a copy can take minutes, and nothing is painted meanwhile.
         RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+        // Some platforms bring it to the screen only when the thread looks for a message: for one that never
+        // comes.
+        MSG none;
+        PeekMessageA(&none, window, neverSent, neverSent, PM_NOREMOVE);
     };
     const LeadByteTest isLeadByte = CodePageLeadByteTest();
     for (const auto& [source, destination] : updateFiles) {

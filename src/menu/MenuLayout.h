@@ -42,8 +42,8 @@ struct MenuLayout {
 namespace design {
 constexpr Size inner{11100, 7500};
 constexpr Box frame1{150, 120, 6000, 7200};
-constexpr Box treeView1{150, 330, 5700, 6150};
-constexpr double command1Gap = 120; // between the tree and Command1
+constexpr Box treeView1{150, 420, 5700, 6060}; // below a caption in large letters, too
+constexpr double command1Gap = 120;            // between the tree and Command1
 constexpr Size command1{1800, 420};
 constexpr double label1Top = 240;
 constexpr double label2Top = 900;

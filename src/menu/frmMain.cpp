@@ -24,6 +24,8 @@
 #include "startup/UserRecords.h"
 #include "startup/WorkstationIdentity.h"
 
+#include <utility>
+
 namespace obrin {
 
 namespace {
@@ -54,6 +56,7 @@ void frmMain::Show() {
     if (!Form_Load())
         return;
     ShowWindow(window, SW_SHOWNORMAL);
+    hostLink.CloseNotice();
     SetForegroundWindow(window);
 }
 
@@ -130,7 +133,8 @@ void frmMain::OnCommand(int id, int notification) {
         mnuTreeView_Click(id);
     else if (id == ID_ABOUT)
         mnuAboutObrin_Click();
-    else if (id == IDC_COMMAND1)
+    else if (id == IDC_COMMAND1 ||
+             (id == IDOK && GetFocus() == Command1)) // IDOK: Enter behind a click of the mouse
         Command1_Click();
     else if (id == IDC_LABEL5 && notification != STN_CLICKED)
         return;
@@ -277,10 +281,12 @@ void frmMain::Form_LooksChanged(UINT message, WPARAM wParam, LPARAM lParam) {
 
 // Before the window closes, by its close box, at the end of the Windows session or at a program's request.
 void frmMain::Form_Unload() {
-    if (unloading || IsEndingWithError())
-        return; // asked again while the host handles the exit command, or while an error is shown
-    unloading = true;
-    hostLink.SendHostCommand("Run Core\\Exit\r");
+    if (IsEndingWithError())
+        return;
+    // Entered again when the Windows session ends while the host handles the exit command: the inner call
+    // sends the rest of it and finishes the close, and nothing is left to do for the outer one.
+    const bool isInner = std::exchange(unloading, true);
+    hostLink.SendHostCommand(isInner ? "" : "Run Core\\Exit\r");
     // Closed before any system was shown, there is none to remember: the earlier one stays remembered.
     if (!currentSystem.empty())
         corvel->SetRegValue(HKEY_LOCAL_MACHINE, menuRegistryKey, lastSystemValue, currentSystem);
@@ -294,16 +300,16 @@ void frmMain::CreateControls() {
     Frame1 =
         CreateControl(window, WC_BUTTONA, IDC_FRAME1, BS_GROUPBOX | WS_CLIPCHILDREN, "", WS_EX_CONTROLPARENT);
     MakeContainer(Frame1);
-    TreeView1.Attach(
-        CreateControl(Frame1, WC_TREEVIEWA, IDC_TREEVIEW1,
-                      WS_TABSTOP | TVS_HASLINES | TVS_LINESATROOT | TVS_HASBUTTONS | TVS_SHOWSELALWAYS, "",
-                      WS_EX_CLIENTEDGE),
-        {.run = [this] { PostMessageA(window, runSelected, 0, 0); },
-         .popUp = [this](int x, int y) { PopUp(x, y); }});
+    TreeView1.Attach(CreateControl(Frame1, WC_TREEVIEWA, IDC_TREEVIEW1,
+                                   WS_TABSTOP | TVS_HASLINES | TVS_LINESATROOT | TVS_HASBUTTONS |
+                                       TVS_SHOWSELALWAYS | TVS_DISABLEDRAGDROP,
+                                   "", WS_EX_CLIENTEDGE),
+                     {.run = [this] { PostMessageA(window, runSelected, 0, 0); },
+                      .popUp = [this](int x, int y) { PopUp(x, y); }});
     SendMessageA(TreeView1.Window(), TVM_SETEXTENDEDSTYLE, TVS_EX_DOUBLEBUFFER, TVS_EX_DOUBLEBUFFER);
     Command1 = CreateControl(Frame1, WC_BUTTONA, IDC_COMMAND1, WS_TABSTOP | BS_PUSHBUTTON, "&Run Program");
     constexpr DWORD label = SS_LEFT | SS_NOPREFIX;
-    Label1 = CreateControl(window, WC_STATICA, IDC_LABEL1, SS_LEFT); // "&" as in the frame's caption
+    Label1 = CreateControl(window, WC_STATICA, IDC_LABEL1, label);
     Image1.Attach(CreateControl(window, WC_STATICA, IDC_IMAGE1, SS_BITMAP));
     Label2 = CreateControl(window, WC_STATICA, IDC_LABEL2, label);
     Label3 = CreateControl(window, WC_STATICA, IDC_LABEL3, label);
@@ -400,8 +406,10 @@ void frmMain::LoadSystem(const std::string& fileName, std::string_view file) {
     if (NormalFileExists(pictureFile))
         Image1.Load(pictureFile, dpi);
     SetWindowTextA(window, menuCaption);
-    const std::string title(TrimBlanks(definition.title));
-    SetWindowTextA(Frame1, title.c_str());
+    // Only the System List makes access keys of marks: here they would take Alt+letter away from the menu
+    // bar.
+    const std::string title = WithoutAccessKeyMarks(TrimBlanks(definition.title));
+    SetWindowTextA(Frame1, WithAmpersandsDoubled(title).c_str());
     SetWindowTextA(TreeView1.Window(), title.c_str()); // shown nowhere: a screen reader's name for the tree
     SetLabel(Label1, title);
     Form_Resize(); // title and picture are centred by their own widths

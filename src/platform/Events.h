@@ -15,11 +15,8 @@ bool ProcessPendingEvents();
 /// the exit code. Nothing that a procedure should have stopped comes through here.
 int RunEvents() noexcept;
 
-/// Tries about every 13 ms until `condition` holds, without a time limit, and processes the events that
-/// arrive in between. Returns false when `window` was closed or the program ended first. Throws RunTimeError.
+/// Tests a condition at least every 15 ms until it holds, without a time limit, and processes events in
+/// between. Returns false when `window` was closed or the program ended first. Throws RunTimeError.
 bool WaitUntil(HWND window, const std::function<bool()>& condition);
-
-/// Processes events until `window` is closed.
-void WaitUntilClosed(HWND window);
 
 } // namespace obrin

@@ -14,22 +14,44 @@ namespace {
 // As much as a first line takes in practice; more is read only for longer ones.
 constexpr std::size_t firstLineBytes = 4096;
 
+bool IsBusy(DWORD error) {
+    return error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION ||
+           error == ERROR_USER_MAPPED_FILE;
+}
+
+// Makes a call about a file, and makes it again for up to a second while somebody has the file open just now:
+// another menu, a virus scanner, a backup. Returns false with the last error when it fails.
+template <class Call>
+bool Try(Call&& call) {
+    constexpr ULONGLONG patience = 1000; // milliseconds
+    constexpr DWORD pause = 25;
+    const ULONGLONG start = GetTickCount64();
+    while (!call()) {
+        if (!IsBusy(GetLastError()) || GetTickCount64() - start >= patience)
+            return false;
+        Sleep(pause);
+    }
+    return true;
+}
+
 HANDLE Open(const std::string& path, File::Use use) {
     struct Mode {
         DWORD access, disposition;
     };
-    constexpr std::array<Mode, 5> modes{{
+    constexpr std::array<Mode, 4> modes{{
         {GENERIC_READ, OPEN_EXISTING},
         {GENERIC_READ | GENERIC_WRITE, OPEN_ALWAYS},
         {GENERIC_WRITE, OPEN_ALWAYS},
-        {GENERIC_WRITE, OPEN_EXISTING},
-        {GENERIC_WRITE | DELETE, CREATE_NEW},
+        {GENERIC_WRITE, CREATE_NEW},
     }};
     const auto [access, disposition] = modes[static_cast<std::size_t>(use)];
-    const HANDLE handle =
-        CreateFileA(path.c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                    disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (handle == INVALID_HANDLE_VALUE)
+    HANDLE handle = INVALID_HANDLE_VALUE;
+    const bool opened = Try([&] {
+        handle = CreateFileA(path.c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                             nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
+        return handle != INVALID_HANDLE_VALUE;
+    });
+    if (!opened)
         ThrowLastError("Opening " + path);
     return handle;
 }
@@ -38,37 +60,27 @@ HANDLE Open(const std::string& path, File::Use use) {
 
 File::File(const std::string& filePath, Use use)
     : path(filePath)
-    , handle(Open(filePath, use)) {
-    if (use == Use::Truncate)
-        EndHere(); // only now: as it is opened, Windows empties no hidden file
-}
+    , handle(Open(filePath, use)) {}
 
 void File::Fail(const char* doing) const {
     ThrowLastError(doing + path);
 }
 
-std::size_t File::Read(std::span<char> room) {
-    DWORD got = 0;
-    if (!ReadFile(handle.get(), room.data(), static_cast<DWORD>(room.size()), &got, nullptr))
-        Fail("Reading ");
-    return got;
-}
-
 std::string File::Read(std::size_t most) {
     std::string bytes(most, '\0');
-    bytes.resize(Read(std::span(bytes)));
+    DWORD got = 0;
+    if (!Try([&] { return ReadFile(handle.get(), bytes.data(), static_cast<DWORD>(most), &got, nullptr); }))
+        Fail("Reading ");
+    bytes.resize(got);
     return bytes;
 }
 
 std::string File::ReadToEnd() {
-    LARGE_INTEGER size;
-    if (!GetFileSizeEx(handle.get(), &size))
-        Fail("Reading ");
-    constexpr LONGLONG step = 1 << 30;
-    std::string bytes = Read(static_cast<std::size_t>(std::min(size.QuadPart, step)));
-    while (static_cast<LONGLONG>(bytes.size()) < size.QuadPart) {
-        const std::string more = Read(static_cast<std::size_t>(
-            std::min<LONGLONG>(size.QuadPart - static_cast<LONGLONG>(bytes.size()), step)));
+    constexpr std::uint64_t step = 1 << 30; // a call reads no more than 4 GB
+    const std::uint64_t size = Size();
+    std::string bytes = Read(static_cast<std::size_t>(std::min(size, step)));
+    while (bytes.size() < size) {
+        const std::string more = Read(static_cast<std::size_t>(std::min(size - bytes.size(), step)));
         if (more.empty())
             break;
         bytes += more;
@@ -76,11 +88,18 @@ std::string File::ReadToEnd() {
     return bytes;
 }
 
+std::uint64_t File::Size() const {
+    LARGE_INTEGER size;
+    if (!GetFileSizeEx(handle.get(), &size))
+        Fail("Reading ");
+    return static_cast<std::uint64_t>(size.QuadPart);
+}
+
 void File::Write(std::string_view bytes) {
     while (!bytes.empty()) {
         DWORD done = 0;
         const auto want = static_cast<DWORD>(std::min<std::size_t>(bytes.size(), 1U << 30));
-        if (!WriteFile(handle.get(), bytes.data(), want, &done, nullptr))
+        if (!Try([&] { return WriteFile(handle.get(), bytes.data(), want, &done, nullptr); }))
             Fail("Writing ");
         bytes.remove_prefix(done);
     }
@@ -93,8 +112,8 @@ void File::Seek(std::uint64_t position) {
         Fail("Writing ");
 }
 
-void File::EndHere() {
-    if (!SetEndOfFile(handle.get()))
+void File::Truncate() {
+    if (!Try([&] { return SetEndOfFile(handle.get()); }))
         Fail("Writing ");
 }
 
@@ -105,30 +124,6 @@ void File::Flush() {
         if (error != ERROR_INVALID_FUNCTION && error != ERROR_NOT_SUPPORTED)
             Fail("Writing ");
     }
-}
-
-void File::AwaitTurn(bool toWrite) {
-    constexpr DWORD pause = 25; // milliseconds
-    constexpr int mostTries = 20;
-    OVERLAPPED place{}; // far behind the end of any file, where it is in nobody's way
-    place.Offset = 0xFFFFFFFE;
-    place.OffsetHigh = 0x7FFFFFFF;
-    const DWORD how = LOCKFILE_FAIL_IMMEDIATELY | (toWrite ? LOCKFILE_EXCLUSIVE_LOCK : 0U);
-    for (int tries = 1; !LockFileEx(handle.get(), how, 0, 1, 0, &place) && tries < mostTries; ++tries) {
-        if (GetLastError() != ERROR_LOCK_VIOLATION)
-            return; // a file system without locks
-        Sleep(pause);
-    }
-}
-
-void File::FlushAndClose() {
-    Flush();
-    Close();
-}
-
-void File::DeleteWhenClosed() noexcept {
-    FILE_DISPOSITION_INFO disposition{TRUE};
-    SetFileInformationByHandle(handle.get(), FileDispositionInfo, &disposition, sizeof disposition);
 }
 
 void File::Close() {
@@ -142,9 +137,7 @@ std::string ReadFileBytes(const std::string& path) {
 
 std::optional<std::string> ReadFileIfThere(const std::string& path) {
     try {
-        File file(path, File::Use::Read);
-        file.AwaitTurn(false);
-        return file.ReadToEnd();
+        return ReadFileBytes(path);
     } catch (const RunTimeError&) {
         if (FileExists(path))
             throw;
@@ -169,8 +162,10 @@ std::string ReadFirstLine(const std::string& path) {
 }
 
 void WriteFileBytes(const std::string& path, std::string_view bytes) {
-    File file(path, File::Use::Truncate);
+    // Not emptied as it is opened: Windows refuses that for a hidden file.
+    File file(path, File::Use::Write);
     file.Write(bytes);
+    file.Truncate();
     file.Close();
 }
 

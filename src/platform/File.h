@@ -7,22 +7,21 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 
 namespace obrin {
 
 /// An open file. Other programs and workstations may read, write and replace it meanwhile: the files of the
-/// installation are shared without locks.
+/// installation are shared without locks. Opening, reading and writing are tried again for up to a second
+/// while somebody else keeps the file from it.
 class File {
 public:
     enum class Use {
         Read,      ///< must exist
         ReadWrite, ///< created when missing
-        Truncate,  ///< for writing, created or emptied
-        InPlace,   ///< for writing over what is there, must exist
-        New,       ///< for writing and for DeleteWhenClosed, must not exist
+        Write,     ///< created when missing; the old contents stay until they are written over or truncated
+        New,       ///< for writing, must not exist
     };
 
     /// Throws RunTimeError when the file cannot be opened so.
@@ -30,27 +29,20 @@ public:
 
     /// The next bytes, at most `most` (up to 1 GB); none at the end of the file. Throws RunTimeError.
     std::string Read(std::size_t most);
-    /// Fills the room with the next bytes as far as there are any, and returns how many. Throws RunTimeError.
-    std::size_t Read(std::span<char> room);
     /// Everything from the current position to the end. Throws RunTimeError.
     std::string ReadToEnd();
-    /// Appends at the current position. Throws RunTimeError.
+    /// In bytes. Throws RunTimeError.
+    std::uint64_t Size() const;
+    /// Writes at the current position and moves it behind the bytes. Throws RunTimeError.
     void Write(std::string_view bytes);
     /// Moves the current position, in bytes from the start. Throws RunTimeError.
     void Seek(std::uint64_t position);
-    /// Makes the current position the end of the file. Throws RunTimeError.
-    void EndHere();
-    /// Keeps the other menus, which do the same, from reading (`toWrite`) or from writing this file in place
-    /// until it is closed. Other programs notice nothing. Waits half a second at most: a menu that hangs in
-    /// the middle of it holds up nobody.
-    void AwaitTurn(bool toWrite);
-    /// Waits until the written bytes are on disk. Throws RunTimeError, which is where a share reports what it
-    /// could not store.
+    /// Ends the file at the current position. Throws RunTimeError.
+    void Truncate();
+    /// Waits until the written bytes are on disk. Throws RunTimeError: a share reports here what it could not
+    /// store.
     void Flush();
-    void FlushAndClose();
-    /// Lets the file go with this object, whatever rights it has been given since it was created as new.
-    void DeleteWhenClosed() noexcept;
-    /// Closes the file, for contents that may get lost when the power does. Throws RunTimeError.
+    /// Throws RunTimeError, unlike the destructor, which closes the file too.
     void Close();
 
     const std::string& Path() const { return path; }
@@ -65,9 +57,7 @@ private:
 /// All bytes of a file. Throws RunTimeError.
 std::string ReadFileBytes(const std::string& path);
 
-/// All bytes of a file, or nothing when no file (no folder) of that name exists; not while another menu
-/// writes it in place. A look at a share is waited for: this takes one where FileExists and a read would take
-/// two. Throws RunTimeError.
+/// All bytes of a file, or nothing when no file (no folder) of that name exists. Throws RunTimeError.
 std::optional<std::string> ReadFileIfThere(const std::string& path);
 
 /// The first line of a file, of which no more is read than needed. Throws RunTimeError, also for a file

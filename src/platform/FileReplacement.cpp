@@ -2,16 +2,14 @@
 
 #include "platform/Failure.h"
 #include "platform/File.h"
-
-#include <cstddef>
-#include <vector>
+#include "platform/Folder.h"
 
 namespace obrin {
 
 namespace {
 
 // Nothing when the file cannot be read.
-std::optional<std::string> PresentBytes(const std::string& path) {
+std::optional<std::string> ContentsOf(const std::string& path) {
     try {
         return ReadFileIfThere(path);
     } catch (const RunTimeError&) {
@@ -19,140 +17,99 @@ std::optional<std::string> PresentBytes(const std::string& path) {
     }
 }
 
-// With a name of its own that tells what it is: other workstations save at the same moment.
-File NewFileBeside(const std::string& path) {
+// Makes a new file beside the one that it is for. Its name is its own, as other workstations save at the same
+// moment. Nothing when no file may be made there.
+std::optional<File> MakeTemporaryFile(const std::string& path) {
     for (DWORD number = GetTickCount();; ++number) {
         try {
-            return File(path + "." + std::to_string(number) + ".tmp", File::Use::New);
+            return std::optional<File>(std::in_place, path + "." + std::to_string(number) + ".tmp",
+                                       File::Use::New);
         } catch (const RunTimeError& error) {
             if (error.Code() != ERROR_FILE_EXISTS)
-                throw;
+                return std::nullopt;
         }
     }
 }
 
-// Who may do what with a file; as much of it as the file system lets a user see and set.
-void CopyRights(const std::string& from, const std::string& to) {
-    DWORD size = 0;
-    GetFileSecurityA(from.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
-    std::vector<std::byte> rights(size);
-    if (!GetFileSecurityA(from.c_str(), DACL_SECURITY_INFORMATION, rights.data(), size, &size))
-        return;
-    // What the file inherits from its folder stays inherited.
-    auto* description = reinterpret_cast<SECURITY_DESCRIPTOR_RELATIVE*>(rights.data());
-    if ((description->Control & SE_DACL_AUTO_INHERITED) != 0)
-        description->Control |= SE_DACL_AUTO_INHERIT_REQ;
-    SetFileSecurityA(to.c_str(), DACL_SECURITY_INFORMATION, rights.data());
+void WriteSafely(File& file, std::string_view bytes) {
+    file.Write(bytes);
+    file.Truncate();
+    file.Flush();
+    file.Close();
 }
 
-// The new contents beside the file that they are for. They go with this object unless they are needed.
-class Spare {
-public:
-    Spare(const std::string& path, std::string_view newBytes)
-        : target(path)
-        , bytes(newBytes)
-        , file(NewFileBeside(path)) {}
-    Spare(const Spare&) = delete;
-    Spare& operator=(const Spare&) = delete;
-    ~Spare() {
-        // Through the handle: the rights that the file has by now may not let its users delete it.
-        if (!needed)
-            file.DeleteWhenClosed();
+// Whether a file may be taken out of its place: its users need the right, and others who have it open must
+// allow it. Asked first, as a replacement that fails in the middle leaves things behind on some platforms.
+bool MayBeMoved(const std::string& path) {
+    const HANDLE handle =
+        CreateFileA(path.c_str(), DELETE, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                    OPEN_EXISTING, 0, nullptr);
+    if (handle == INVALID_HANDLE_VALUE)
+        return false;
+    const UniqueFile closes(handle);
+    return true;
+}
+
+// Puts the temporary file in the place of the other one, whose rights and attributes stay; or just there when
+// the other one does not exist, or is gone after a replacement that failed half-way. Returns whether it has
+// happened.
+bool Replace(const std::string& path, const std::string& temporary) {
+    if (MayBeMoved(path) &&
+        ReplaceFileA(FullPath(path).c_str(), FullPath(temporary).c_str(), nullptr, 0, nullptr, nullptr))
+        return true;
+    return GetFileAttributesA(path.c_str()) == INVALID_FILE_ATTRIBUTES &&
+           MoveFileExA(temporary.c_str(), path.c_str(), MOVEFILE_WRITE_THROUGH);
+}
+
+// The last thing to try: writes into the file itself.
+void WriteInPlace(const std::string& path, std::string_view bytes, const std::optional<std::string>& present,
+                  const std::string& temporary) {
+    std::string doing = "Writing " + path; // the file that the user knows
+    try {
+        File file(path, File::Use::Write);
+        WriteSafely(file, bytes);
+    } catch (const RunTimeError& error) {
+        // Refused before the first byte, as by missing rights or a lock.
+        const bool isUnchanged = ContentsOf(path) == present;
+        if (isUnchanged || temporary.empty())
+            DeleteFileA(temporary.c_str());
+        else
+            doing += "\r\nIts new contents are complete in " + temporary;
+        throw RunTimeError(error.Code(), doing);
     }
-
-    void Fill() {
-        file.Write(bytes);
-        file.Flush();
-    }
-
-    void LookLikeTarget(DWORD attributes) {
-        SetFileAttributesA(file.Path().c_str(), attributes);
-        CopyRights(target, file.Path());
-    }
-
-    // Takes the file's place; false with the last error when that is refused.
-    bool Move() {
-        needed = MoveFileExA(file.Path().c_str(), target.c_str(),
-                             MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;
-        return needed;
-    }
-
-    // Writes the file in place. Throws RunTimeError, before IsNeeded with the file untouched.
-    void Copy() {
-        File inPlace(target, File::Use::InPlace);
-        inPlace.AwaitTurn(true);
-        needed = true;
-        inPlace.Write(bytes);
-        inPlace.EndHere();
-        inPlace.FlushAndClose();
-        needed = false;
-    }
-
-    bool IsNeeded() const { return needed; }
-    void Drop() { needed = false; }
-    const std::string& Path() const { return file.Path(); }
-
-private:
-    const std::string& target;
-    std::string_view bytes;
-    File file;
-    bool needed = false; // the target holds neither the old nor the new contents, or is this file
-};
-
-// Another menu that reads the file at this instant refuses the move, and could read half of what is written
-// in place. It is done within milliseconds; who is not keeps the file open all day, and is not waited for. A
-// file that cannot be written either is worth half a second: whoever looks through new files lets go of them
-// soon.
-void PutInPlace(Spare& spare) {
-    constexpr DWORD pause = 25; // milliseconds
-    constexpr int movesAlone = 3;
-    constexpr int mostTries = 20;
-    for (int tries = 1; !spare.Move(); ++tries) {
-        // Whatever the reason: not every file system has the same one.
-        const DWORD refusal = GetLastError();
-        try {
-            if (tries > movesAlone) {
-                spare.Copy();
-                return;
-            }
-        } catch (const RunTimeError& error) {
-            if (spare.IsNeeded())
-                throw;
-            if (tries == mostTries)
-                throw RunTimeError(error.Code() == ERROR_FILE_NOT_FOUND ? refusal : error.Code(), "");
-        }
-        Sleep(pause);
-    }
+    DeleteFileA(temporary.c_str());
 }
 
 } // namespace
 
 void ReplaceFileBytes(const std::string& path, std::string_view bytes, std::optional<std::string> present) {
+    if (!present)
+        present = ContentsOf(path);
     if (present == bytes)
         return;
     const DWORD attributes = GetFileAttributesA(path.c_str());
-    const bool exists = attributes != INVALID_FILE_ATTRIBUTES;
-    if (exists && !present && (present = PresentBytes(path)) == bytes)
-        return;
-    std::string doing = "Writing " + path; // the file that the user knows
-    if (exists && (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) != 0)
-        throw RunTimeError(ERROR_ACCESS_DENIED, doing);
-    std::optional<Spare> spare;
-    try {
-        spare.emplace(path, bytes);
-        spare->Fill();
-        if (exists)
-            spare->LookLikeTarget(attributes);
-        PutInPlace(*spare);
-    } catch (const RunTimeError& error) {
-        if (spare && spare->IsNeeded()) {
-            if (present && PresentBytes(path) == present)
-                spare->Drop(); // refused before the first byte, as by a lock on a part of the file
-            else
-                doing += "\r\nIts new contents are complete in " + spare->Path();
+    if (attributes != INVALID_FILE_ATTRIBUTES &&
+        (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) != 0)
+        throw RunTimeError(ERROR_ACCESS_DENIED, "Writing " + path); // some platforms would replace them
+    std::string temporary;
+    if (auto file = MakeTemporaryFile(path)) {
+        temporary = file->Path();
+        try {
+            WriteSafely(*file, bytes);
+        } catch (const RunTimeError& error) {
+            file.reset();
+            DeleteFileA(temporary.c_str());
+            throw RunTimeError(error.Code(), "Writing " + path); // on a full disk, say: the old contents stay
         }
-        throw RunTimeError(error.Code(), doing);
+        if (Replace(path, temporary))
+            return;
+        // A share may report a failure although the replacement has happened.
+        if (ContentsOf(path) == bytes) {
+            DeleteFileA(temporary.c_str());
+            return;
+        }
     }
+    WriteInPlace(path, bytes, present, temporary);
 }
 
 } // namespace obrin

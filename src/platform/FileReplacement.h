@@ -7,14 +7,14 @@
 
 namespace obrin {
 
-/// Gives a file new contents without ever being without the old or the new ones: they are complete on disk,
-/// under a name beside it, before they take the file's place, its rights and its attributes. Where that is
-/// refused, because others have the file open or its users may write but not delete, it is written in place,
-/// and what is beside it goes when the file is safely on disk. A file that has these contents already is left
-/// alone. `present` are its contents for callers who have just read them.
+/// Gives a file new contents; its rights and attributes stay. They are written to a temporary file beside it,
+/// which then takes its place: the file has the old or the new contents at any moment. Where that is refused,
+/// because others have the file open or its users may write but not delete, it is written in place, with the
+/// temporary file beside it until it is safely on disk. A file that has these contents already is left alone.
+/// `present` are its contents for callers who have just read them.
 ///
-/// Throws RunTimeError with the file as it was; or, when a write in place fails, with a text that names the
-/// file beside it, which stays.
+/// Throws RunTimeError with the file as it was; or, when a write in place fails half-way, with a text that
+/// names the temporary file, which stays.
 void ReplaceFileBytes(const std::string& path, std::string_view bytes,
                       std::optional<std::string> present = std::nullopt);
 

@@ -5,46 +5,68 @@
 #include "platform/Shell.h"
 #include "platform/Workstation.h"
 #include "startup/HostKeys.h"
-#include "startup/HostNotice.h"
 
 namespace obrin {
 
-void HostLink::StartHost(HWND menu, std::int16_t wsid, const std::function<void()>& meanwhile) {
+namespace {
+
+HWND FirstChild(HWND station) {
+    return station == nullptr ? nullptr : FindWindowExA(station, nullptr, nullptr, nullptr);
+}
+
+// Tells Windows why the end of the session has to wait. Its callers may be nested: the outermost one ends it.
+class ShutdownBlock {
+public:
+    explicit ShutdownBlock(HWND aWindow)
+        : window(aWindow) {
+        ShutdownBlockReasonCreate(window, L"The menu is typing a command into Fenn.");
+    }
+    ShutdownBlock(const ShutdownBlock&) = delete;
+    ShutdownBlock& operator=(const ShutdownBlock&) = delete;
+    ~ShutdownBlock() { ShutdownBlockReasonDestroy(window); }
+
+private:
+    HWND window;
+};
+
+} // namespace
+
+void HostLink::StartHost(HWND menuWindow, std::int16_t wsid, const std::function<void()>& meanwhile) {
+    menu = menuWindow;
     // Waited for all the same when the start is refused: somebody may start it by hand.
     const DWORD refusal = Open(menu, hostProgram, HostStartArguments(wsid).c_str());
     if (!IsWindow(menu))
         return; // closed while Windows asked whether the host may be started
     meanwhile();
     const std::string caption = StationCaption(wsid);
-    HostNotice notice(menu, caption, refusal);
-    const auto waitFor = [&](const auto& lookUp) {
-        HWND found = nullptr;
-        WaitUntil(menu, [&] {
-            found = lookUp();
-            if (found == nullptr)
-                notice.ShowWhenDue();
-            return found != nullptr;
-        });
-        return found;
-    };
+    notice.emplace(menu, caption, refusal);
     // Any window of the host will do first, one of another instance too; the caption behind it is this one's.
     // The children of that first window tell nothing that is needed, so they are not looked up.
-    if (waitFor([] { return FindWindowA(hostWindowClass, nullptr); }) == nullptr)
+    if (!WaitUntil(menu, [&] { return FindWindowA(hostWindowClass, nullptr) != nullptr || ShowNotice(); }))
         return;
-    int tries = 0;
-    const HWND station = waitFor([&] {
-        // A window of any class will do, but to ask all windows of the machine for their captions costs most
-        // of the wait: mostly only the host's are asked.
-        constexpr int often = 64;
-        return FindWindowA(tries++ % often == 0 ? nullptr : hostWindowClass, caption.c_str());
-    });
-    if (station == nullptr)
+    // Both: a station window may get its child a moment later.
+    HWND station = nullptr;
+    if (!WaitUntil(menu, [&] {
+            station = FindWindowA(nullptr, caption.c_str());
+            hostCommandWindow = FirstChild(station);
+            return hostCommandWindow != nullptr || ShowNotice();
+        }))
         return;
+    // A station that is found before its first showing would stay on the screen.
+    constexpr ULONGLONG patience = 2000; // milliseconds
+    const ULONGLONG found = GetTickCount64();
+    WaitUntil(menu, [&] { return IsWindowVisible(station) || GetTickCount64() - found >= patience; });
     ShowWindow(station, SW_HIDE);
-    hostCommandWindow = FindWindowExA(station, nullptr, nullptr, nullptr);
+}
+
+// Tells the operator what is waited for. Returns false: the wait goes on.
+bool HostLink::ShowNotice() {
+    notice->ShowWhenDue();
+    return false;
 }
 
 void HostLink::SendHostCommand(std::string command) {
+    const ShutdownBlock block(menu);
     // The programs that it starts come to the front; Windows lets only those that the operator's own program
     // names.
     DWORD host = 0;

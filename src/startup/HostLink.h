@@ -2,10 +2,12 @@
 #pragma once
 
 #include "platform/WindowsApi.h"
+#include "startup/HostNotice.h"
 
 #include <cstdint>
 #include <deque>
 #include <functional>
+#include <optional>
 #include <string>
 
 namespace obrin {
@@ -19,10 +21,12 @@ public:
         : hostCommandWindow(commandWindow) {}
 
     /// Starts the host for this workstation, does `meanwhile`, waits for the host's windows without a time
-    /// limit while the events of `menu` are processed, and hides it. A wait of more than a moment is told to
-    /// the operator. The link stands when it returns, unless `menu` was closed meanwhile. Throws
-    /// RunTimeError.
-    void StartHost(HWND menu, std::int16_t wsid, const std::function<void()>& meanwhile);
+    /// limit while the events of the menu window are processed, and hides it. The link stands when it
+    /// returns, unless the menu was closed meanwhile. Throws RunTimeError.
+    void StartHost(HWND menuWindow, std::int16_t wsid, const std::function<void()>& meanwhile);
+
+    /// Closes the notice that a wait of more than a moment has shown.
+    void CloseNotice() { notice.reset(); }
 
     /// Types a command into the host's command window, key by key; each key has been handled by the host when
     /// the next is sent. Without a host the keys are lost, without a message.
@@ -34,7 +38,11 @@ private:
         WPARAM code;
     };
 
+    bool ShowNotice();
+
+    HWND menu = nullptr;
     HWND hostCommandWindow;
+    std::optional<HostNotice> notice;
     std::deque<Key> pending; // key messages still to be sent
 };
 

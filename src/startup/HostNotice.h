@@ -13,7 +13,6 @@ public:
     HostNotice(HWND menuWindow, const std::string& stationCaption, DWORD refusal);
     HostNotice(const HostNotice&) = delete;
     HostNotice& operator=(const HostNotice&) = delete;
-    /// The window goes with the wait.
     ~HostNotice();
 
     /// Shows the notice once, after two seconds of waiting or, when the start was refused, at once. Throws
@@ -25,7 +24,7 @@ private:
     void Form_Load();
 
     HWND menu;
-    const std::string& caption;
+    std::string caption;
     DWORD refused;
     ULONGLONG due; // milliseconds of GetTickCount64
     bool shown = false;

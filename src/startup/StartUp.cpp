@@ -38,14 +38,13 @@ void OfferOpenHost() {
                     "Error Opening Obrin System", style) != IDYES)
         return;
     const HWND host = OpenHost();
-    ShowWindow(host, SW_SHOWNORMAL);
+    ShowWindowAsync(host, SW_SHOWNORMAL); // not waited for: it may hang
     SetForegroundWindow(host);
     SetActiveWindow(host);
 }
 
 void ShowOtherMenu(HWND menu) {
-    // Asked of its thread and not waited for: it may hang.
-    ShowWindowAsync(menu, SW_SHOWNORMAL);
+    ShowWindowAsync(menu, SW_SHOWNORMAL); // not waited for: it may hang
     SetForegroundWindow(menu);
 }
 

@@ -32,7 +32,8 @@ std::int16_t EstablishIdentity(HWND menu, const std::string& loginName) {
             wsid = *answer;
             users.Seek(recordsRead * userRecordSlot);
             users.Write(UserWsidRecord(user, wsid));
-            users.FlushAndClose();
+            users.Flush();
+            users.Close();
         } else if (IsWindow(menu)) {
             // After an invalid answer the question comes twice and only the later answer counts.
             AskForWsid(menu, user);
@@ -41,7 +42,7 @@ std::int16_t EstablishIdentity(HWND menu, const std::string& loginName) {
     // A damaged record's negative number is neither asked about nor accepted: the menu waits here until it
     // is closed.
     if (wsid < 0)
-        WaitUntilClosed(menu);
+        WaitUntil(menu, [] { return false; });
     return wsid;
 }
 

@@ -1,6 +1,7 @@
 #include "end_to_end/Installation.h"
 
 #include "common/Lines.h"
+#include "support/TopWindow.h"
 
 namespace obrin::test {
 
@@ -124,14 +125,11 @@ Launcher::~Launcher() {
 }
 
 HWND Launcher::Shown(const std::string& caption) const {
-    HWND window = nullptr;
-    while ((window = FindWindowExA(nullptr, window, nullptr, caption.c_str())) != nullptr) {
+    return FindTopWindow([&](HWND window) {
         DWORD owner = 0;
         GetWindowThreadProcessId(window, &owner);
-        if (owner == started.id && IsWindowVisible(window))
-            break;
-    }
-    return window;
+        return owner == started.id && IsWindowVisible(window) && TextOf(window) == caption;
+    });
 }
 
 HWND Launcher::Window(const std::string& caption) const {

@@ -302,6 +302,7 @@ TEST(Launcher, WaitsForASlowHostAndSaysSoWhenItTakesLong) {
         const char* caption = variable == std::string("FENN_NEVER") ? "Obrin-05" : "";
         const HWND station =
             CreateWindowExA(0, "STATIC", caption, 0, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
+        CreateWindowExA(0, "STATIC", "", WS_CHILD, 0, 0, 0, 0, station, nullptr, nullptr, nullptr);
         const ULONGLONG start = GetTickCount64();
         const Launcher launcher;
         ASSERT_TRUE(Eventually([&] { return !installation.Logged("process").empty(); }));
@@ -319,7 +320,7 @@ TEST(Launcher, WaitsForASlowHostAndSaysSoWhenItTakesLong) {
         if (noticed || GetTickCount64() - start < 2000) { // a busy machine makes the host slow by itself
             EXPECT_EQ(shown, noticed);
         }
-        EXPECT_FALSE(launcher.Shown(noticeTitle)) << "goes away by itself";
+        EXPECT_TRUE(Eventually([&] { return !launcher.Shown(noticeTitle); })) << "goes away by itself";
     }
 }
 

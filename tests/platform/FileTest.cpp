@@ -1,24 +1,74 @@
 #include "platform/File.h"
 
+#include "support/HeldFile.h"
 #include "support/ScratchFolder.h"
 
 #include <gtest/gtest.h>
 
 namespace obrin {
+namespace {
 
-TEST(File, OthersMayReadAndWriteAnOpenFile) {
+struct FileTest : testing::Test {
     const test::ScratchFolder folder;
+};
+
+TEST_F(FileTest, OthersMayReadWriteAndReplaceAnOpenFile) {
     File mine("shared", File::Use::ReadWrite);
     File theirs("shared", File::Use::ReadWrite);
     theirs.Write("abcdef");
     mine.Seek(3);
     mine.Write("X");
-    EXPECT_TRUE(MoveFileA("shared", "moved")) << "and replace it";
+    EXPECT_TRUE(MoveFileA("shared", "moved"));
     EXPECT_EQ(ReadFileBytes("moved"), "abcXef");
 }
 
-TEST(File, ShortPathIsEmptyWhenItDoesNotFit) {
-    const test::ScratchFolder folder;
+TEST_F(FileTest, WritingWaitsForAFileThatIsHeldForAMoment) {
+    WriteFileBytes("f", "old contents");
+    test::HeldFile scanner("f", FILE_SHARE_READ);
+    scanner.ReleaseAfter(300);
+    WriteFileBytes("f", "new");
+    EXPECT_EQ(ReadFileBytes("f"), "new");
+}
+
+TEST_F(FileTest, ReadingWaitsForAFileThatIsHeldForAMoment) {
+    WriteFileBytes("f", "text");
+    test::HeldFile writer("f", 0);
+    writer.ReleaseAfter(300);
+    EXPECT_EQ(ReadFileIfThere("f"), "text");
+}
+
+TEST_F(FileTest, WaitsForNoFileLongerThanAboutASecond) {
+    WriteFileBytes("f", "text");
+    const test::HeldFile writer("f", 0);
+    const ULONGLONG start = GetTickCount64();
+    EXPECT_THROW(ReadFileBytes("f"), RunTimeError);
+    const ULONGLONG waited = GetTickCount64() - start;
+    EXPECT_GE(waited, 900U);
+    EXPECT_LE(waited, 5000U);
+}
+
+TEST_F(FileTest, HiddenFileIsWritten) {
+    WriteFileBytes("f", "old contents");
+    SetFileAttributesA("f", FILE_ATTRIBUTE_HIDDEN);
+    WriteFileBytes("f", "new");
+    EXPECT_EQ(ReadFileBytes("f"), "new");
+}
+
+TEST_F(FileTest, FirstLineIsReadOfAnyLength) {
+    const std::string longLine(10'000, 'x');
+    WriteFileBytes("f", longLine + "\r\nsecond");
+    EXPECT_EQ(ReadFirstLine("f"), longLine);
+    WriteFileBytes("f", "");
+    EXPECT_THROW(ReadFirstLine("f"), RunTimeError);
+}
+
+TEST_F(FileTest, FolderIsNoFile) {
+    CreateFolder("d");
+    EXPECT_FALSE(FileExists("d"));
+    EXPECT_FALSE(ReadFileIfThere("d"));
+}
+
+TEST_F(FileTest, ShortPathIsEmptyWhenItDoesNotFit) {
     EXPECT_GT(ShortPath(CurrentFolder()).size(), 2U);
     EXPECT_EQ(ShortPath("C:\\missing\\folder"), "");
     std::string deep = CurrentFolder();
@@ -30,4 +80,5 @@ TEST(File, ShortPathIsEmptyWhenItDoesNotFit) {
     }
 }
 
+} // namespace
 } // namespace obrin
