@@ -68,9 +68,7 @@ TEST_F(HostLinkTest, NoticeStaysWhileTheHostHandlesTheFirstCommand) {
     const Launcher launcher;
     ASSERT_TRUE(host.Until([&] { return launcher.Shown(noticeTitle) != nullptr; }));
     bool isNoticeShown = false;
-    host.onNextKey = [&] {
-        isNoticeShown = launcher.Shown(noticeTitle) != nullptr;
-    };
+    host.onNextKey = [&] { isNoticeShown = launcher.Shown(noticeTitle) != nullptr; };
     ShowHost();
     EXPECT_TRUE(host.Until([&] { return IsMenuShown(launcher); }));
     EXPECT_TRUE(isNoticeShown);

@@ -1,5 +1,6 @@
 // The built launcher against the stand-in host, as an operator and an administrator see them.
 
+#include "end_to_end/Input.h"
 #include "end_to_end/Installation.h"
 
 #include "menu/MenuFiles.h"
@@ -8,9 +9,6 @@
 
 namespace obrin::test {
 namespace {
-
-constexpr DWORD leftClick = MOUSEEVENTF_LEFTDOWN | MOUSEEVENTF_LEFTUP;
-constexpr DWORD rightClick = MOUSEEVENTF_RIGHTDOWN | MOUSEEVENTF_RIGHTUP;
 
 constexpr const char* noticeTitle = "Waiting for Fenn";
 constexpr const char* hostIsOpen = "Error Opening Obrin System";
@@ -24,27 +22,10 @@ void RememberSystem(const std::string& name) {
     SupportLibrary().SetRegValue(HKEY_LOCAL_MACHINE, "Software\\Obrin", "LastSystem", name);
 }
 
-void Key(BYTE key) {
-    keybd_event(key, 0, 0, 0);
-    keybd_event(key, 0, KEYEVENTF_KEYUP, 0);
-}
-
 // Of a message box, where Windows and Wine give it different numbers.
 bool HasIcon(HWND box) {
     return SendDlgItemMessageA(box, 20, STM_GETICON, 0, 0) != 0 ||
            SendDlgItemMessageA(box, 1088, STM_GETICON, 0, 0) != 0;
-}
-
-// Clicks the real mouse on one of the tree's visible rows, counted from 0; `depth` is the node's.
-void ClickRow(HWND tree, int row, int depth, DWORD downAndUp, int times = 1) {
-    EXPECT_TRUE(KeepsForeground(GetAncestor(tree, GA_ROOT)));
-    const int height = TreeView_GetItemHeight(tree);
-    POINT place{static_cast<int>(TreeView_GetIndent(tree)) * (depth + 1) + 10, height * row + height / 2};
-    ClientToScreen(tree, &place);
-    PointAt(place);
-    EXPECT_EQ(WindowFromPoint(place), tree);
-    for (int i = 0; i < times; ++i)
-        mouse_event(downAndUp, 0, 0, 0, 0);
 }
 
 TEST(Launcher, FirstDayOfAUser) {
@@ -136,12 +117,12 @@ TEST(Launcher, RunsProgramsAndUpdatesTheWorkstationOnce) {
         [&] { ClickRow(tree, 1, 1, leftClick, 2); },
         [&] {
             EXPECT_TRUE(KeepsForeground(launcher.Menu()));
-            Key(VK_RETURN);
+            PressKey(VK_RETURN);
         },
         [&] { // the button, behind the tree
             EXPECT_TRUE(KeepsForeground(launcher.Menu()));
-            Key(VK_TAB);
-            Key(VK_SPACE);
+            PressKey(VK_TAB);
+            PressKey(VK_SPACE);
         },
     };
     for (const auto& run : ways) {
@@ -169,7 +150,7 @@ TEST(Launcher, SwitchesSystemsAndRemembersTheLast) {
     const HWND tree = launcher.Tree();
     EXPECT_EQ(TreeView_GetCount(tree), 3U);
     EXPECT_TRUE(KeepsForeground(launcher.Menu()));
-    Key(VK_DOWN);
+    PressKey(VK_DOWN);
     EXPECT_TRUE(Eventually([&] {
         return TreeView_GetSelection(tree) == TreeView_GetNextSibling(tree, TreeView_GetRoot(tree));
     })) << "the tree has kept the keyboard";
@@ -219,7 +200,7 @@ TEST(Launcher, RightClickSelectsAndOffersThePopup) {
         GetCursorPos(&pointer);
         EXPECT_NEAR(popup.top, pointer.y, TreeView_GetItemHeight(tree)) << "at the program";
         EXPECT_NEAR(popup.left, pointer.x, TreeView_GetItemHeight(tree));
-        Key('H');
+        PressKey('H');
         EXPECT_NE(launcher.Texts("Warning").find("Option not available. In Developement."),
                   std::string::npos);
         EXPECT_FALSE(IsWindowEnabled(launcher.Menu()));
@@ -228,13 +209,13 @@ TEST(Launcher, RightClickSelectsAndOffersThePopup) {
     ClickRow(tree, 1, 0, rightClick);
     chooseHelp();
     EXPECT_TRUE(KeepsForeground(launcher.Menu()));
-    Key(VK_APPS);
+    PressKey(VK_APPS);
     chooseHelp();
     EXPECT_TRUE(KeepsForeground(launcher.Menu()));
-    Key(VK_DOWN); // has no text
-    Key(VK_APPS);
+    PressKey(VK_DOWN); // has no text
+    PressKey(VK_APPS);
     ASSERT_TRUE(Eventually(popupIsShown));
-    Key('P');
+    PressKey('P');
     EXPECT_EQ(GetWindow(launcher.Window("Properties"), GW_OWNER), launcher.Menu());
     EXPECT_TRUE(FileExists("Ini\\Core\\Programs\\CSBackup.ini"));
     launcher.Press("Properties", IDCANCEL);
@@ -243,7 +224,7 @@ TEST(Launcher, RightClickSelectsAndOffersThePopup) {
     SendMessageA(tree, WM_RBUTTONDOWN, MK_RBUTTON, 0);
     ClickRow(tree, 0, 0, rightClick); // a heading: selected, without a popup
     EXPECT_TRUE(Eventually([&] { return TreeView_GetSelection(tree) == TreeView_GetRoot(tree); }));
-    Key(VK_DOWN); // would go to a popup
+    PressKey(VK_DOWN); // would go to a popup
     EXPECT_TRUE(Eventually([&] { return TreeView_GetSelection(tree) != TreeView_GetRoot(tree); }));
     EXPECT_FALSE(popupIsShown());
 }

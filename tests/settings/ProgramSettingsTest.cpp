@@ -11,7 +11,7 @@ TEST(Settings, AreReadLineByLine) {
     EXPECT_EQ(lines("  Lines  =  7 8  \r\n"), "7 8");
     EXPECT_EQ(lines("Lines = a=b=c\r\n"), "a") << "a value ends at the second =";
     EXPECT_EQ(lines("Lines =\r\n"), "");
-    EXPECT_EQ(lines("Width=1\rLines=7\n8\rHeight=2"), "7\n8") << "a lone CR ends a line, a lone LF does not";
+    EXPECT_EQ(lines("Width=1\rLines=7\nHeight=2"), "7") << "a lone CR ends a line, and so does a lone LF";
     EXPECT_EQ(lines("Lines=7\r\nLines=8\r\n"), "8") << "the last one counts";
     EXPECT_EQ(lines("lines=7\r\nLINES=8\r\nLine=9\r\n\tLines=1\r\n=\r\n===\r\n"), std::nullopt);
     EXPECT_THROW(lines(std::string(1000, '\0')), RunTimeError);

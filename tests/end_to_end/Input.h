@@ -1,0 +1,53 @@
+// Real keys and clicks, as an operator makes them: they go to the window in front.
+#pragma once
+
+#include "end_to_end/Installation.h"
+
+namespace obrin::test {
+
+constexpr DWORD leftClick = MOUSEEVENTF_LEFTDOWN | MOUSEEVENTF_LEFTUP;
+constexpr DWORD rightClick = MOUSEEVENTF_RIGHTDOWN | MOUSEEVENTF_RIGHTUP;
+
+inline void PressKey(BYTE key) {
+    keybd_event(key, 0, 0, 0);
+    keybd_event(key, 0, KEYEVENTF_KEYUP, 0);
+}
+
+/// Keeps a key down for some of the keyboard's repeats; up again only by ReleaseKey.
+inline void HoldKey(BYTE key, int repeats) {
+    for (int i = 0; i <= repeats; ++i)
+        keybd_event(key, 0, 0, 0);
+}
+
+inline void ReleaseKey(BYTE key) {
+    keybd_event(key, 0, KEYEVENTF_KEYUP, 0);
+}
+
+/// Clicks in the middle of a control.
+inline void Click(HWND control) {
+    EXPECT_TRUE(KeepsForeground(GetAncestor(control, GA_ROOT)));
+    RECT place;
+    GetWindowRect(control, &place);
+    PointAt({(place.left + place.right) / 2, (place.top + place.bottom) / 2});
+    mouse_event(leftClick, 0, 0, 0, 0);
+}
+
+/// A place of the screen on the text of one of the tree's visible rows, counted from 0; `depth` is the
+/// node's.
+inline POINT PlaceOfRow(HWND tree, int row, int depth) {
+    const int height = TreeView_GetItemHeight(tree);
+    POINT place{static_cast<int>(TreeView_GetIndent(tree)) * (depth + 1) + 10, height * row + height / 2};
+    ClientToScreen(tree, &place);
+    return place;
+}
+
+inline void ClickRow(HWND tree, int row, int depth, DWORD downAndUp, int times = 1) {
+    EXPECT_TRUE(KeepsForeground(GetAncestor(tree, GA_ROOT)));
+    const POINT place = PlaceOfRow(tree, row, depth);
+    PointAt(place);
+    EXPECT_EQ(WindowFromPoint(place), tree);
+    for (int i = 0; i < times; ++i)
+        mouse_event(downAndUp, 0, 0, 0, 0);
+}
+
+} // namespace obrin::test
