@@ -1,7 +1,9 @@
-// The floor of start-up and memory: as little program as can start the host, wait for its windows in the
-// launcher's way and then show a window with the launcher's menu bar and a tree of the same nodes.
-// Started in an installation as "bare.exe UB.mnu". With "all" behind it, it makes the launcher's other calls
-// too once the host is there: marker file, registry, picture, captions, and the system's start in the host.
+// The floor of starts and memory: the least program that starts the host, waits for its windows as the
+// launcher does, and then shows a window with the launcher's menu bar and a tree of the same nodes.
+//
+//   bare.exe UB.mnu      in an installation
+//   bare.exe UB.mnu all  also makes the launcher's other calls once the host is there: marker file, registry,
+//                        picture, captions, and the start of the system in the host
 
 #include "resources/Ids.h"
 
@@ -10,8 +12,6 @@
 #include <cstring>
 
 namespace {
-
-constexpr const char* className = "ObrinBench.Bare";
 
 HWND hostCommandWindow, picture, labels[5];
 
@@ -37,21 +37,22 @@ LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lPar
     }
 }
 
-HWND WaitFor(HWND window, const char* windowClass, const char* caption) {
-    for (;;) {
-        const HWND found = FindWindowA(windowClass, caption);
-        if (found != nullptr)
-            return found;
+HWND WaitFor(const char* windowClass, const char* caption) {
+    HWND found = nullptr;
+    while ((found = FindWindowA(windowClass, caption)) == nullptr) {
         MSG message;
         while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE))
             DispatchMessageA(&message);
-        if (!IsWindow(window))
-            ExitProcess(0);
-        MsgWaitForMultipleObjectsEx(0, nullptr, 10, QS_ALLINPUT, MWMO_INPUTAVAILABLE);
+        MsgWaitForMultipleObjectsEx(0, nullptr, 15, QS_ALLINPUT, MWMO_INPUTAVAILABLE);
     }
+    return found;
 }
 
-// Trusts the file: at most three levels, at most 64 KB, a CR LF behind every line.
+char* NextLine(char* line) {
+    return std::strchr(line, '\n') + 1;
+}
+
+// Trusts the file: at most three levels, less than 64 KB, a CR LF behind every line.
 void FillTree(HWND tree, const char* fileName) {
     static char text[0x10000];
     DWORD size = 0;
@@ -61,41 +62,33 @@ void FillTree(HWND tree, const char* fileName) {
     CloseHandle(file);
 
     HTREEITEM parents[4] = {TVI_ROOT};
+    TVINSERTSTRUCTA insertion{};
+    insertion.hInsertAfter = TVI_LAST;
+    insertion.item.mask = TVIF_TEXT;
     SendMessageA(tree, WM_SETREDRAW, FALSE, 0);
-    bool header = true;
-    for (char *line = text, *end = text; end < text + size; ++end) {
-        if (*end != '\r' && *end != '^')
-            continue;
+    char* line = NextLine(text); // behind the header line
+    while (*line != '\0') {
+        char* const next = NextLine(line);
+        const std::size_t depth = std::strspn(line, ">");
+        char* const end = std::strpbrk(line, "^\r");
         const bool isHeading = *end == '\r';
         *end = '\0';
-        if (!header) {
-            int depth = 0;
-            for (; *line == '>'; ++line)
-                ++depth;
-            TVINSERTSTRUCTA insertion{};
-            insertion.hParent = parents[depth];
-            insertion.hInsertAfter = TVI_LAST;
-            insertion.item.mask = TVIF_TEXT;
-            insertion.item.pszText = line;
-            const LRESULT item = SendMessageA(tree, TVM_INSERTITEMA, 0, reinterpret_cast<LPARAM>(&insertion));
-            if (isHeading)
-                parents[depth + 1] = reinterpret_cast<HTREEITEM>(item);
-        }
-        header = false;
-        while (*end != '\n')
-            ++end;
-        line = end + 1;
+        insertion.hParent = parents[depth];
+        insertion.item.pszText = line + depth;
+        const LRESULT item = SendMessageA(tree, TVM_INSERTITEMA, 0, reinterpret_cast<LPARAM>(&insertion));
+        if (isHeading)
+            parents[depth + 1] = reinterpret_cast<HTREEITEM>(item);
+        line = next;
     }
     SendMessageA(tree, WM_SETREDRAW, TRUE, 0);
 }
 
 void CreateOtherControls(HWND window) {
     constexpr DWORD style = WS_CHILD | WS_VISIBLE;
-    picture = CreateWindowExA(0, WC_STATICA, "", style | SS_BITMAP, 450, 120, 0, 0, window, nullptr, nullptr,
-                              nullptr);
+    picture =
+        CreateWindowA(WC_STATICA, "", style | SS_BITMAP, 450, 120, 0, 0, window, nullptr, nullptr, nullptr);
     for (HWND& label : labels)
-        label =
-            CreateWindowExA(0, WC_STATICA, "", style, 450, 20, 200, 18, window, nullptr, nullptr, nullptr);
+        label = CreateWindowA(WC_STATICA, "", style, 450, 20, 200, 18, window, nullptr, nullptr, nullptr);
 }
 
 void MakeOtherCalls(HWND window) {
@@ -121,16 +114,15 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR arguments, int) {
         *all = '\0';
     const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_WIN95_CLASSES};
     InitCommonControlsEx(&controls);
-    WNDCLASSEXA windowClass{};
-    windowClass.cbSize = sizeof windowClass;
+    WNDCLASSA windowClass{};
     windowClass.lpfnWndProc = Procedure;
     windowClass.hInstance = instance;
     windowClass.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
     windowClass.lpszMenuName = MAKEINTRESOURCEA(IDR_MENU_BAR);
-    windowClass.lpszClassName = className;
-    RegisterClassExA(&windowClass);
-    const HWND window = CreateWindowExA(0, className, "", WS_OVERLAPPEDWINDOW, 200, 200, 748, 546, nullptr,
-                                        nullptr, instance, nullptr);
+    windowClass.lpszClassName = "ObrinBench.Bare";
+    RegisterClassA(&windowClass);
+    const HWND window = CreateWindowA(windowClass.lpszClassName, "", WS_OVERLAPPEDWINDOW, 200, 200, 748, 546,
+                                      nullptr, nullptr, instance, nullptr);
     const HWND tree = CreateWindowExA(WS_EX_CLIENTEDGE, WC_TREEVIEWA, "",
                                       WS_CHILD | WS_VISIBLE | TVS_HASLINES | TVS_LINESATROOT | TVS_HASBUTTONS,
                                       20, 30, 380, 410, window, nullptr, instance, nullptr);
@@ -138,8 +130,8 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR arguments, int) {
     if (all != nullptr)
         CreateOtherControls(window);
     ShellExecuteA(window, "open", "Fenn.exe", "run core\\start -5", nullptr, SW_SHOWNORMAL);
-    WaitFor(window, "ZafWindow", nullptr);
-    const HWND station = WaitFor(window, nullptr, "Obrin-05");
+    WaitFor("ZafWindow", nullptr);
+    const HWND station = WaitFor(nullptr, "Obrin-05");
     ShowWindow(station, SW_HIDE);
     hostCommandWindow = FindWindowExA(station, nullptr, nullptr, nullptr);
 

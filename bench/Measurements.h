@@ -1,20 +1,19 @@
-// Every measurement of the benchmark: each in a file of its own, which says what is compared with what.
-// A new one is declared here and entered in the list of bench.cpp. They throw when something cannot be
-// measured.
+// Every measurement of the benchmark. Each prints its rows, and throws when it cannot measure. The comment at
+// the top of its file says what it compares.
 #pragma once
-
-#include "Table.h"
 
 namespace obrin::bench {
 
-std::vector<Row> MeasureTyping();
-std::vector<Row> MeasureTree();
-std::vector<Row> MeasureListing();
-std::vector<Row> MeasureChecking();
-std::vector<Row> MeasureStart();
-std::vector<Row> MeasureWaiting();
-std::vector<Row> MeasureResizing();
-std::vector<Row> MeasureSettings();
-std::vector<Row> MeasureSize();
+void MeasureTyping();
+void MeasureTree();
+void MeasureStart();
+void MeasureCaption();
+void MeasureOpens();
+void MeasureWait();
+void MeasureDialog();
+void MeasureSave();
+void MeasureLoad();
+void MeasureMemory();
+void MeasureSize();
 
 } // namespace obrin::bench

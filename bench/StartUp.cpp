@@ -1,108 +1,101 @@
-// From the start of the process to the shown menu, and the most memory on the way, against a bare program
-// that starts and awaits the same host and then shows as much (Bare.cpp). Both run in the same installation.
+// Starts of the menu beside starts of a bare program that awaits the same host and shows the same tree
+// (Bare.cpp), in one installation: the time to the shown menu, the memory, and the files that are opened. The
+// size of the image belongs to it, because the image is loaded from a share.
 
+#include "Installation.h"
 #include "Measurements.h"
-#include "Program.h"
-#include "Scratch.h"
+#include "Table.h"
 
-#include "common/Lines.h"
-#include "menu/frmMain.h"
 #include "platform/File.h"
 #include "platform/Workstation.h"
-#include "startup/HostLink.h"
 
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <regex>
 #include <stdexcept>
 
 namespace obrin::bench {
 
 namespace {
 
-struct Start {
-    double milliseconds;
-    double megabytes;
-};
-
-Start StartAndEnd(const std::string& commandLine, const char* windowClass) {
-    RefuseOpenHost();
+double StartTime(const MenuProgram& program) {
     const LONGLONG start = Now();
-    const Program program(commandLine);
-    const HWND window = AwaitShown(windowClass);
-    const LONGLONG shown = Now();
-
-    // What it still does once the window is shown is memory too: the first painting.
-    WaitForInputIdle(ProcessOf(window).get(), 2000);
-    SendMessageA(window, WM_NULL, 0, 0);
-    const double memory = program.PeakMemory();
-    // The exit command that it types ends the host too.
-    const UniqueHandle host = ProcessOf(FindWindowA(hostWindowClass, nullptr));
-    PostMessageA(window, WM_CLOSE, 0, 0);
-    program.AwaitEnd();
-    AwaitProcessEnd(host.get());
-    return {.milliseconds = 1e3 * Seconds(shown - start), .megabytes = memory / (1024 * 1024)};
+    const RunningMenu menu(program);
+    menu.AwaitShown();
+    const double time = Milliseconds(Now() - start);
+    menu.Close();
+    return time;
 }
 
-// By Wine's own trace, which bench.sh leads into a file: each time that the launcher's thread opens, lists or
-// looks for something below the installation, but for the host's program, which the shell does, the loading
-// of the support library, and the one question for the folder's short name.
-double CountOpens(std::string_view trace) {
-    const std::size_t own = trace.find(":trace:file:CreateFileW L\"UserWSID.sys\"");
-    if (own == std::string_view::npos)
-        throw std::runtime_error("no trace of the launcher's files: run bench.sh");
-    const std::string thread(trace.substr(trace.rfind('\n', own) + 1, 4));
-    double opens = 0;
-    LineReader lines(trace, LoneLf::EndsLine);
-    while (const auto line = lines.Next()) {
-        const auto has = [&](const char* text) { return line->find(text) != std::string_view::npos; };
-        const auto calls = [&](const char* name) {
-            return line->starts_with(thread + ":trace:file:" + name + " L\"");
-        };
-        if ((calls("CreateFileW") || calls("GetFileAttributesW") || calls("FindFirstFileExW")) &&
-            (!has(":\\") || has("ObrinBench")) && !has("Fenn.exe"))
-            ++opens;
-    }
-    return opens;
-}
-
-Row MeasureOpens() {
-    const Installation installation(OwnFolder() + "Fenn.exe");
-    for (int i = 3; i < 98; ++i)
-        WriteFileBytes("S" + std::to_string(i) + ".mnu", "Title of a system^\r\n");
-    StartAndEnd("ObrinMenu.exe", menuWindowClass); // gives the configuration its drive line
-    SetEnvironmentVariableA("WINEDEBUG", "+file");
-    StartAndEnd("ObrinMenu.exe", menuWindowClass);
-    SetEnvironmentVariableA("WINEDEBUG", "-all");
-    return Within("opens and look-ups of a start with 98 menu files", "times",
-                  CountOpens(ReadFileBytes(EnvironmentVariable("OBRIN_TRACE"))), 98 + 10);
+double PeakMemory(const MenuProgram& program) {
+    const RunningMenu menu(program);
+    menu.AwaitShown();
+    const double memory = menu.PeakMemory();
+    menu.Close();
+    return memory;
 }
 
 } // namespace
 
-std::vector<Row> MeasureStart() {
-    constexpr int runs = 15;
-    const Installation installation(OwnFolder() + "Fenn.exe");
-    SetEnvironmentVariableA("FENN_START_DELAY_MS", "0");
+void MeasureStart() {
+    const Installation installation(demoHost);
+    constexpr int runs = 25;
+    PrintRatio("start to the shown menu, host there at once", "ms",
+               Alternate(
+                   runs, [] { return StartTime(product); }, [] { return StartTime(bare); }),
+               1.10);
+}
 
-    std::vector<double> productMemory;
-    std::vector<double> floorMemory;
-    const Medians medians = Alternate(
-        runs,
-        [&] {
-            const auto [milliseconds, megabytes] = StartAndEnd("ObrinMenu.exe", menuWindowClass);
-            productMemory.push_back(megabytes);
-            return milliseconds;
-        },
-        [&] {
-            const auto [milliseconds, megabytes] = StartAndEnd(Installation::bare, Installation::bareClass);
-            floorMemory.push_back(megabytes);
-            return milliseconds;
-        });
-    const double product = Median(productMemory);
-    const double floor = Median(floorMemory);
-    return {
-        WithinRatio("start to the shown menu, host there at once", "ms", medians, 1.10),
-        WithinRatio("peak private memory", "MB", {product, floor, product / floor}, 1.20),
-        MeasureOpens(),
-    };
+void MeasureMemory() {
+    const Installation installation(demoHost);
+    constexpr int runs = 5;
+    PrintRatio("peak private memory", "MB",
+               Alternate(
+                   runs, [] { return PeakMemory(product); }, [] { return PeakMemory(bare); }),
+               1.20);
+}
+
+// Counts in Wine's own trace, which bench.sh leads into a file: each time that the menu's thread opens, lists
+// or looks for something in the installation. The shell's look for the host's program does not count.
+void MeasureOpens() {
+    constexpr int menuFiles = 98;
+    constexpr int others = 10;
+    const Installation installation(demoHost); // with three menu files
+    for (int i = 3; i < menuFiles; ++i)
+        WriteFileBytes("S" + std::to_string(i) + ".mnu", "Title of a system^\r\n");
+    StartTime(product); // corrects the host's configuration
+    SetEnvironmentVariableA("WINEDEBUG", "+file");
+    StartTime(product);
+    SetEnvironmentVariableA("WINEDEBUG", "-all");
+
+    const std::regex look(
+        R"((\w+):trace:file:(?:CreateFileW|GetFileAttributesW|FindFirstFileExW) L"([^"]*))");
+    const std::string folder = std::filesystem::current_path().filename().string() + R"(\\)";
+    std::map<std::string, int> looks; // by thread
+    std::string menuThread;
+    std::ifstream trace(EnvironmentVariable("OBRIN_TRACE"));
+    for (std::string line; std::getline(trace, line);) {
+        std::smatch parts;
+        if (!std::regex_search(line, parts, look))
+            continue;
+        const std::string thread = parts[1];
+        const std::string name = parts[2]; // with two backslashes for each
+        const bool isRelative = name.find(':') == std::string::npos;
+        if ((isRelative || name.find(folder) != std::string::npos) && !name.ends_with("Fenn.exe"))
+            ++looks[thread];
+        if (name == "UserWSID.sys")
+            menuThread = thread;
+    }
+    if (menuThread.empty())
+        throw std::runtime_error("no trace of the menu's files: run bench.sh");
+    PrintValue("opens and look-ups of a start with 98 menu files", "times", looks[menuThread],
+               menuFiles + others);
+}
+
+void MeasureSize() {
+    const auto bytes = static_cast<double>(std::filesystem::file_size(OwnFolder() + "ObrinMenu.exe"));
+    PrintValue("size of ObrinMenu.exe", "KB", bytes / 1024, 400);
 }
 
 } // namespace obrin::bench

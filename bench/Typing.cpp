@@ -1,47 +1,40 @@
-// Typing a command into the host, against the same key messages sent by a bare loop. The window that takes
-// them belongs to another process and does nothing, so that nothing hides what the launcher adds.
+// Typing a command into the host, beside the same key messages sent by a bare loop. The late host takes the
+// keys in another process and does nothing with them, so that all that the launcher adds is seen.
 
+#include "Installation.h"
 #include "Measurements.h"
-#include "Program.h"
-#include "Roles.h"
-#include "Scratch.h"
+#include "Table.h"
 
-#include "platform/Failure.h"
-#include "platform/Workstation.h"
-#include "startup/HostKeys.h"
 #include "startup/HostLink.h"
+
+#include <string_view>
 
 namespace obrin::bench {
 
-std::vector<Row> MeasureTyping() {
+void MeasureTyping() {
     constexpr int runs = 201;
-    const std::string command = LoadAndRun("Core\\Programs\\CSBackup");
-    const std::vector<std::uint8_t> keys = HostKeyCodes(command, UpperCase, CodePageLeadByteTest());
+    const Installation installation(lateHost);
+    const RunningMenu menu(bare); // starts the host
+    menu.AwaitShown();
+    const HWND host = FindWindowA(hostWindowClass, nullptr);
 
-    const ScratchFolder folder;
-    if (!CopyFileA(OwnFile().c_str(), "sink.exe", FALSE))
-        ThrowLastError("Copying this program");
-    const Program sink(std::string("sink.exe ") + keySinkRole);
-    HWND window = nullptr;
-    Await("the key sink's window",
-          [&] { return (window = FindWindowA(nullptr, keySinkCaption)) != nullptr; });
-
-    HostLink link(window);
-    const auto perKey = [&](double seconds) { return seconds / static_cast<double>(keys.size()) * 1e6; };
-    const Medians medians = Alternate(
-        runs, [&] { return perKey(Timed([&] { link.SendHostCommand(command); })); },
-        [&] {
-            return perKey(Timed([&] {
-                for (const std::uint8_t key : keys) {
-                    SendMessageA(window, WM_KEYDOWN, key, 0);
-                    SendMessageA(window, WM_KEYUP, key, 0);
-                }
-            }));
-        });
-
-    PostMessageA(window, WM_CLOSE, 0, 0);
-    sink.AwaitEnd();
-    return {WithinRatio("typing a command, per key", "us", medians, 1.05)};
+    HostLink link(host);
+    const std::string command = "Load Core\\Programs\\CSBackup\rRun\r";
+    const std::string_view keys = "LOAD CORE\xDCPROGRAMS\xDC"
+                                  "CSBACKUP\rRUN\r";
+    const auto sendKeys = [&] {
+        for (const char key : keys) {
+            SendMessageA(host, WM_KEYDOWN, static_cast<unsigned char>(key), 0);
+            SendMessageA(host, WM_KEYUP, static_cast<unsigned char>(key), 0);
+        }
+    };
+    const auto count = static_cast<double>(keys.size());
+    PrintRatio("typing a command, per key", "ms",
+               Alternate(
+                   runs, [&] { return Timed([&] { link.SendHostCommand(command); }) / count; },
+                   [&] { return Timed(sendKeys) / count; }),
+               1.05);
+    menu.Close();
 }
 
 } // namespace obrin::bench

@@ -1,13 +1,11 @@
-// The wait for the host's windows: the time that it takes from the machine, and how late it sees what it
-// waits for.
+// The wait for the host: its share of a core, how late it notices the host's caption, and the time from the
+// caption to the shown menu beside a bare program that makes the same calls.
 
+#include "Installation.h"
+#include "LateHost.h"
 #include "Measurements.h"
-#include "Program.h"
-#include "Roles.h"
-#include "Scratch.h"
+#include "Table.h"
 
-#include "menu/frmMain.h"
-#include "platform/Workstation.h"
 #include "startup/HostLink.h"
 
 #include <algorithm>
@@ -17,83 +15,65 @@ namespace obrin::bench {
 namespace {
 
 // Per cent of a core while the host's window is there and never gets its caption.
-double WaitingShare(const std::string& commandLine, const char* windowClass) {
-    constexpr DWORD watched = 10'000; // milliseconds; the machine counts a process's time in steps of 10
-    RefuseOpenHost();
-    const Program program(commandLine);
-    HWND host = nullptr;
-    Await("the host's window", [&] { return (host = FindWindowA(hostWindowClass, nullptr)) != nullptr; });
-    Sleep(3000); // what the start itself still does, and the notice's opening, is no waiting
-
-    const double before = program.CpuTime();
-    const double seconds = Timed([] { Sleep(watched); });
-    const double share = 100 * (program.CpuTime() - before) / seconds;
-
-    PostMessageA(FindWindowA(windowClass, nullptr), WM_CLOSE, 0, 0);
-    program.AwaitEnd();
-    EndHost(host);
+double WaitingShare() {
+    const RunningMenu menu(product);
+    Await("the host's window", [] { return FindWindowA(hostWindowClass, nullptr) != nullptr; });
+    Sleep(3000); // the rest of the start, and the opening of the notice, are no waiting
+    const double before = menu.CpuTime();
+    const double watched = Timed([] { Sleep(10'000); }); // CPU time is counted in steps of 10 milliseconds
+    const double share = 100 * (menu.CpuTime() - before) / watched;
+    menu.Close();
     return share;
 }
 
-Row MeasureShare() {
-    constexpr int runs = 3;
-    const Installation installation(OwnFolder() + "Fenn.exe");
-    SetEnvironmentVariableA("FENN_NEVER", "caption");
-    const Medians medians = Alternate(
-        runs, [] { return WaitingShare("ObrinMenu.exe", menuWindowClass); },
-        [] { return WaitingShare(Installation::bare, Installation::bareClass); });
-    SetEnvironmentVariableA("FENN_NEVER", nullptr);
-    return Within("waiting for the host, of a core", "%", medians, 1);
-}
-
+// From the host's caption, in milliseconds.
 struct Delays {
-    double hiding, menu; ///< from the host's caption to its being hidden and to the shown menu, milliseconds
+    double untilHidden;
+    double untilShown;
 };
 
-Delays StartBesideLateHost(const std::string& commandLine, const char* windowClass) {
-    RefuseOpenHost();
-    const Program program(commandLine);
-    const HWND menu = AwaitShown(windowClass);
+Delays StartWithLateHost(const MenuProgram& program) {
+    const RunningMenu menu(program);
+    menu.AwaitShown();
     const LONGLONG shown = Now();
     const HWND host = FindWindowA(hostWindowClass, nullptr);
     const LONGLONG caption = SendMessageA(host, askCaptionTime, 0, 0);
     const LONGLONG hidden = SendMessageA(host, askHidingTime, 0, 0);
-    PostMessageA(menu, WM_CLOSE, 0, 0);
-    program.AwaitEnd();
-    EndHost(host);
-    return {.hiding = 1e3 * Seconds(hidden - caption), .menu = 1e3 * Seconds(shown - caption)};
+    menu.Close();
+    return {.untilHidden = Milliseconds(hidden - caption), .untilShown = Milliseconds(shown - caption)};
 }
 
-// In these starts the host is this program, which sets its caption at a known moment.
-std::vector<Row> MeasureDelay() {
-    constexpr int runs = 21;
-    const Installation installation(OwnFile());
-    std::vector<double> hidings;
-    const Medians menus = Alternate(
-        runs,
-        [&] {
-            const auto [hiding, menu] = StartBesideLateHost("ObrinMenu.exe", menuWindowClass);
-            hidings.push_back(hiding);
-            return menu;
-        },
-        [] { return StartBesideLateHost(Installation::bareWithAll, Installation::bareClass).menu; });
-    constexpr double target = 15;
-    // A machine that has other work is late by itself now and then, so one may be.
-    std::ranges::sort(hidings);
-    return {
-        Within("from the host's caption to its hiding, median", "ms", Median(hidings), target),
-        Within("from the host's caption to its hiding, longest but one", "ms", hidings[runs - 2], target),
-        WithinRatio("from the host's caption to the shown menu", "ms", menus, 1.25),
-    };
-}
+constexpr int lateStarts = 21;
 
 } // namespace
 
-std::vector<Row> MeasureWaiting() {
-    std::vector<Row> rows{MeasureShare()};
-    for (Row& row : MeasureDelay())
-        rows.push_back(std::move(row));
-    return rows;
+void MeasureWait() {
+    std::vector<double> shares;
+    {
+        const Installation installation(demoHost);
+        SetEnvironmentVariableA("FENN_NEVER", "caption");
+        for (int run = 0; run < 3; ++run)
+            shares.push_back(WaitingShare());
+        SetEnvironmentVariableA("FENN_NEVER", nullptr);
+    }
+    PrintValue("waiting for the host, share of a core, median", "%", Median(shares), 6);
+
+    const Installation installation(lateHost);
+    std::vector<double> delays;
+    for (int run = 0; run < lateStarts; ++run)
+        delays.push_back(StartWithLateHost(product).untilHidden);
+    std::ranges::sort(delays);
+    // The longest does not count: now and then other work of the machine delays a start.
+    PrintValue("from the host's caption to its hiding, longest but one", "ms", delays[lateStarts - 2], 35);
+}
+
+void MeasureCaption() {
+    const Installation installation(lateHost);
+    PrintRatio("from the host's caption to the shown menu", "ms",
+               Alternate(
+                   lateStarts, [] { return StartWithLateHost(product).untilShown; },
+                   [] { return StartWithLateHost(bareWithAllCalls).untilShown; }),
+               1.25);
 }
 
 } // namespace obrin::bench

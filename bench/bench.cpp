@@ -3,73 +3,52 @@
 //   bench.exe              everything
 //   bench.exe typing size  these measurements only
 //
-// Ends with 0 whatever the figures are: they are a machine's, and another program may have disturbed them. A
-// measurement that could not be made at all ends it with 1.
-//
-// It also plays the other processes that the measurements need: see Roles.h.
+// Ends with 0 even when a row is over its target: other programs of the machine disturb the figures. Ends
+// with 1 when something could not be measured.
 
 #include "Measurements.h"
-#include "Roles.h"
+#include "Table.h"
 
 #include "platform/WindowsApi.h"
 
-#include <algorithm>
-#include <array>
 #include <cstdio>
 #include <exception>
-#include <span>
-#include <string_view>
-
-namespace obrin::bench {
+#include <set>
+#include <string>
 
 namespace {
 
+using namespace obrin::bench;
+
 struct Measurement {
-    std::string_view name;
-    std::vector<Row> (*measure)();
+    const char* name;
+    void (*measure)();
 };
 
-constexpr std::array<Measurement, 9> measurements{{
-    {"typing", MeasureTyping},
-    {"tree", MeasureTree},
-    {"listing", MeasureListing},
-    {"checking", MeasureChecking},
-    {"start", MeasureStart},
-    {"waiting", MeasureWaiting},
-    {"resizing", MeasureResizing},
-    {"settings", MeasureSettings},
-    {"size", MeasureSize},
-}};
-
-int Run(std::span<char*> names) {
-    const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_WIN95_CLASSES};
-    InitCommonControlsEx(&controls);
-    int over = 0;
-    int failed = 0;
-    PrintHead();
-    for (const auto& [name, measure] : measurements) {
-        const auto isNamed = [&name = name](const char* argument) { return argument == name; };
-        if (!names.empty() && std::ranges::none_of(names, isNamed))
-            continue;
-        try {
-            over += Print(measure());
-        } catch (const std::exception& error) {
-            ++failed;
-            std::printf("%s: not measured: %s\n", name.data(), error.what());
-        }
-    }
-    if (over > 0)
-        std::printf("%d over target\n", over);
-    return failed == 0 ? 0 : 1;
-}
+constexpr Measurement measurements[] = {
+    {"typing", MeasureTyping},   {"tree", MeasureTree},   {"start", MeasureStart},
+    {"caption", MeasureCaption}, {"opens", MeasureOpens}, {"wait", MeasureWait},
+    {"dialog", MeasureDialog},   {"save", MeasureSave},   {"load", MeasureLoad},
+    {"memory", MeasureMemory},   {"size", MeasureSize},
+};
 
 } // namespace
 
-} // namespace obrin::bench
-
 int main(int count, char** arguments) {
-    const std::span<char*> all(arguments, static_cast<std::size_t>(count));
-    if (const auto role = obrin::bench::PlayRole(all.subspan(1)))
-        return *role;
-    return obrin::bench::Run(all.subspan(1));
+    const std::set<std::string> names(arguments + 1, arguments + count);
+    const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_WIN95_CLASSES};
+    InitCommonControlsEx(&controls);
+    int exitCode = 0;
+    PrintHead();
+    for (const auto& [name, measure] : measurements) {
+        if (!names.empty() && !names.contains(name))
+            continue;
+        try {
+            measure();
+        } catch (const std::exception& error) {
+            std::printf("%s: not measured: %s\n", name, error.what());
+            exitCode = 1;
+        }
+    }
+    return exitCode;
 }

@@ -1,0 +1,165 @@
+#include "Installation.h"
+
+#include "Clock.h"
+
+#include "platform/File.h"
+#include "platform/Workstation.h"
+#include "startup/HostLink.h"
+#include "startup/UserRecords.h"
+
+#include <psapi.h>
+#include <tlhelp32.h>
+
+#include <filesystem>
+#include <stdexcept>
+#include <system_error>
+
+namespace obrin::bench {
+
+namespace {
+
+[[noreturn]] void ThrowLastError(const std::string& doing) {
+    throw std::system_error(static_cast<int>(GetLastError()), std::system_category(), doing);
+}
+
+double ThreadTime(DWORD id) {
+    const UniqueHandle thread(OpenThread(THREAD_QUERY_INFORMATION, FALSE, id));
+    FILETIME created;
+    FILETIME ended;
+    FILETIME kernel;
+    FILETIME user;
+    if (!thread || !GetThreadTimes(thread.get(), &created, &ended, &kernel, &user))
+        ThrowLastError("reading a thread's time");
+    const auto value = [](const FILETIME& time) {
+        return static_cast<double>(ULARGE_INTEGER{{time.dwLowDateTime, time.dwHighDateTime}}.QuadPart);
+    };
+    constexpr double perMillisecond = 1e4;
+    return (value(kernel) + value(user)) / perMillisecond;
+}
+
+void AwaitEnd(const UniqueHandle& process) {
+    Await("the end of a process", [&] { return WaitForSingleObject(process.get(), 0) == WAIT_OBJECT_0; });
+}
+
+} // namespace
+
+void Await(const std::string& what, const std::function<bool()>& condition) {
+    constexpr double longest = 30'000; // milliseconds
+    for (const LONGLONG start = Now(); !condition(); Sleep(1)) {
+        if (Milliseconds(Now() - start) > longest)
+            throw std::runtime_error("waited in vain for " + what);
+    }
+}
+
+// --- Installation ---
+
+std::vector<Entry> MakeEntries(int count) {
+    constexpr int headings = 10;
+    constexpr int programs = 9;
+    std::vector<Entry> entries;
+    for (int i = 0; i < count; ++i) {
+        const int inBranch = i % (1 + headings * (1 + programs));
+        const int inHeading = (inBranch - 1) % (1 + programs);
+        const std::string number = std::to_string(i);
+        if (inBranch == 0)
+            entries.push_back({.depth = 0, .parent = 0, .text = "Branch " + number});
+        else if (inHeading == 0)
+            entries.push_back({.depth = 1, .parent = i - inBranch, .text = "Heading " + number});
+        else
+            entries.push_back({.depth = 2, .parent = i - inHeading, .text = "Program number " + number});
+    }
+    return entries;
+}
+
+std::string MenuFileText(const char* title, const std::vector<Entry>& entries) {
+    std::string text = std::string(title) + "^\r\n";
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        text += std::string(static_cast<std::size_t>(entries[i].depth), '>') + entries[i].text;
+        if (entries[i].depth == 2)
+            text += "^UB\\Programs\\Prog" + std::to_string(i);
+        text += "\r\n";
+    }
+    return text;
+}
+
+Installation::Installation(const char* host) {
+    const std::vector<Entry> entries = MakeEntries(66);
+    CreateDirectoryA("Core", nullptr);
+    WriteFileBytes("FennConfig.Sys",
+                   "Title Bench\r\nDrive S,C:\\OLD,X,\\\r\n\r\nBuffers 64\r\nFiles 120\r\n");
+    WriteFileBytes("UserWSID.sys", UserWsidRecord(LoginName(), 5));
+    WriteFileBytes("Startup.bmp", test::Bmp(200, 140));
+    WriteFileBytes("GL.mnu", MenuFileText("General Ledger", entries));
+    WriteFileBytes("PR.mnu", MenuFileText("Payroll", entries));
+    WriteFileBytes("UB.mnu", MenuFileText("Utility Billing", entries));
+    for (const char* program : {"ObrinMenu.exe", "Corvel.dll", "bare.exe"})
+        std::filesystem::copy_file(OwnFolder() + program, program);
+    std::filesystem::copy_file(OwnFolder() + host, "Fenn.exe");
+    SetEnvironmentVariableA("FENN_START_DELAY_MS", "0"); // of the demonstration's host
+}
+
+// --- RunningMenu ---
+
+RunningMenu::RunningMenu(const MenuProgram& program)
+    : windowClass(program.windowClass) {
+    if (FindWindowA(hostWindowClass, nullptr) != nullptr)
+        throw std::runtime_error("a host is open on this desktop");
+    // With the folder's name: without it, Windows first looks beside this program.
+    std::string commandLine = std::string(".\\") + program.commandLine;
+    STARTUPINFOA start{};
+    start.cb = sizeof start;
+    PROCESS_INFORMATION started{};
+    if (!CreateProcessA(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
+                        &started))
+        ThrowLastError("starting " + commandLine);
+    CloseHandle(started.hThread);
+    process.reset(started.hProcess);
+    processId = started.dwProcessId;
+}
+
+RunningMenu::~RunningMenu() {
+    TerminateProcess(process.get(), 1); // without effect on a process that has ended
+}
+
+void RunningMenu::AwaitShown() const {
+    Await("the menu's window", [this] { return IsWindowVisible(Window()) != FALSE; });
+}
+
+// Thread by thread, because Wine does not report the CPU time of another process.
+double RunningMenu::CpuTime() const {
+    const UniqueHandle threads(CreateToolhelp32Snapshot(TH32CS_SNAPTHREAD, 0));
+    THREADENTRY32 thread{};
+    thread.dwSize = sizeof thread;
+    double time = 0;
+    for (BOOL more = Thread32First(threads.get(), &thread); more;
+         more = Thread32Next(threads.get(), &thread)) {
+        if (thread.th32OwnerProcessID == processId)
+            time += ThreadTime(thread.th32ThreadID);
+    }
+    return time;
+}
+
+double RunningMenu::PeakMemory() const {
+    WaitForInputIdle(process.get(), 2000);
+    SendMessageA(Window(), WM_NULL, 0, 0);
+    PROCESS_MEMORY_COUNTERS counters{};
+    if (!K32GetProcessMemoryInfo(process.get(), &counters, sizeof counters))
+        ThrowLastError("reading the memory of a process");
+    return static_cast<double>(counters.PeakPagefileUsage) / (1024 * 1024);
+}
+
+void RunningMenu::Close() const {
+    const HWND host = FindWindowA(hostWindowClass, nullptr);
+    DWORD hostId = 0;
+    GetWindowThreadProcessId(host, &hostId);
+    const UniqueHandle hostProcess(OpenProcess(SYNCHRONIZE, FALSE, hostId));
+    if (!hostProcess)
+        ThrowLastError("opening the host's process");
+    PostMessageA(Window(), WM_CLOSE, 0, 0);
+    AwaitEnd(process);
+    // A menu that shows its window has typed the host's exit command; other hosts are still open.
+    PostMessageA(host, WM_CLOSE, 0, 0);
+    AwaitEnd(hostProcess);
+}
+
+} // namespace obrin::bench
