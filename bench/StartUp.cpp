@@ -1,6 +1,6 @@
-// Starts of the menu beside starts of a bare program that awaits the same host and shows the same tree
-// (Bare.cpp), in one installation: the time to the shown menu, the memory, and the files that are opened. The
-// size of the image belongs to it, because the image is loaded from a share.
+// Starts of the menu, beside starts of a bare program that awaits the same host and shows the same tree
+// (Bare.cpp): the time to the shown menu, the memory, and the files that are opened. The size of the image is
+// here too, because a start loads it from a share.
 
 #include "Installation.h"
 #include "Measurements.h"

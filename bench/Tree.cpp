@@ -36,7 +36,7 @@ double ShowByProduct(MenuTree& tree) {
     });
 }
 
-// Level by level, which is twice as fast with 30,000 entries as the order of the file.
+// Inserts level by level: with 30,000 entries Wine is twice as fast at that as at the order of the file.
 double ShowByBareCalls(HWND tree, std::vector<Entry>& entries) {
     ProcessPendingEvents();
     std::vector<HTREEITEM> items(entries.size());

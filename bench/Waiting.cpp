@@ -48,20 +48,18 @@ constexpr int lateStarts = 21;
 } // namespace
 
 void MeasureWait() {
-    std::vector<double> shares;
+    std::vector<double> shares(3);
     {
         const Installation installation(demoHost);
         SetEnvironmentVariableA("FENN_NEVER", "caption");
-        for (int run = 0; run < 3; ++run)
-            shares.push_back(WaitingShare());
+        std::ranges::generate(shares, WaitingShare);
         SetEnvironmentVariableA("FENN_NEVER", nullptr);
     }
     PrintValue("waiting for the host, share of a core, median", "%", Median(shares), 6);
 
     const Installation installation(lateHost);
-    std::vector<double> delays;
-    for (int run = 0; run < lateStarts; ++run)
-        delays.push_back(StartWithLateHost(product).untilHidden);
+    std::vector<double> delays(lateStarts);
+    std::ranges::generate(delays, [] { return StartWithLateHost(product).untilHidden; });
     std::ranges::sort(delays);
     // The longest does not count: now and then other work of the machine delays a start.
     PrintValue("from the host's caption to its hiding, longest but one", "ms", delays[lateStarts - 2], 35);
