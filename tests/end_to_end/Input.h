@@ -13,14 +13,19 @@ inline void PressKey(BYTE key) {
     keybd_event(key, 0, KEYEVENTF_KEYUP, 0);
 }
 
-/// Keeps a key down for some of the keyboard's repeats; up again only by ReleaseKey.
-inline void HoldKey(BYTE key, int repeats) {
-    for (int i = 0; i <= repeats; ++i)
-        keybd_event(key, 0, 0, 0);
+inline void PressWithAlt(BYTE key) {
+    keybd_event(VK_MENU, 0, 0, 0);
+    PressKey(key);
+    keybd_event(VK_MENU, 0, KEYEVENTF_KEYUP, 0);
 }
 
-inline void ReleaseKey(BYTE key) {
-    keybd_event(key, 0, KEYEVENTF_KEYUP, 0);
+/// Posts a key to a control as the keyboard does while it is held down: pressed once and repeated. A real key
+/// is let go by this display as soon as another window comes to the front.
+inline void HoldKey(HWND control, WPARAM key, int repeats) {
+    constexpr LPARAM pressed = 1, repeated = pressed | LPARAM{KF_REPEAT} << 16;
+    PostMessageA(control, WM_KEYDOWN, key, pressed);
+    for (int i = 0; i < repeats; ++i)
+        PostMessageA(control, WM_KEYDOWN, key, repeated);
 }
 
 /// Clicks in the middle of a control.

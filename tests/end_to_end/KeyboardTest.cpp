@@ -57,9 +57,7 @@ TEST_F(Keyboard, LetterWithoutAltRunsNothing) {
 }
 
 TEST_F(Keyboard, AltWithTheButtonsLetterRuns) {
-    keybd_event(VK_MENU, 0, 0, 0);
-    PressKey('R');
-    ReleaseKey(VK_MENU);
+    PressWithAlt('R');
     ExpectBackupRun();
 }
 
@@ -72,17 +70,15 @@ TEST_F(Keyboard, EnterBehindAClickOnTheButtonRuns) {
 }
 
 TEST_F(Keyboard, EnterHeldInTheTreeRunsOnce) {
-    HoldKey(VK_RETURN, 5);
+    HoldKey(tree, VK_RETURN, 3);
     ExpectBackupRun();
-    ReleaseKey(VK_RETURN);
     ExpectNothingRun();
 }
 
 TEST_F(Keyboard, EnterHeldOnTheButtonRunsOnce) {
     PressKey(VK_TAB);
-    HoldKey(VK_RETURN, 5);
+    HoldKey(button, VK_RETURN, 3);
     ExpectBackupRun();
-    ReleaseKey(VK_RETURN);
     ExpectNothingRun();
 }
 
@@ -97,18 +93,16 @@ TEST_F(Keyboard, ClickThatSlipsByAFewPixelsSelects) {
 
 TEST_F(Keyboard, EnterHeldThroughTheUpdateLeavesItsWindowOpen) {
     DeleteFileA("Updated.txt");
-    HoldKey(VK_RETURN, 3);
+    HoldKey(tree, VK_RETURN, 3);
     EXPECT_TRUE(
         Eventually([&] { return launcher.Texts(updateTitle).find("Complete") != std::string::npos; }));
-    // Posted, as this display lets go of keys when the window in front changes.
-    constexpr LPARAM repeated = 1 | LPARAM{KF_REPEAT} << 16;
     const HWND okay = GetDlgItem(launcher.Window(updateTitle), IDOK);
+    constexpr LPARAM repeated = 1 | LPARAM{KF_REPEAT} << 16;
     PostMessageA(okay, WM_KEYDOWN, VK_RETURN, repeated);
     ExpectNothingRun();
     EXPECT_TRUE(launcher.Shown(updateTitle));
-    PostMessageA(okay, WM_KEYDOWN, VK_RETURN, 1);
+    PressKey(VK_RETURN);
     ExpectBackupRun();
-    ReleaseKey(VK_RETURN);
 }
 
 TEST(TitleWithMarks, IsShownWithoutThemAndTakesNoKey) {
@@ -120,9 +114,7 @@ TEST(TitleWithMarks, IsShownWithoutThemAndTakesNoKey) {
     EXPECT_EQ(TextOf(GetDlgItem(launcher.Menu(), IDC_FRAME1)), "R&&D of Core")
         << "a group box shows this as one &";
     EXPECT_TRUE(KeepsForeground(launcher.Menu()));
-    keybd_event(VK_MENU, 0, 0, 0);
-    PressKey('C');
-    ReleaseKey(VK_MENU);
+    PressWithAlt('C');
     EXPECT_TRUE(Eventually([] { return IsWindowVisible(FindWindowA("#32768", nullptr)) != FALSE; }))
         << "Core Programs opens";
     PressKey(VK_ESCAPE);
