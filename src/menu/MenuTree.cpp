@@ -42,17 +42,24 @@ void MenuTree::Clear() {
 void MenuTree::Fill(std::vector<MenuEntry> entries) {
     nodes = std::move(entries);
     const RedrawPause pause(window);
-    std::vector<HTREEITEM> items{TVI_ROOT}; // by tree index
+    std::vector<HTREEITEM> items(nodes.size() + 1, TVI_ROOT); // by tree index
     TVINSERTSTRUCTA insertion{};
     insertion.hInsertAfter = TVI_LAST;
     insertion.item.mask = TVIF_TEXT | TVIF_PARAM;
-    for (std::size_t i = 0; i < nodes.size(); ++i) {
-        insertion.hParent = items[static_cast<std::size_t>(nodes[i].parent)];
-        insertion.item.pszText = nodes[i].text.data();
-        insertion.item.lParam = static_cast<LPARAM>(i);
-        items.push_back(reinterpret_cast<HTREEITEM>(Send(window, TVM_INSERTITEMA, 0, &insertion)));
-        if (items.back() == nullptr)
-            throw RunTimeError(ERROR_NOT_ENOUGH_MEMORY, "Adding " + nodes[i].text + " to the tree");
+    // Level by level: some versions of the tree view look for a parent in the order in which their nodes
+    // came, and take twice as long for thousands of nodes in the order of the file.
+    for (std::size_t depth = 0, inserted = 0; inserted < nodes.size(); ++depth) {
+        for (std::size_t i = 0; i < nodes.size(); ++i) {
+            if (nodes[i].depth != depth)
+                continue;
+            ++inserted;
+            insertion.hParent = items[static_cast<std::size_t>(nodes[i].parent)];
+            insertion.item.pszText = nodes[i].text.data();
+            insertion.item.lParam = static_cast<LPARAM>(i);
+            items[i + 1] = reinterpret_cast<HTREEITEM>(OwnAnswer(TVM_INSERTITEMA, 0, reinterpret_cast<LPARAM>(&insertion)));
+            if (items[i + 1] == nullptr)
+                throw RunTimeError(ERROR_NOT_ENOUGH_MEMORY, "Adding " + nodes[i].text + " to the tree");
+        }
     }
     // A tree view selects its first node when it gets the keyboard; without a selection its keys do nothing.
     if (!nodes.empty() && GetFocus() == window)
