@@ -29,7 +29,12 @@ void LoadBare(const std::string& path) {
     CloseHandle(file);
 }
 
+// Looks for the folders and reads the file first, as the product does: it creates missing folders, and writes
+// nothing when the file holds these bytes already.
 void SaveBare(const std::string& path, const std::string& bytes) {
+    for (const char* folder : {"Ini", "Ini\\Core", "Ini\\Core\\Programs"})
+        GetFileAttributesA(folder);
+    LoadBare(path);
     const std::string temporary = path + ".tmp";
     const HANDLE file = CreateFileA(temporary.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, 0, nullptr);
     DWORD count = 0;
