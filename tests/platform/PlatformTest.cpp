@@ -55,6 +55,7 @@ TEST(Images, AreForWindows10TakeNothingFromTheirOwnFolderAndSayWhatTheyAre) {
                                                           {"Corvel.dll", "Obrin support library"}};
     for (const auto& [name, description] : images) {
         const std::string file = test::OwnProgram().replace_filename(name).string();
+        const bool isProgram = file.ends_with(".exe");
         // Mapped without being linked; the handle's lowest bits say so.
         const auto mapped = reinterpret_cast<std::uintptr_t>(
             LoadLibraryExA(file.c_str(), nullptr, LOAD_LIBRARY_AS_IMAGE_RESOURCE));
@@ -67,7 +68,8 @@ TEST(Images, AreForWindows10TakeNothingFromTheirOwnFolderAndSayWhatTheyAre) {
         EXPECT_EQ(optional.MinorSubsystemVersion, 0);
         EXPECT_EQ(optional.DllCharacteristics,
                   IMAGE_DLLCHARACTERISTICS_DYNAMIC_BASE | IMAGE_DLLCHARACTERISTICS_NX_COMPAT |
-                      (sizeof(void*) == 8 ? IMAGE_DLLCHARACTERISTICS_HIGH_ENTROPY_VA : 0));
+                      (sizeof(void*) == 8 ? IMAGE_DLLCHARACTERISTICS_HIGH_ENTROPY_VA : 0) |
+                      (isProgram ? IMAGE_DLLCHARACTERISTICS_TERMINAL_SERVER_AWARE : 0));
         EXPECT_TRUE(headers->FileHeader.Characteristics & IMAGE_FILE_NET_RUN_FROM_SWAP);
         for (const auto* import = reinterpret_cast<const IMAGE_IMPORT_DESCRIPTOR*>(
                  base + optional.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT].VirtualAddress);
