@@ -1,5 +1,5 @@
 // How this stand-in behaves, from the environment it is started in: a test sets the variables for itself,
-// the launcher hands them down.
+// the menu hands them down.
 #pragma once
 
 #include <string>

@@ -1,5 +1,5 @@
-#!/usr/bin/env bash
-# Draws launcher.ico anew: a small menu tree on a tile, for each size in whole pixels of its own. Needs ImageMagick.
+#!/bin/bash
+# Draws menu.ico anew: a small menu tree on a tile, for each size in whole pixels of its own. Needs ImageMagick.
 set -euo pipefail
 cd "$(dirname "$0")"
 work=$(mktemp -d)
@@ -85,4 +85,4 @@ done
     offset=$((offset + bytes))
   done
   cat "${sizes[@]/#/$work/}"
-} >launcher.ico
+} >menu.ico
