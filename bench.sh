@@ -3,10 +3,28 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 source scripts/packages.sh
+source scripts/wine.sh
+
+measure() {
+  # For one measurement Wine lists the calls of a program there.
+  local result=0 trace=$PWD/build/bench-trace.txt
+  start_watching "Measuring (everything: about four minutes)" /dev/null
+  OBRIN_TRACE=$(windows_path "$trace") scripts/run-windows-program.sh build/x64/bin/bench.exe "$@" 2>"$trace" |
+    show_rows || result=$?
+  stop_watching "Measured"
+  ((result == 0)) || tail -n 5 "$trace" >&2
+  return "$result"
+}
+
+# Each row as it comes, on a terminal in place of the line that says how long it takes.
+show_rows() {
+  local row
+  while IFS= read -r row; do
+    [[ ! -t 2 ]] || show_status ''
+    printf '%s\n' "$row"
+  done
+}
 
 install_packages "${build_packages[@]}" "${wine_packages[@]}" "${font_packages[@]}"
 build_preset x64
-# Wine writes here which files a start opens, for the measurement that counts them.
-trace=$PWD/build/bench-trace.txt
-OBRIN_TRACE=Z:${trace//\//\\} scripts/run-windows-program.sh build/x64/bin/bench.exe "$@" 2>"$trace" ||
-  { tail -n 5 "$trace" >&2 && exit 1; }
+in_session x64 measure "$@"

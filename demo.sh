@@ -72,6 +72,7 @@ show() {
     return 1
   fi
   trap end_prefix EXIT
+  echo "Starting the menu" >&2
   (cd build/demo/host && run_wine ./ObrinMenu.exe) 9>&- || return
   # The host that the menu started ends by itself.
   timeout 10 "$WINESERVER" -w 9>&- || true
@@ -183,6 +184,6 @@ else
   ln -sfn "$obrin_root/build/screenshot" "$WINEPREFIX/dosdevices/s:"
   printf '\n[Control Panel\\\\Desktop]\n"LogPixels"=dword:%08x\n' "$dpi" >>"$WINEPREFIX/pristine/user.reg"
   mkdir -p "$(dirname "$picture")"
-  in_session screenshot take_picture
+  in_session screenshot run_step "Taking the picture" build/log/picture.txt take_picture
   echo "Took ${picture#"$obrin_root"/}"
 fi

@@ -42,30 +42,24 @@ failed=()
 missing=()
 summary=()
 
-# Runs the tests of a preset: run_tests PRESET COMMAND-IN-FRONT...
-# Of ctest's lines only those of tests that passed are held back.
+# Runs the tests of a preset: run_tests PRESET [in_session PREFIX]
 run_tests() {
-  local preset=$1 log=build/log/test-$1.txt jobs=1 result=0
+  local preset=$1 log=build/log/test-$1.txt jobs=1
   shift
   # Windows tests share one desktop: one at a time.
   [[ $preset != native ]] || jobs=$(nproc)
-  echo "Testing $preset"
-  rm -f "$log"
-  "$@" ctest --test-dir "build/$preset" --output-on-failure --no-tests=error --timeout 120 -j"$jobs" </dev/null 2>&1 |
-    tee "$log" | { grep --line-buffered -v -E '^ +Start +[0-9]+: | +Passed +[0-9.]+ sec$' || true; } || result=$?
-  ((result == 0)) || failed+=("tests of $preset")
+  "$@" run_step "Testing $preset" "$log" ctest --test-dir "build/$preset" --output-on-failure --no-tests=error \
+    --timeout 120 -j"$jobs" || failed+=("tests of $preset")
   summary+=("$preset:" "$(sed -n '/ tests passed, /,$p' "$log")")
 }
 
-# Runs the archive of the tests in a new prefix, which must be as it was afterwards.
+# Runs the archive of the tests in a new prefix, and looks that it leaves the prefix as it was.
 run_archive() {
-  echo "Testing the archive of the tests"
-  local report=build/wine/archive/drive_c/ObrinTests/report.txt
   rm -rf build/wine/archive
-  if ./package.sh --tests && (in_session archive unpack_and_run); then
-    summary+=("archive: $(tail -n 1 "$report" | tr -d '\r')")
+  if ./package.sh --tests &&
+    in_session archive run_step "Testing the archive of the tests" build/log/test-archive.txt unpack_and_run; then
+    summary+=("archive: $(tail -n 1 build/wine/archive/drive_c/ObrinTests/report.txt | tr -d '\r')")
   else
-    [[ ! -f $report ]] || cat "$report"
     failed+=("archive of the tests")
   fi
 }
@@ -83,8 +77,10 @@ unpack_and_run() {
     echo "run-tests.cmd has not put everything back"
     result=1
   fi
+  # The report without the tests that passed.
+  ((result == 0)) || grep -v -E '^\[ +(RUN|OK) +\]' "$folder/report.txt"
   return "$result"
-} </dev/null >build/log/test-archive.txt 2>&1
+}
 
 # Runs every fuzz target for its share of the time, on a copy of its seeds that grows from run to run.
 run_fuzz_targets() {
@@ -99,18 +95,15 @@ run_fuzz_targets() {
   fi
   share=$((fuzz_seconds / ${#targets[@]}))
   ((share > 0)) || share=1
-  echo "Fuzzing ${#targets[@]} targets, $share s each"
   for target in "${targets[@]}"; do
     name=${target##*/fuzz_}
     folder=build/fuzz/$name
     log=$folder/log.txt
     mkdir -p "$folder/corpus"
     [[ ! -d fuzz/seeds/$name ]] || cp -r "fuzz/seeds/$name/." "$folder/corpus"
-    if ! "$target" -max_total_time="$share" -rss_limit_mb=2048 -timeout=10 -print_final_stats=1 \
-      -artifact_prefix="$folder/" "$folder/corpus" </dev/null >"$log" 2>&1; then
-      tail -n 60 "$log"
+    run_step "Fuzzing $name ($share s)" "$log" "$target" -max_total_time="$share" -rss_limit_mb=2048 -timeout=10 \
+      -print_final_stats=1 -artifact_prefix="$folder/" "$folder/corpus" ||
       failed+=("fuzz target $name (its input is in $folder)")
-    fi
     runs=$(sed -n 's/^stat::number_of_executed_units: *//p' "$log")
     total=$((total + ${runs:-0}))
   done

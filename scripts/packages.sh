@@ -1,6 +1,7 @@
 # shellcheck shell=bash disable=SC2034
-# What every script in the top folder begins with: the distribution's packages that a step needs, and the builds.
-# To be sourced.
+# The distribution's packages that a script needs, and the builds. To be sourced.
+
+source "$(dirname "${BASH_SOURCE[0]}")/steps.sh"
 
 # googletest are sources: each preset builds them with its own compiler. Their CMake files look for Python.
 # mingw-w64-tools has genpeimg, which marks the images that run from a share.
@@ -18,7 +19,7 @@ wine_packages=(wine wine64 libc6-i386 xvfb openbox xdotool x11-utils imagemagick
 # Wine's own bitmap and dialog fonts, and free ones with the proportions of the Windows fonts that the menu asks for.
 font_packages=(fonts-wine fonts-comic-neue fonts-liberation)
 
-# Installs those of the named packages that are missing. Asks only the local package database when none is.
+# Installs the named packages that are missing. If none is, this asks the local package database only.
 install_packages() {
   local -a missing as_root=()
   mapfile -t missing < <(comm -23 <(printf '%s\n' "$@" | sort -u) \
@@ -31,23 +32,32 @@ install_packages() {
       return 1
     fi
     as_root=(sudo)
+    # A question for the password comes here, and not in the middle of a step.
+    sudo -v || return
   fi
-  echo "Installing ${missing[*]}"
-  # A source that is down is no reason to stop while the packages can be had from the others.
-  "${as_root[@]}" apt-get -q -o Acquire::Retries=3 update </dev/null >/dev/null ||
-    echo "apt-get update failed; trying with the package lists at hand" >&2
-  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -o Acquire::Retries=3 -o Dpkg::Use-Pty=0 \
-    install -y --no-install-recommends "${missing[@]}" </dev/null >/dev/null
+  # Packages may still be had from the other sources when one is down.
+  run_step "Reading the lists of packages" build/log/package-lists.txt \
+    "${as_root[@]}" apt-get -q -o Acquire::Retries=3 update ||
+    echo "Trying with the lists of packages at hand" >&2
+  echo "Missing packages: ${missing[*]}" >&2
+  run_step "Installing packages ($(size_of_packages "${missing[@]}"))" build/log/packages.txt \
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -o Acquire::Retries=3 -o Dpkg::Use-Pty=0 \
+    -o APT::Status-Fd=1 install -y --no-install-recommends "${missing[@]}"
 }
 
-# Configures and builds a preset; what the tools say is shown only when they fail.
+# What installing packages comes to, with those that they need: "182, 281 MB to download, 1,180 MB on disk".
+size_of_packages() {
+  LC_ALL=C apt-get -o Debug::NoLocking=1 --assume-no install --no-install-recommends "$@" 2>/dev/null | sed -n -E \
+    -e 's/^.*upgraded, ([0-9]+) newly installed.*/\1/p' \
+    -e 's/^Need to get ([^/]*\/)?(.*) of archives\.$/, \2 to download/p' \
+    -e 's/^After this operation, (.*) of additional disk space will be used\.$/, \1 on disk/p' | tr -d '\n'
+}
+
+# Configures and builds a preset.
 build_preset() {
-  local log=build/log/build-$1.txt
-  mkdir -p build/log
-  echo "Building $1"
-  if ! { cmake --preset "$1" && cmake --build --preset "$1"; } </dev/null >"$log" 2>&1; then
-    cat "$log" >&2
-    echo "Building $1 failed" >&2
-    return 1
-  fi
+  run_step "Building $1" "build/log/build-$1.txt" configure_and_build "$1"
+}
+
+configure_and_build() {
+  cmake --preset "$1" && cmake --build --preset "$1"
 }

@@ -8,6 +8,7 @@
 obrin_root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 wine_folder=$obrin_root/build/wine
 wine32_root=$wine_folder/root32
+source "$obrin_root/scripts/steps.sh"
 
 # Exports what every Windows program in prefix $1 needs; run_wine then starts one.
 use_prefix() {
@@ -58,7 +59,6 @@ make_wine32() {
   # Both halves must be of one version: a new one of the system's needs a new one here.
   [[ ! -f $stamp || $(<"$stamp") != "$version" ]] || return 0
 
-  echo "Fetching the 32-bit Wine (once: about 145 MB, half a minute)" >&2
   rm -rf "$wine32_root" "$apt_folder"
   mkdir -p "$wine32_root" "$apt_folder"/{state/lists,cache/archives}/partial
   : >"$apt_folder/status"
@@ -66,15 +66,14 @@ make_wine32() {
   # system's: nothing is installed, no rights are needed.
   local -a apt=(apt-get -q -o Dir::State="$apt_folder/state" -o Dir::State::status="$apt_folder/status"
     -o Dir::Cache="$apt_folder/cache" -o APT::Architecture=i386 -o APT::Architectures=i386
-    -o APT::Sandbox::User="$(id -un)" -o Debug::NoLocking=1 -o Acquire::Retries=3)
-  if ! {
-    # One list that cannot be had, of a source that is not needed, must not stop the rest.
-    "${apt[@]}" update || true
+    -o APT::Sandbox::User="$(id -un)" -o Debug::NoLocking=1 -o Acquire::Retries=3 -o APT::Status-Fd=1)
+  # The packages may still be had when the lists of one source cannot.
+  run_step "Reading the lists of 32-bit packages" "$wine_folder/root32-lists.log" "${apt[@]}" update || true
+  if ! run_step "Downloading the 32-bit Wine (once: 145 MB to download, 730 MB on disk)" "$wine_folder/root32.log" \
     "${apt[@]}" install -y --no-install-recommends --download-only "wine32=$version" "libwine=$version" \
-      libxrender1 libxcursor1 libxrandr2 libxfixes3 libxi6 libxcomposite1 libxinerama1 &&
-      unpack_wine32 "$apt_folder/cache/archives"
-  } </dev/null >"$wine_folder/root32.log" 2>&1; then
-    tail -n 5 "$wine_folder/root32.log" >&2
+    libxrender1 libxcursor1 libxrandr2 libxfixes3 libxi6 libxcomposite1 libxinerama1 ||
+    ! run_step "Unpacking the 32-bit Wine" "$wine_folder/root32-unpack.log" \
+      unpack_wine32 "$apt_folder/cache/archives"; then
     echo "The 32-bit Wine could not be had: 32-bit programs cannot run here" >&2
     return 1
   fi
@@ -83,8 +82,11 @@ make_wine32() {
 }
 
 unpack_wine32() {
-  local package
-  for package in "$1"/*.deb; do
+  local package count=0
+  local -a packages=("$1"/*.deb)
+  for package in "${packages[@]}"; do
+    count=$((count + 1))
+    echo "[$count/${#packages[@]}] ${package##*/}"
     # The C library comes with the loader of package libc6-i386, which it must match to the letter.
     [[ ${package##*/} == libc6_* ]] || dpkg -x "$package" "$wine32_root" || return
   done
@@ -129,12 +131,10 @@ prepare_prefix() {
       cp -a "$wine_folder"/x64/{.update-timestamp,dosdevices,drive_c,pristine} "$WINEPREFIX" &&
       restore_registry || return
   else
-    echo "Making the Wine prefix ${WINEPREFIX#"$obrin_root"/} (once, about ten seconds)" >&2
     mkdir "$WINEPREFIX"
-    if ! fill_prefix </dev/null >"$wine_folder/$1.log" 2>&1; then
-      cat "$wine_folder/$1.log" >&2
+    if ! run_step "Making the Wine prefix ${WINEPREFIX#"$obrin_root"/} (once, about 15 s)" "$wine_folder/$1.log" \
+      fill_prefix; then
       end_prefix
-      echo "The Wine prefix ${WINEPREFIX#"$obrin_root"/} could not be made" >&2
       return 1
     fi
   fi
@@ -200,7 +200,7 @@ in_session() {
     # Without the lock: what is started here may outlive this shell for a moment.
     # A desktop that does not come up was seen once in some hundred sessions, on a loaded machine.
     {
-      { start_session || { end_session && start_session; }; } && "$@"
+      { start_desktop || { end_session && start_desktop; }; } && "$@"
     } 9>&-
   )
 }
@@ -209,9 +209,15 @@ session_processes=()
 
 end_session() {
   end_prefix
-  ((${#session_processes[@]} == 0)) || kill "${session_processes[@]}" 2>/dev/null
-  wait
-  session_processes=()
+  if ((${#session_processes[@]} > 0)); then
+    kill "${session_processes[@]}" 2>/dev/null || true
+    wait "${session_processes[@]}" || true
+    session_processes=()
+  fi
+}
+
+start_desktop() {
+  run_step "Starting the hidden desktop" "$WINEPREFIX-desktop.log" start_session
 }
 
 # The display, the window manager and the keeper. Their output goes nowhere: whoever reads this script's output

@@ -1,0 +1,77 @@
+# shellcheck shell=bash
+# Long steps: how far they are, and what they print when they fail. To be sourced.
+
+# Runs a command with its output in a log, and shows the output if it fails: run_step TITLE LOG COMMAND...
+# Says meanwhile how far it is: on a terminal in one line that changes, elsewhere in a line every 20 seconds. Both go
+# to the error output, to keep them out of a script's results.
+run_step() {
+  local title=$1 log=$2 result=0 watcher
+  shift 2
+  mkdir -p "$(dirname "$log")"
+  : >"$log"
+  start_watching "$title" "$log"
+  "$@" </dev/null >"$log" 2>&1 || result=$?
+  stop_watching "$title"
+  if ((result != 0)); then
+    without_progress "$log" | tail -n 200 >&2
+    echo "Failed: $title (${log#"$PWD"/} holds all output)" >&2
+  fi
+  return "$result"
+}
+
+# Shows a step's title, and then how far it is: start_watching TITLE LOG. Sets `watcher`.
+start_watching() {
+  show_status "$1"
+  watch_step "$1" "$2" $BASHPID &
+  watcher=$!
+}
+
+stop_watching() {
+  kill "$watcher" 2>/dev/null || true
+  wait "$watcher" 2>/dev/null || true
+  if [[ -t 2 ]]; then
+    show_status "$1"
+    echo >&2
+  fi
+}
+
+# Lives as long as the shell that runs the step: watch_step TITLE LOG SHELL
+watch_step() {
+  local start=$SECONDS interval=20 next progress
+  [[ ! -t 2 ]] || interval=1
+  next=$((start + interval))
+  # Sleep has no hold on this script's output: who reads that through a pipe would wait for it.
+  while sleep 1 >/dev/null 2>&1 && kill -0 "$3" 2>/dev/null; do
+    ((SECONDS >= next)) || continue
+    next=$((SECONDS + interval))
+    progress=$(progress_in "$2")
+    show_status "$1: ${progress:-$((SECONDS - start)) s}"
+  done
+}
+
+# On a terminal in the current line, which it replaces.
+show_status() {
+  if [[ -t 2 ]]; then
+    printf '\r\e[K%.79s' "$1" >&2
+  else
+    echo "$1" >&2
+  fi
+}
+
+# How far the command is that writes this log; nothing if the log does not say. In this order: ninja (and loops of
+# ours that print the same), ctest with its count of failures, and apt-get, which first downloads and then installs.
+progress_in() {
+  local progress failures
+  progress=$(sed -n -E -e 's|^\[([0-9]+)/([0-9]+)\] .*|\1 of \2|p' \
+    -e 's|^ *([0-9]+)/([0-9]+) Test +#.*|\1 of \2|p' \
+    -e 's|^dlstatus:[^:]*:([0-9]+).*|\1 % downloaded|p' \
+    -e 's|^pmstatus:[^:]*:([0-9]+).*|\1 % installed|p' "$1" | tail -n 1)
+  failures=$(grep -c -E '^ *[0-9]+/[0-9]+ Test +#.*\*\*\*' "$1")
+  ((failures == 0)) || progress+=", $failures failed"
+  echo "$progress"
+}
+
+# The log without the lines that only say how far the command is.
+without_progress() {
+  grep -v -E '^\[[0-9]+/[0-9]+\] |^ +Start +[0-9]+: | +Passed +[0-9.]+ sec$|^(dl|pm)status:' "$1" || true
+}
