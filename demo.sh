@@ -140,7 +140,7 @@ take_picture() {
     wait_until 10 menu_has_size || give_up "The menu did not take the size $size" || return
   fi
   if [[ -n $script ]]; then
-    bash "$script" || give_up "$script failed" || return
+    limited 60 bash "$script" || give_up "$script failed" || return
   fi
   wait_until 10 screen_is_still || echo "The screen does not come to rest; taking the picture all the same" >&2
   # Menus are windows of their own and may stick out: everything on the empty screen belongs to the picture.

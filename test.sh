@@ -44,13 +44,20 @@ summary=()
 
 # Runs the tests of a preset: run_tests PRESET [in_session PREFIX]
 run_tests() {
-  local preset=$1 log=build/log/test-$1.txt jobs=1
+  local preset=$1 log=build/log/test-$1.txt
   shift
-  # Windows tests share one desktop: one at a time.
-  [[ $preset != native ]] || jobs=$(nproc)
-  "$@" run_step "Testing $preset" "$log" ctest --test-dir "build/$preset" --output-on-failure --no-tests=error \
-    --timeout 120 -j"$jobs" || failed+=("tests of $preset")
+  "$@" run_step "Testing $preset" "$log" run_ctest "$preset" "$log" || failed+=("tests of $preset")
   summary+=("$preset:" "$(sed -n '/ tests passed, /,$p' "$log")")
+}
+
+# run_ctest PRESET LOG
+run_ctest() {
+  local jobs=1 result=0
+  # Windows tests share one desktop: one at a time.
+  [[ $1 != native ]] || jobs=$(nproc)
+  limited 1800 ctest --test-dir "build/$1" --output-on-failure --no-tests=error --timeout 120 -j"$jobs" || result=$?
+  ((result != 124)) || echo "The last test that began: $(sed -n 's/^ *Start *[0-9]*: //p' "$2" | tail -n 1)"
+  return "$result"
 }
 
 # Runs the archive of the tests in a new prefix, and looks that it leaves the prefix as it was.
@@ -69,16 +76,22 @@ unpack_and_run() {
   mkdir "$folder"
   (cd "$folder" && cmake -E tar xf "$obrin_root"/dist/ObrinTests-*-x64.zip) || return
   # A workstation that remembers a system.
-  run_wine reg add "$key" /v LastSystem /d 'A b.mnu' /f
-  run_wine reg add "$key\\Menu" /v LastSystem /d UB /f
-  before=$(run_wine reg query "$key" /s)
-  timeout 900 "$WINELOADER" cmd /c 'C:\ObrinTests\run-tests.cmd' || result=$?
-  if [[ $(run_wine reg query "$key" /s) != "$before" || -n $(find "$WINEPREFIX" -name 'ObrinTests-*') ]]; then
-    echo "run-tests.cmd has not put everything back"
+  run_wine_for 60 reg add "$key" /v LastSystem /d 'A b.mnu' /f || return
+  run_wine_for 60 reg add "$key\\Menu" /v LastSystem /d UB /f || return
+  before=$(run_wine_for 60 reg query "$key" /s) || return
+  run_wine_for 900 cmd /c 'C:\ObrinTests\run-tests.cmd' || result=$?
+  if ((result == 124)); then
+    echo "The last test that began: $(find "$WINEPREFIX/drive_c" -path '*/ObrinTests-*/log.txt' -exec cat {} + |
+      sed -n 's/^\[ RUN  *\] //p' | tail -n 1)"
+  elif [[ $(run_wine_for 60 reg query "$key" /s) != "$before" ]]; then
+    echo "run-tests.cmd has not put the registry back"
+    result=1
+  elif [[ -n $(find "$WINEPREFIX" -name 'ObrinTests-*') ]]; then
+    echo "run-tests.cmd has left its folder behind"
     result=1
   fi
   # The report without the tests that passed.
-  ((result == 0)) || grep -v -E '^\[ +(RUN|OK) +\]' "$folder/report.txt"
+  ((result == 0)) || tr -d '\r' <"$folder/report.txt" | grep -v -E '^$|^\[( RUN |  +OK |--|==|  PASSED )'
   return "$result"
 }
 
@@ -101,8 +114,8 @@ run_fuzz_targets() {
     log=$folder/log.txt
     mkdir -p "$folder/corpus"
     [[ ! -d fuzz/seeds/$name ]] || cp -r "fuzz/seeds/$name/." "$folder/corpus"
-    run_step "Fuzzing $name ($share s)" "$log" "$target" -max_total_time="$share" -rss_limit_mb=2048 -timeout=10 \
-      -print_final_stats=1 -artifact_prefix="$folder/" "$folder/corpus" ||
+    run_step "Fuzzing $name ($share s)" "$log" limited $((share + 300)) "$target" -max_total_time="$share" \
+      -rss_limit_mb=2048 -timeout=10 -print_final_stats=1 -artifact_prefix="$folder/" "$folder/corpus" ||
       failed+=("fuzz target $name (its input is in $folder)")
     runs=$(sed -n 's/^stat::number_of_executed_units: *//p' "$log")
     total=$((total + ${runs:-0}))

@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# Long steps: how far they are, and what they print when they fail. To be sourced.
+# Long steps: how far they are, what they print when they fail, and their time limits. To be sourced.
 
 # Runs a command with its output in a log, and shows the output if it fails: run_step TITLE LOG COMMAND...
 # Says meanwhile how far it is: on a terminal in one line that changes, elsewhere in a line every 20 seconds. Both go
@@ -74,4 +74,18 @@ progress_in() {
 # The log without the lines that only say how far the command is.
 without_progress() {
   grep -v -E '^\[[0-9]+/[0-9]+\] |^ +Start +[0-9]+: | +Passed +[0-9.]+ sec$|^(dl|pm)status:' "$1" || true
+}
+
+# Ends a program that takes longer than it should: limited SECONDS PROGRAM ARGUMENT...
+# Returns 124 for such a program. Ctrl-C still reaches the program. Other programs that it has started go on.
+limited() {
+  local seconds=$1 result=0
+  shift
+  timeout --foreground --kill-after=10 "$seconds" "$@" || result=$?
+  # 137: it had to be killed.
+  if ((result == 124 || result == 137)); then
+    echo "Ended after $seconds s, its time limit: $*" >&2
+    result=124
+  fi
+  return "$result"
 }

@@ -29,6 +29,11 @@ run_wine() {
   "$WINELOADER" "$@"
 }
 
+# For programs that are expected to end by themselves: run_wine_for SECONDS PROGRAM ARGUMENT...
+run_wine_for() {
+  limited "$1" "$WINELOADER" "${@:2}"
+}
+
 # The Windows form of an absolute path: drive Z is the root folder in every prefix.
 windows_path() {
   printf '%s\n' "Z:${1//\//\\}"
@@ -36,8 +41,8 @@ windows_path() {
 
 # Ends everything that runs in the current prefix. These prefixes are this checkout's own.
 end_prefix() {
-  "$WINESERVER" -k || true
-  timeout 20 "$WINESERVER" -w || true
+  limited 30 "$WINESERVER" -k || true
+  limited 30 "$WINESERVER" -w || true
 } </dev/null >/dev/null 2>&1
 
 # Polls until the command succeeds; fails after $1 seconds.
@@ -68,9 +73,9 @@ make_wine32() {
     -o Dir::Cache="$apt_folder/cache" -o APT::Architecture=i386 -o APT::Architectures=i386
     -o APT::Sandbox::User="$(id -un)" -o Debug::NoLocking=1 -o Acquire::Retries=3 -o APT::Status-Fd=1)
   # The packages may still be had when the lists of one source cannot.
-  run_step "Reading the lists of 32-bit packages" "$wine_folder/root32-lists.log" "${apt[@]}" update || true
+  run_step "Reading the lists of 32-bit packages" "$wine_folder/root32-lists.log" limited 600 "${apt[@]}" update || true
   if ! run_step "Downloading the 32-bit Wine (once: 145 MB to download, 730 MB on disk)" "$wine_folder/root32.log" \
-    "${apt[@]}" install -y --no-install-recommends --download-only "wine32=$version" "libwine=$version" \
+    limited 1800 "${apt[@]}" install -y --no-install-recommends --download-only "wine32=$version" "libwine=$version" \
     libxrender1 libxcursor1 libxrandr2 libxfixes3 libxi6 libxcomposite1 libxinerama1 ||
     ! run_step "Unpacking the 32-bit Wine" "$wine_folder/root32-unpack.log" \
       unpack_wine32 "$apt_folder/cache/archives"; then
@@ -148,7 +153,7 @@ restore_registry() {
 
 fill_prefix() {
   # Without a display no window of Wine's appears on the developer's.
-  env -u DISPLAY "$WINELOADER" wineboot -i || return
+  (unset DISPLAY && run_wine_for 300 wineboot -i) || return
   # Without these in the prefix itself every dialog falls back to one wide font.
   cp /usr/share/wine/fonts/*.{ttf,fon} "$WINEPREFIX/drive_c/windows/Fonts/" || return
   # Fonts that Windows has, and the ones here that stand in for them.
@@ -165,7 +170,7 @@ REGEDIT4
 [HKEY_CURRENT_USER\Control Panel\Colors]
 "HotTrackingColor"="0 102 204"
 REG
-  env -u DISPLAY "$WINELOADER" regedit /S 'C:\prefix.reg' || return
+  (unset DISPLAY && run_wine_for 60 regedit /S 'C:\prefix.reg') || return
   # Ending the server writes the registry to disk.
   end_prefix
   grep -q 'Comic Neue' "$WINEPREFIX/user.reg" || return
@@ -193,7 +198,7 @@ in_session() {
     exec 9>"$WINEPREFIX.lock"
     if ! flock -n 9; then
       echo "Waiting for another run in ${WINEPREFIX#"$obrin_root"/} to end" >&2
-      flock 9
+      flock -w 3600 9 || return
     fi
     trap end_session EXIT
     export OBRIN_SESSION=$prefix
@@ -211,9 +216,14 @@ end_session() {
   end_prefix
   if ((${#session_processes[@]} > 0)); then
     kill "${session_processes[@]}" 2>/dev/null || true
+    wait_until 10 session_processes_ended || kill -KILL "${session_processes[@]}" 2>/dev/null || true
     wait "${session_processes[@]}" || true
     session_processes=()
   fi
+}
+
+session_processes_ended() {
+  ! kill -0 "${session_processes[@]}"
 }
 
 start_desktop() {
@@ -242,7 +252,7 @@ start_session() {
   session_processes+=($!)
   # Wine ends its desktop and service processes when the last program with a window ends, and starting them for
   # each test costs seconds, with the test runner's pipe in their hands. So one minimised program stays.
-  if ! wait_until 30 window_manager_runs || ! run_wine start /min winemine </dev/null >/dev/null 2>&1 ||
+  if ! wait_until 30 window_manager_runs || ! run_wine_for 60 start /min winemine </dev/null >/dev/null 2>&1 ||
     ! wait_until 30 keeper_stays; then
     echo "The hidden desktop did not start" >&2
     return 1
@@ -250,11 +260,11 @@ start_session() {
 }
 
 window_manager_runs() {
-  xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'
+  timeout 5 xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'
 }
 
 # The window manager has its window: with it stand the desktop and the services, which would otherwise be started by
 # the first test.
 keeper_stays() {
-  xprop -root _NET_CLIENT_LIST | grep -q 'window id # 0x'
+  timeout 5 xprop -root _NET_CLIENT_LIST | grep -q 'window id # 0x'
 }
