@@ -6,46 +6,105 @@ source scripts/packages.sh
 
 usage() {
   cat <<'TEXT'
-usage: ./package.sh [--tests]
-  Makes dist/ObrinMenu-VERSION-x64.zip and -x86.zip, and SHA256SUMS beside them. The same sources make the same bytes.
-  --tests  makes dist/ObrinTests-VERSION-x64.zip instead: the tests for a Windows machine, begun by run-tests.cmd
+usage: ./package.sh [--sign FILE.pfx [--timestamp URL]] [--to FOLDER]
+  Makes ObrinMenu-VERSION-x64.zip and -x86.zip, and SHA256SUMS beside them. The same sources make the same bytes,
+  unless they are signed.
+  --sign FILE.pfx  signs the programs and the library with the certificate and key in this file, whose password
+                   stands in the environment variable OBRIN_SIGN_PASSWORD
+  --timestamp URL  has a time-stamp server (RFC 3161) confirm when: the signature then outlives the certificate
+  --to FOLDER      puts the archives there (dist), in place of those of other versions
+usage: ./package.sh --tests [--to FOLDER]
+  Makes ObrinTests-VERSION-x64.zip: the tests for a Windows machine, started by run-tests.cmd.
+Exit code: 0 made, 1 something failed and FOLDER is as it was, 64 wrong arguments.
 TEXT
 }
 
 component=menu
 presets=(x64 x86)
-case "$# ${1-}" in
-  '0 ') ;;
-  '1 --tests')
-    component=tests
-    presets=(x64)
-    ;;
-  '1 --help') usage; exit 0 ;;
-  *) usage >&2; exit 64 ;;
-esac
-
-# The time of the sources for every file: later ones are newer, as tools that copy what is newer expect. In one time
-# zone, as archives hold local time.
-SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct)}
-export SOURCE_DATE_EPOCH TZ=UTC
-
-install_packages "${build_packages[@]}" "${guide_packages[@]}"
-mkdir -p dist
-# Of another version: SHA256SUMS and the test of the archive are about the one that is made here.
-if [[ $component == menu ]]; then rm -f dist/ObrinMenu-*.zip; else rm -f dist/ObrinTests-*.zip; fi
-for preset in "${presets[@]}"; do
-  build_preset "$preset"
-  [[ $component != menu ]] || cmake --build --preset "$preset" --target guide >/dev/null
-  work=build/$preset/package
-  rm -rf "$work"
-  if ! cpack --config "build/$preset/CPackConfig.cmake" -B "$work" -D CPACK_COMPONENTS_ALL="$component" \
-    >"build/log/package-$preset.txt" 2>&1; then
-    cat "build/log/package-$preset.txt" >&2
+folder=dist
+certificate=''
+timestamp=()
+while (($# > 0)); do
+  case $1 in
+    --tests)
+      component=tests
+      presets=(x64)
+      shift
+      continue
+      ;;
+    --sign) certificate=${2:?--sign needs a file} ;;
+    --timestamp) timestamp=(-ts "${2:?--timestamp needs a URL}") ;;
+    --to) folder=${2:?--to needs a folder} ;;
+    --help) usage; exit 0 ;;
+    *) usage >&2; exit 64 ;;
+  esac
+  shift 2
+done
+if [[ $component == tests && -n $certificate || -z $certificate && ${#timestamp[@]} -gt 0 ]]; then
+  usage >&2
+  exit 64
+fi
+if [[ -n $certificate ]]; then
+  if [[ ! -f $certificate || ! -r $certificate ]]; then
+    echo "--sign: there is no file $certificate to read" >&2
     exit 1
   fi
-  for archive in "$work"/*.zip; do
-    mv "$archive" dist/
-    echo "Made dist/${archive##*/}"
+  if [[ -z ${OBRIN_SIGN_PASSWORD+set} ]]; then
+    echo "--sign: put the password of $certificate into the environment variable OBRIN_SIGN_PASSWORD" >&2
+    exit 1
+  fi
+fi
+
+# Signs the images in a folder. Last of all, as a signature is for these very bytes.
+sign_images() {
+  local image
+  for image in "$1"/{ObrinMenu.exe,ObrinCheck.exe,Corvel.dll}; do
+    echo "Signing ${image##*/}"
+    mv "$image" "$image.unsigned" || return
+    if ! limited 120 osslsigncode sign -pkcs12 "$certificate" -readpass <(printf '%s' "$OBRIN_SIGN_PASSWORD") \
+      -h sha256 -n 'Obrin menu' "${timestamp[@]}" -in "$image.unsigned" -out "$image"; then
+      echo "Could not sign ${image##*/} with $certificate and the password in OBRIN_SIGN_PASSWORD: see above"
+      return 1
+    fi
+    chmod --reference="$image.unsigned" "$image" && rm "$image.unsigned" || return
   done
+}
+
+# Makes an archive without folders of the built preset: make_archive PRESET ARCHIVE
+make_archive() {
+  local files
+  files=$(dirname "$2")/files
+  [[ $component != menu ]] || cmake --build --preset "$1" --target guide || return
+  cmake --install "build/$1" --component "$component" --prefix "$files" || return
+  [[ -z $certificate ]] || sign_images "$files" || return
+  (cd "$files" && cmake -E tar cf "$2" --format=zip -- *)
+}
+
+# CMake gives this time to every file in an archive: later sources have a later one, as tools that copy what is newer
+# expect.
+SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct)}
+# Archives hold local time, and their files in the order of the locale: one zone and one order.
+export SOURCE_DATE_EPOCH TZ=UTC LC_ALL=C
+
+install_packages "${build_packages[@]}" "${guide_packages[@]}"
+[[ -z $certificate ]] || install_packages "${sign_packages[@]}"
+
+declare -A names=([menu]=ObrinMenu [tests]=ObrinTests)
+name=${names[$component]}
+archives=()
+for preset in "${presets[@]}"; do
+  build_preset "$preset"
+  version=$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' "build/$preset/CMakeCache.txt")
+  work=$PWD/build/$preset/package
+  rm -rf "$work"
+  archives+=("$work/$name-$version-$preset.zip")
+  run_step "Packing $preset" "build/log/package-$preset.txt" make_archive "$preset" "${archives[-1]}"
 done
-(cd dist && sha256sum -- *.zip >SHA256SUMS)
+
+mkdir -p "$folder"
+rm -f "$folder/$name"-*.zip
+for archive in "${archives[@]}"; do
+  mv "$archive" "$folder"
+  echo "Made $folder/${archive##*/}"
+done
+(cd "$folder" && sha256sum -- *.zip >SHA256SUMS)

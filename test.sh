@@ -9,7 +9,7 @@ usage() {
   cat <<'TEXT'
 usage: ./test.sh [--all] [--fuzz SECONDS]
   Builds the presets native, x64 and x86. Runs the tests of native (the rules, with sanitizers) and x64 (under Wine),
-  and those of x64 once more out of their archive, as on a Windows machine.
+  and those of x64 once more out of their archive, as on a Windows machine. Makes signed archives and verifies them.
   --all           also the tests of x86, and --fuzz 20
   --fuzz SECONDS  run the fuzz targets, SECONDS in all
 Exit code: 0 everything passed, 1 something failed, 2 nothing failed but a layer could not be run, 64 wrong arguments.
@@ -95,6 +95,45 @@ unpack_and_run() {
   return "$result"
 }
 
+# Makes the archives signed, apart from the ones to hand out, and looks at the signature of every image in them.
+run_signing() {
+  if run_step "Testing signed archives" build/log/test-signing.txt sign_and_verify; then
+    summary+=("signed archives: 6 images signed, 6 verified")
+  else
+    failed+=("signed archives")
+  fi
+}
+
+sign_and_verify() {
+  local folder=build/signing preset image before
+  rm -rf "$folder"
+  mkdir -p "$folder"
+  openssl req -x509 -newkey rsa:2048 -nodes -subj '/CN=Test of the Obrin menu' -days 2 \
+    -addext keyUsage=digitalSignature -addext extendedKeyUsage=codeSigning \
+    -keyout "$folder/key.pem" -out "$folder/certificate.pem" &&
+    openssl pkcs12 -export -inkey "$folder/key.pem" -in "$folder/certificate.pem" -passout pass:right \
+      -out "$folder/test.pfx" &&
+    OBRIN_SIGN_PASSWORD=right ./package.sh --sign "$folder/test.pfx" --to "$folder/dist" || return
+  for preset in x64 x86; do
+    mkdir "$folder/$preset" &&
+      (cd "$folder/$preset" && cmake -E tar xf ../dist/ObrinMenu-*-"$preset".zip) || return
+    for image in ObrinMenu.exe ObrinCheck.exe Corvel.dll; do
+      limited 60 osslsigncode verify -CAfile "$folder/certificate.pem" -in "$folder/$preset/$image" || return
+    done
+  done
+
+  before=$(ls -l --full-time "$folder/dist")
+  if OBRIN_SIGN_PASSWORD=wrong ./package.sh --sign "$folder/test.pfx" --to "$folder/dist" ||
+    OBRIN_SIGN_PASSWORD=right ./package.sh --sign "$folder/missing.pfx" --to "$folder/dist"; then
+    echo "package.sh has signed with a wrong password or without a certificate"
+    return 1
+  fi
+  if [[ $(ls -l --full-time "$folder/dist") != "$before" ]]; then
+    echo "package.sh has changed the folder of the archives, although it could not sign"
+    return 1
+  fi
+}
+
 # Runs every fuzz target for its share of the time, on a copy of its seeds that grows from run to run.
 run_fuzz_targets() {
   local -a targets=()
@@ -123,7 +162,8 @@ run_fuzz_targets() {
   summary+=("fuzz: ${#targets[@]} targets, $total inputs")
 }
 
-install_packages "${build_packages[@]}" "${native_packages[@]}" "${wine_packages[@]}" "${font_packages[@]}"
+install_packages "${build_packages[@]}" "${native_packages[@]}" "${wine_packages[@]}" "${font_packages[@]}" \
+  "${guide_packages[@]}" "${sign_packages[@]}" "${sign_test_packages[@]}"
 
 built=()
 for preset in native x64 x86; do
@@ -152,6 +192,9 @@ for preset in "${built[@]}"; do
       ;;
   esac
 done
+if [[ " ${built[*]} " == *' x64 x86 '* ]]; then
+  run_signing
+fi
 if ((fuzz_seconds > 0)) && [[ " ${built[*]} " == *' native '* ]]; then
   run_fuzz_targets
 fi

@@ -1,35 +1,10 @@
 # What goes into the archives of ./package.sh: component `menu`, for workstations, and component `tests`, for trying
-# the programs on a Windows machine. Flat: each is unpacked into the folder in which it is used.
-function(put_into component)
-  foreach(target IN LISTS ARGN)
-    if(TARGET ${target})
-      install(TARGETS ${target} RUNTIME DESTINATION . COMPONENT ${component})
-    endif()
-  endforeach()
-endfunction()
-
-put_into(menu ObrinMenu Corvel ObrinCheck)
+# the programs on a Windows machine. Without folders: an archive is unpacked into the folder in which it is used.
+install(TARGETS ObrinMenu ObrinCheck Corvel RUNTIME DESTINATION . COMPONENT menu)
 install(FILES ${GUIDE} DESTINATION . COMPONENT menu)
 
 if(BUILD_TESTING)
-  put_into(tests ObrinMenu Corvel ObrinCheck Fenn rules_tests windows_tests end_to_end_tests)
+  install(TARGETS ObrinMenu ObrinCheck Corvel Fenn rules_tests windows_tests end_to_end_tests
+    RUNTIME DESTINATION . COMPONENT tests)
   install(FILES ${CMAKE_SOURCE_DIR}/tests/run-tests.cmd DESTINATION . COMPONENT tests)
 endif()
-
-set(CPACK_GENERATOR ZIP)
-set(CPACK_PACKAGE_VENDOR "Obrin Software Systems")
-set(CPACK_INSTALL_CMAKE_PROJECTS ${CMAKE_BINARY_DIR} ${PROJECT_NAME} ALL /)
-set(CPACK_ARCHIVE_COMPONENT_INSTALL ON)
-set(CPACK_COMPONENTS_GROUPING IGNORE)
-set(CPACK_INCLUDE_TOPLEVEL_DIRECTORY OFF)
-set(CPACK_COMPONENT_INCLUDE_TOPLEVEL_DIRECTORY OFF)
-if(CMAKE_SIZEOF_VOID_P EQUAL 8)
-  set(bits x64)
-else()
-  set(bits x86)
-endif()
-set(CPACK_ARCHIVE_MENU_FILE_NAME ObrinMenu-${PROJECT_VERSION}-${bits})
-set(CPACK_ARCHIVE_TESTS_FILE_NAME ObrinTests-${PROJECT_VERSION}-${bits})
-# One time for all entries, so that the same contents make the same archive.
-set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/PackageTimes.cmake)
-include(CPack)

@@ -13,6 +13,9 @@ native_packages=(clang libclang-rt-dev clang-format)
 tidy_packages=(clang-tidy)
 # Makes the administrator's guide from its text.
 guide_packages=(cmark-gfm)
+# Signs programs; openssl makes the certificate that the test of it signs with.
+sign_packages=(osslsigncode)
+sign_test_packages=(openssl)
 # libc6-i386 lets 64-bit Linux start the 32-bit Wine. A window manager, because without one every window that a
 # program shows costs two seconds; x11-utils to ask it things; imagemagick takes the pictures.
 wine_packages=(wine wine64 libc6-i386 xvfb openbox xdotool x11-utils imagemagick)
