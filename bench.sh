@@ -26,5 +26,5 @@ show_rows() {
 }
 
 install_packages "${build_packages[@]}" "${wine_packages[@]}" "${font_packages[@]}"
-build_preset x64
+build_preset x64 bench
 in_session x64 measure "$@"

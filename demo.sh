@@ -155,7 +155,7 @@ take_picture() {
 }
 
 install_packages "${build_packages[@]}" "${wine_packages[@]}" "${font_packages[@]}"
-build_preset x64
+build_preset x64 ObrinMenu Corvel Fenn
 
 if [[ -z $picture ]]; then
   show

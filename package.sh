@@ -20,6 +20,7 @@ TEXT
 }
 
 component=menu
+targets=(ObrinMenu ObrinCheck Corvel)
 presets=(x64 x86)
 folder=dist
 certificate=''
@@ -28,6 +29,7 @@ while (($# > 0)); do
   case $1 in
     --tests)
       component=tests
+      targets=()
       presets=(x64)
       shift
       continue
@@ -93,7 +95,7 @@ declare -A names=([menu]=ObrinMenu [tests]=ObrinTests)
 name=${names[$component]}
 archives=()
 for preset in "${presets[@]}"; do
-  build_preset "$preset"
+  build_preset "$preset" "${targets[@]}"
   version=$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' "build/$preset/CMakeCache.txt")
   work=$PWD/build/$preset/package
   rm -rf "$work"

@@ -44,8 +44,8 @@ install_packages() {
     echo "Trying with the lists of packages at hand" >&2
   echo "Missing packages: ${missing[*]}" >&2
   run_step "Installing packages ($(size_of_packages "${missing[@]}"))" build/log/packages.txt \
-    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -o Acquire::Retries=3 -o Dpkg::Use-Pty=0 \
-    -o APT::Status-Fd=1 install -y --no-install-recommends "${missing[@]}"
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive "${apt_get[@]}" -qq -o Acquire::Retries=3 \
+    -o Dpkg::Use-Pty=0 install -y --no-install-recommends "${missing[@]}"
 }
 
 # What installing packages comes to, with those that they need: "182, 281 MB to download, 1,180 MB on disk".
@@ -56,11 +56,12 @@ size_of_packages() {
     -e 's/^After this operation, (.*) of additional disk space will be used\.$/, \1 on disk/p' | tr -d '\n'
 }
 
-# Configures and builds a preset. ninja itself, as it ends its compilers when its own time is over.
+# Configures a preset and builds these targets of it, or all: build_preset PRESET [TARGET...]
 build_preset() {
-  run_step "Building $1" "build/log/build-$1.txt" configure_and_build "$1"
+  run_step "Building $1" "build/log/build-$1.txt" configure_and_build "$@"
 }
 
 configure_and_build() {
-  cmake --preset "$1" && limited 3600 ninja -C "build/$1"
+  # Not "cmake --build", which does not end the compilers when it is ended itself.
+  cmake --preset "$1" && limited 3600 ninja -C "build/$1" "${@:2}"
 }

@@ -58,6 +58,10 @@ show_status() {
   fi
 }
 
+# apt-get with lines in its output that say how far it is. Under a second number for the output, as apt-get closes the
+# one that it writes them to for the packages' own scripts.
+apt_get=(bash -c 'exec apt-get -o APT::Status-Fd=3 "$@" 3>&1' apt-get)
+
 # How far the command is that writes this log; nothing if the log does not say. In this order: ninja (and loops of
 # ours that print the same), ctest with its count of failures, and apt-get, which first downloads and then installs.
 progress_in() {

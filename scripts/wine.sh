@@ -69,9 +69,9 @@ make_wine32() {
   : >"$apt_folder/status"
   # The system's own package sources and keys, but lists, downloads and an empty package database apart from the
   # system's: nothing is installed, no rights are needed.
-  local -a apt=(apt-get -q -o Dir::State="$apt_folder/state" -o Dir::State::status="$apt_folder/status"
+  local -a apt=("${apt_get[@]}" -q -o Dir::State="$apt_folder/state" -o Dir::State::status="$apt_folder/status"
     -o Dir::Cache="$apt_folder/cache" -o APT::Architecture=i386 -o APT::Architectures=i386
-    -o APT::Sandbox::User="$(id -un)" -o Debug::NoLocking=1 -o Acquire::Retries=3 -o APT::Status-Fd=1)
+    -o APT::Sandbox::User="$(id -un)" -o Debug::NoLocking=1 -o Acquire::Retries=3)
   # The packages may still be had when the lists of one source cannot.
   run_step "Reading the lists of 32-bit packages" "$wine_folder/root32-lists.log" limited 600 "${apt[@]}" update || true
   if ! run_step "Downloading the 32-bit Wine (once: 145 MB to download, 730 MB on disk)" "$wine_folder/root32.log" \
