@@ -6,9 +6,10 @@ source scripts/packages.sh
 source scripts/wine.sh
 
 measure() {
-  # For one measurement Wine lists the calls of a program there.
+  # In one measurement Wine writes the calls of a program to this file, and the benchmark program counts them.
   local result=0 trace=$PWD/build/bench-trace.txt
   start_watching "Measuring (everything: about four minutes)" /dev/null
+  # shellcheck disable=SC2094
   OBRIN_TRACE=$(windows_path "$trace") scripts/run-windows-program.sh build/x64/bin/bench.exe "$@" 2>"$trace" |
     show_rows || result=$?
   stop_watching "Measured"
@@ -16,7 +17,7 @@ measure() {
   return "$result"
 }
 
-# Each row as it comes, on a terminal in place of the line that says how long it takes.
+# Prints each row as it comes; on a terminal it takes the place of the line that says how long it has been.
 show_rows() {
   local row
   while IFS= read -r row; do

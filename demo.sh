@@ -9,16 +9,16 @@ usage() {
   cat <<'TEXT'
 usage: ./demo.sh
   Builds the 64-bit programs, makes a demonstration installation below build/demo and starts the menu in it, on
-  this desktop. What is done there is kept for the next time; remove build/demo to start over.
+  this desktop. The installation keeps what the programs write; remove build/demo to start over.
 usage: ./demo.sh --screenshot FILE [--dpi N] [--size WxH] [--do SCRIPT]
                  [--without-host | --faulty-menu]
-  Does the same as a new user on a hidden desktop, takes a picture of what is on the screen and closes the menu.
+  Does the same as a new user on a hidden desktop, takes a picture of the screen and closes the menu.
   --dpi N      the screen's resolution as Windows programs see it (96)
   --size WxH   the menu window's size in pixels, without its frame
-  --do SCRIPT  bash script to run before the picture, to open a menu or a dialog; xdotool reaches the display, and
-               MENU_WINDOW is the menu's window
-  --without-host  in an installation whose host is missing: the notice that the menu waits for it
-  --faulty-menu   in an installation with a fault in a menu file: the box that the menu ends with
+  --do SCRIPT  bash script to run before the picture, which can open a menu or a dialog with xdotool; MENU_WINDOW is
+               the menu's window
+  --without-host  in an installation without the host: takes the notice that the menu waits for it
+  --faulty-menu   in an installation with a fault in a menu file: takes the box that the menu ends with
 TEXT
 }
 
@@ -53,7 +53,7 @@ if [[ -z $picture && -z ${DISPLAY-} ]]; then
   exit 1
 fi
 
-# Makes the installation below build/$1 and the environment of a workstation that uses it.
+# Makes the installation below build/$1, and exports the environment of a workstation that uses it.
 make_installation() {
   local folder=$obrin_root/build/$1
   mkdir -p "$folder/workstation"/{Tessel,Temp}
@@ -74,11 +74,11 @@ show() {
   trap end_prefix EXIT
   echo "Starting the menu" >&2
   (cd build/demo/host && run_wine ./ObrinMenu.exe) 9>&- || return
-  # The host that the menu started ends by itself.
+  # The menu has started the host, which ends by itself soon after.
   timeout 10 "$WINESERVER" -w 9>&- || true
 }
 
-# The first visible window with this title.
+# Prints the first visible window with this title.
 window_titled() {
   xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | head -n 1 | grep .
 }
@@ -87,8 +87,8 @@ question_is_gone() {
   ! window_titled 'Please Select a WSID'
 }
 
-# Answers the question for a workstation number until the menu is up. The box is seen before it takes keys, so the
-# answer may have to be given again.
+# Answers the question for a workstation number if it is there, and succeeds when the menu is there. To be repeated:
+# the question's box appears before it takes keys, so the answer may be lost.
 reach_menu() {
   local box
   if box=$(window_titled 'Please Select a WSID'); then
@@ -103,7 +103,7 @@ menu_has_size() {
   [[ $(xdotool getwindowgeometry --shell "$MENU_WINDOW") == *"WIDTH=${size%x*}"$'\n'"HEIGHT=${size#*x}"$'\n'* ]]
 }
 
-# Two looks at the screen, a moment apart, show the same.
+# Two pictures of the screen, a moment apart, are the same.
 screen_is_still() {
   local before
   before=$(import -silent -window root rgb:- | sha256sum)
@@ -116,13 +116,13 @@ menu_has_ended() {
 }
 
 close_menu() {
-  # What the script left open takes the keys otherwise.
+  # A dialog or a menu that the script has opened would take the keys.
   [[ -z $script ]] || xdotool key Escape key Escape key Escape
   xdotool windowactivate "$MENU_WINDOW" key alt+F4
   wait_until 5 menu_has_ended
 }
 
-# Says what is wrong and leaves the whole screen as a picture.
+# Says what is wrong, and saves a picture of the whole screen.
 give_up() {
   import -silent -window root build/screenshot/failure.png
   echo "$1: see build/screenshot/failure.png" >&2
@@ -142,8 +142,8 @@ take_picture() {
   if [[ -n $script ]]; then
     limited 60 bash "$script" || give_up "$script failed" || return
   fi
-  wait_until 10 screen_is_still || echo "The screen does not come to rest; taking the picture all the same" >&2
-  # Menus are windows of their own and may stick out: everything on the empty screen belongs to the picture.
+  wait_until 10 screen_is_still || echo "The screen keeps changing; taking the picture all the same"
+  # A popup menu is a window of its own and may reach beyond the menu's. The screen shows nothing else.
   import -silent -window root -trim +repage "$picture" || return
   wait_until 20 close_menu || give_up "The menu does not close" || return
   local code=0
@@ -173,14 +173,14 @@ else
       first_window='Waiting for Fenn'
       ;;
     --faulty-menu)
-      # In every file, as any of them may be the first.
+      # In every menu file, as the menu may open any of them first.
       sed -i '2s/^/>>/' build/screenshot/host/*.mnu
       first_window=ObrinMenu
       exit_code=1
       ;;
   esac
   make_prefix screenshot
-  # A share's drive, for the folders that pictures show.
+  # Pictures show folders on this drive, as on a share.
   ln -sfn "$obrin_root/build/screenshot" "$WINEPREFIX/dosdevices/s:"
   printf '\n[Control Panel\\\\Desktop]\n"LogPixels"=dword:%08x\n' "$dpi" >>"$WINEPREFIX/pristine/user.reg"
   mkdir -p "$(dirname "$picture")"

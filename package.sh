@@ -1,5 +1,5 @@
 #!/bin/bash
-# Makes the archives to hand out. See usage below.
+# Makes the archives for workstations and for testers. See usage below.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 source scripts/packages.sh
@@ -57,7 +57,7 @@ if [[ -n $certificate ]]; then
   fi
 fi
 
-# Signs the images in a folder. Last of all, as a signature is for these very bytes.
+# Signs the images in a folder. Nothing may change them afterwards.
 sign_images() {
   local image
   for image in "$1"/{ObrinMenu.exe,ObrinCheck.exe,Corvel.dll}; do

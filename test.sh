@@ -12,7 +12,7 @@ usage: ./test.sh [--all] [--fuzz SECONDS]
   and those of x64 once more out of their archive, as on a Windows machine. Makes signed archives and verifies them.
   --all           also the tests of x86, and --fuzz 20
   --fuzz SECONDS  run the fuzz targets, SECONDS in all
-Exit code: 0 everything passed, 1 something failed, 2 nothing failed but a layer could not be run, 64 wrong arguments.
+Exit code: 0 everything passed, 1 something failed, 2 nothing failed but some tests could not run, 64 wrong arguments.
 TEXT
 }
 
@@ -47,13 +47,13 @@ run_tests() {
   local preset=$1 log=build/log/test-$1.txt
   shift
   "$@" run_step "Testing $preset" "$log" run_ctest "$preset" "$log" || failed+=("tests of $preset")
-  summary+=("$preset:" "$(sed -n '/ tests passed, /,$p' "$log")")
+  summary+=("$preset:" "$(sed -n '/ tests passed, /,$p' "$log" | grep . || echo "stopped before the end")")
 }
 
 # run_ctest PRESET LOG
 run_ctest() {
   local jobs=1 result=0
-  # Windows tests share one desktop: one at a time.
+  # Windows tests share one desktop, so they run one at a time.
   [[ $1 != native ]] || jobs=$(nproc)
   limited 1800 ctest --test-dir "build/$1" --output-on-failure --no-tests=error --timeout 120 -j"$jobs" || result=$?
   ((result != 124)) || echo "The last test that began: $(sed -n 's/^ *Start *[0-9]*: //p' "$2" | tail -n 1)"
@@ -75,7 +75,7 @@ unpack_and_run() {
   local folder=$WINEPREFIX/drive_c/ObrinTests key='HKLM\Software\Obrin' before result=0
   mkdir "$folder"
   (cd "$folder" && cmake -E tar xf "$obrin_root"/dist/ObrinTests-*-x64.zip) || return
-  # A workstation that remembers a system.
+  # The workstation remembers a system, as on a machine where the menu has run.
   run_wine_for 60 reg add "$key" /v LastSystem /d 'A b.mnu' /f || return
   run_wine_for 60 reg add "$key\\Menu" /v LastSystem /d UB /f || return
   before=$(run_wine_for 60 reg query "$key" /s) || return
@@ -134,7 +134,7 @@ sign_and_verify() {
   fi
 }
 
-# Runs every fuzz target for its share of the time, on a copy of its seeds that grows from run to run.
+# Runs every fuzz target for its share of the time. It starts with its seeds and with what earlier runs have found.
 run_fuzz_targets() {
   local -a targets=()
   local target name folder log share runs total=0
@@ -187,7 +187,7 @@ for preset in "${built[@]}"; do
       elif (make_prefix x86); then
         run_tests x86 in_session x86
       else
-        missing+=("x86: built, but its tests were NOT RUN, as the 32-bit Wine could not be had")
+        missing+=("x86: built, but its tests were NOT RUN, because there is no 32-bit Wine")
       fi
       ;;
   esac

@@ -1,5 +1,5 @@
-# Flags of every image, and what is done to the images that run from a share.
-# Os: a tenth smaller than with O2, and nothing here is slower for it: the time goes into the calls of Windows.
+# Flags for every image, and the mark of the images that run from a share.
+# -Os makes images a tenth smaller than -O2 and nothing slower: the time goes into the calls of Windows.
 string(REPLACE "-O3" "-Os" CMAKE_CXX_FLAGS_RELEASE "${CMAKE_CXX_FLAGS_RELEASE}")
 
 if(WIN32)
@@ -9,11 +9,11 @@ if(WIN32)
   add_compile_definitions(_WIN32_WINNT=0x0A00 NOMINMAX WIN32_LEAN_AND_MEAN)
   # Static: MinGW's three run-time DLLs are on no workstation. Stripped: symbols double the size.
   add_link_options(-fstack-protector-strong -static -s -Wl,--gc-sections -Wl,--no-insert-timestamp
-    -Wl,--major-subsystem-version,10,--minor-subsystem-version,0) # no older Windows starts it
+    -Wl,--major-subsystem-version,10,--minor-subsystem-version,0) # Windows 10 or later
 
   find_program(GENPEIMG genpeimg)
   if(NOT GENPEIMG)
-    message(WARNING "No genpeimg (of the MinGW-w64 tools): the images are not marked to run from a share")
+    message(WARNING "No genpeimg (one of the MinGW-w64 tools): the images are not marked to run from a share")
   endif()
 
   # Marks the image "copy to swap if run from a network": a lost connection does not end a running menu.

@@ -1,15 +1,14 @@
 #!/bin/bash
-# Builds the demonstration installation: a folder from which start-demo.cmd starts the menu with everything it
-# uses. Run again it refreshes what is delivered and keeps what the programs have written: the rewritten host
-# configuration, workstation numbers, update register and settings.
+# Makes the demonstration installation: a folder from which start-demo.cmd starts the menu with everything it uses.
+# In an installation that is there already, it replaces the files that come with the demonstration and keeps those that
+# the programs have written: host configuration, workstation numbers, update register and settings.
 set -euo pipefail
 
 usage() {
   cat <<'TEXT'
-usage: make-installation.sh [--fresh] TARGET BIN_DIR
-  TARGET   folder to build the installation in
+usage: make-installation.sh TARGET BIN_DIR
+  TARGET   folder of the installation
   BIN_DIR  folder that holds ObrinMenu.exe, Corvel.dll and Fenn.exe
-  --fresh  remove the installation that TARGET holds and start over
 TEXT
 }
 
@@ -18,41 +17,27 @@ fail() {
   exit 1
 }
 
-fresh=false
-folders=()
-for argument in "$@"; do
-  case "$argument" in
-    --fresh) fresh=true ;;
-    --help) usage; exit 0 ;;
-    -*) usage >&2; exit 2 ;;
-    *) folders+=("$argument") ;;
-  esac
-done
-if [ ${#folders[@]} -ne 2 ]; then
+if (($# != 2)); then
   usage >&2
-  exit 2
+  exit 64
 fi
-
-target=${folders[0]}
-programs=${folders[1]}
+target=$1
+programs=$2
 source="$(cd "$(dirname "$0")" && pwd)/installation"
 
 for program in ObrinMenu.exe Corvel.dll Fenn.exe; do
   [ -f "$programs/$program" ] || fail "$programs/$program is missing"
 done
 
-# Never into, and above all never in place of, a folder that is something else.
+# Never write into a folder that holds something else.
 if [ -d "$target" ] && [ -n "$(ls -A "$target")" ]; then
   if ! [ -f "$target/start-demo.cmd" ] || ! [ -d "$target/Core" ]; then
     fail "$target holds something that is not a demonstration installation"
   fi
-  if $fresh; then
-    find "$target/" -mindepth 1 -delete
-  fi
 fi
 mkdir -p "$target"
 
-# The checked-in texts are UTF-8 with LF. The programs read the Windows code page and CR LF.
+# The texts in the repository are UTF-8 with LF. The programs read the Windows code page with CR LF.
 deliver() {
   local file=$1
   mkdir -p "$(dirname "$target/$file")"
@@ -70,5 +55,5 @@ while IFS= read -r file; do
   deliver "$file"
 done < <(cd "$source" && find . -type f -printf '%P\n')
 
-# install replaces a file instead of writing into it: a running program keeps its image.
+# install makes a new file instead of writing into the old one, so programs that run keep theirs.
 install -m 755 -t "$target" "$programs/ObrinMenu.exe" "$programs/Corvel.dll" "$programs/Fenn.exe"

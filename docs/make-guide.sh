@@ -5,7 +5,7 @@ version=$1
 page=$(realpath -m "$2")
 cd "$(dirname "${BASH_SOURCE[0]}")"
 
-# The pictures of a page, as part of its text: those lines consist of nothing else.
+# Puts the pictures of a page into its text. A line with a picture holds nothing else.
 embed_pictures() {
   local line picture
   while IFS= read -r line; do
@@ -18,7 +18,7 @@ embed_pictures() {
   done
 }
 
-# Gives every chapter its title as a name for links, and lists them all behind the page's title.
+# Makes every chapter's title a target of links, and lists the chapters below the page's title.
 add_contents() {
   awk '
     match($0, /^<h2>/) {

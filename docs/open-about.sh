@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # For ./demo.sh --do: the about box, by its access keys.
 xdotool windowactivate --sync "$MENU_WINDOW" key alt+h key b
 for _ in $(seq 100); do

@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # For ./demo.sh --do: the Properties dialog of a program, on its page of margins.
 xdotool windowactivate --sync "$MENU_WINDOW" key Right key Down key Right key Down key Menu key p
 for _ in $(seq 100); do

@@ -1,28 +1,29 @@
 # shellcheck shell=bash disable=SC2034
 # The distribution's packages that a script needs, and the builds. To be sourced.
 
+# shellcheck source=scripts/steps.sh
 source "$(dirname "${BASH_SOURCE[0]}")/steps.sh"
 
-# googletest are sources: each preset builds them with its own compiler. Their CMake files look for Python.
-# mingw-w64-tools has genpeimg, which marks the images that run from a share.
+# googletest holds sources: each preset builds them with its own compiler. Their CMake files look for Python.
+# mingw-w64-tools holds genpeimg, which marks the images that run from a share.
 build_packages=(
   cmake ninja-build googletest python3-minimal
   g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools
 )
 native_packages=(clang libclang-rt-dev clang-format)
 tidy_packages=(clang-tidy)
-# Makes the administrator's guide from its text.
+# cmark-gfm makes the administrator's guide from its text.
 guide_packages=(cmark-gfm)
-# Signs programs; openssl makes the certificate that the test of it signs with.
+# osslsigncode signs programs. In the test of that, openssl makes a certificate.
 sign_packages=(osslsigncode)
 sign_test_packages=(openssl)
-# libc6-i386 lets 64-bit Linux start the 32-bit Wine. A window manager, because without one every window that a
-# program shows costs two seconds; x11-utils to ask it things; imagemagick takes the pictures.
+# libc6-i386 lets 64-bit Linux start the 32-bit Wine. openbox is a window manager: without one every window that a
+# program shows costs two seconds. x11-utils holds xprop, which asks it about windows. imagemagick takes the pictures.
 wine_packages=(wine wine64 libc6-i386 xvfb openbox xdotool x11-utils imagemagick)
-# Wine's own bitmap and dialog fonts, and free ones with the proportions of the Windows fonts that the menu asks for.
+# Wine's own fonts for dialogs, and free fonts as wide as the Windows fonts that the menu asks for.
 font_packages=(fonts-wine fonts-comic-neue fonts-liberation)
 
-# Installs the named packages that are missing. If none is, this asks the local package database only.
+# Installs the named packages that are missing. If none is missing, it asks only the local package database.
 install_packages() {
   local -a missing as_root=()
   mapfile -t missing < <(comm -23 <(printf '%s\n' "$@" | sort -u) \
@@ -35,10 +36,10 @@ install_packages() {
       return 1
     fi
     as_root=(sudo)
-    # A question for the password comes here, and not in the middle of a step.
+    # sudo asks for the password here, not in the middle of a step.
     sudo -v || return
   fi
-  # Packages may still be had from the other sources when one is down.
+  # When one source is down, the others may still have the packages.
   run_step "Reading the lists of packages" build/log/package-lists.txt \
     "${as_root[@]}" apt-get -q -o Acquire::Retries=3 update ||
     echo "Trying with the lists of packages at hand" >&2
@@ -48,7 +49,8 @@ install_packages() {
     -o Dpkg::Use-Pty=0 install -y --no-install-recommends "${missing[@]}"
 }
 
-# What installing packages comes to, with those that they need: "182, 281 MB to download, 1,180 MB on disk".
+# Prints how many packages would be installed, with those that they need, and their size:
+# "182, 281 MB to download, 1180 MB on disk".
 size_of_packages() {
   LC_ALL=C apt-get -o Debug::NoLocking=1 --assume-no install --no-install-recommends "$@" 2>/dev/null | sed -n -E \
     -e 's/^.*upgraded, ([0-9]+) newly installed.*/\1/p' \

@@ -1,13 +1,12 @@
 #!/bin/bash
 # Runs a Windows program as if it were a local one: run-windows-program.sh PROGRAM.exe ARGUMENT...
-# CMake and ctest start the tests through it. Outside a session (see wine.sh) it makes one for the program alone,
-# which is slow.
+# CMake and ctest start the tests with it. Outside a session (see wine.sh) it makes one, which takes seconds.
 set -euo pipefail
 scripts=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 # shellcheck source=scripts/wine.sh
 source "$scripts/wine.sh"
 
-# The machine field of an image: two bytes behind the signature that the dword at 3C points to.
+# The machine field of an image: the dword at 3C points to a signature of four bytes, and the field comes behind it.
 image_machine() {
   local header
   header=$(od -An -tu4 -j60 -N4 "$1")
@@ -19,13 +18,13 @@ case $(image_machine "$program") in
   8664) prefix=x64 ;;
   014c) prefix=x86 ;;
   *)
-    echo "$program is no Windows program for x64 or x86" >&2
+    echo "$program is not a Windows program for x64 or x86" >&2
     exit 126
     ;;
 esac
 
-# GoogleTest makes this file when its tests begin and removes it when they have ended. Some ways to die in between
-# end with exit code 0.
+# GoogleTest makes this file when its tests begin, and removes it when they have ended. A program that crashes in
+# between may still end with exit code 0.
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 TEST_PREMATURE_EXIT_FILE=$(windows_path "$scratch/tests-are-running")
@@ -33,7 +32,7 @@ export TEST_PREMATURE_EXIT_FILE
 
 status=0
 in_session "$prefix" run_wine "$@" || status=$?
-# Told here, as Wine is kept quiet: a program that cannot even be loaded says nothing.
+# Wine's own messages are off, so a program that cannot be loaded prints nothing.
 ((status == 0)) || echo "$program: exit code $status" >&2
 if [[ -e $scratch/tests-are-running ]]; then
   echo "$program ended in the middle of its tests" >&2

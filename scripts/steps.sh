@@ -40,7 +40,7 @@ watch_step() {
   local start=$SECONDS interval=20 next progress
   [[ ! -t 2 ]] || interval=1
   next=$((start + interval))
-  # Sleep has no hold on this script's output: who reads that through a pipe would wait for it.
+  # Without this script's output: whoever reads that through a pipe would wait until sleep ends, too.
   while sleep 1 >/dev/null 2>&1 && kill -0 "$3" 2>/dev/null; do
     ((SECONDS >= next)) || continue
     next=$((SECONDS + interval))
@@ -58,8 +58,9 @@ show_status() {
   fi
 }
 
-# apt-get with lines in its output that say how far it is. Under a second number for the output, as apt-get closes the
-# one that it writes them to for the packages' own scripts.
+# apt-get that also prints how far it is. It closes the file descriptor for these lines when it runs the packages' own
+# scripts, so that must not be the one of their output.
+# shellcheck disable=SC2034
 apt_get=(bash -c 'exec apt-get -o APT::Status-Fd=3 "$@" 3>&1' apt-get)
 
 # How far the command is that writes this log; nothing if the log does not say. In this order: ninja (and loops of

@@ -2,15 +2,15 @@
 # Running Windows programs: the Wine prefixes below build/wine, the 32-bit Wine beside the system's 64-bit one,
 # and the hidden desktop. To be sourced.
 #
-# Prefixes: x64 for the 64-bit programs, x86 for the 32-bit ones (it runs both kinds); any other name is made as a
-# copy of x64.
+# Prefix x64 runs 64-bit programs, prefix x86 runs both kinds. A prefix of any other name is a copy of x64.
 
 obrin_root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 wine_folder=$obrin_root/build/wine
 wine32_root=$wine_folder/root32
+# shellcheck source=scripts/steps.sh
 source "$obrin_root/scripts/steps.sh"
 
-# Exports what every Windows program in prefix $1 needs; run_wine then starts one.
+# Exports the environment of the Windows programs in prefix $1, for run_wine.
 use_prefix() {
   local programs=/usr/lib/wine
   if [[ $1 == x86 ]]; then
@@ -18,10 +18,10 @@ use_prefix() {
     export LD_LIBRARY_PATH=$wine32_root/lib/i386-linux-gnu:$wine32_root/usr/lib/i386-linux-gnu
   fi
   export WINEPREFIX=$wine_folder/$1 WINEARCH=win64 WINEDEBUG=-all
-  # Named, so that all programs of a prefix use the one server that is ended at the end.
+  # Both are named, so that all programs of a prefix use the one server that end_prefix ends.
   export WINELOADER=$programs/wine64 WINESERVER=$programs/wineserver64
-  # With the debugger a crash can end with exit code 0. The menu builder writes into the developer's own desktop
-  # menus. The other two offer to download things when a prefix is made.
+  # Left out: the debugger, with which a crash can end with exit code 0; the menu builder, which writes into the
+  # developer's own desktop menus; .NET and HTML, which offer a download when a prefix is made.
   export WINEDLLOVERRIDES='winedbg.exe=d;winemenubuilder.exe=d;mscoree=;mshtml='
 }
 
@@ -39,13 +39,13 @@ windows_path() {
   printf '%s\n' "Z:${1//\//\\}"
 }
 
-# Ends everything that runs in the current prefix. These prefixes are this checkout's own.
+# Ends everything that runs in the current prefix.
 end_prefix() {
   limited 30 "$WINESERVER" -k || true
   limited 30 "$WINESERVER" -w || true
 } </dev/null >/dev/null 2>&1
 
-# Polls until the command succeeds; fails after $1 seconds.
+# Repeats a command until it succeeds, and fails after some seconds: wait_until SECONDS COMMAND...
 wait_until() {
   local end=$((SECONDS + $1))
   shift
@@ -55,31 +55,30 @@ wait_until() {
   done
 }
 
-# Makes the 32-bit Wine. The distribution's package for it does not install beside the tools of the 64-bit
-# builds, so it is unpacked into a folder of its own and borrows the 64-bit half from the system.
-# Fails with a message when the packages cannot be had.
+# Makes the 32-bit Wine. The distribution's package for it cannot be installed beside the tools of the 64-bit
+# builds. So this unpacks it into a folder of its own, with a copy of the system's 64-bit half.
 make_wine32() {
   local version stamp=$wine32_root/complete apt_folder=$wine_folder/apt32
   version=$(dpkg-query -W -f '${Version}' wine64)
-  # Both halves must be of one version: a new one of the system's needs a new one here.
+  # Both halves must have the same version. After an update of the system's Wine, this one is made again.
   [[ ! -f $stamp || $(<"$stamp") != "$version" ]] || return 0
 
   rm -rf "$wine32_root" "$apt_folder"
   mkdir -p "$wine32_root" "$apt_folder"/{state/lists,cache/archives}/partial
   : >"$apt_folder/status"
-  # The system's own package sources and keys, but lists, downloads and an empty package database apart from the
-  # system's: nothing is installed, no rights are needed.
+  # apt-get uses the system's package sources and keys, but lists, downloads and an empty package database in this
+  # folder. It installs nothing, so it needs no rights.
   local -a apt=("${apt_get[@]}" -q -o Dir::State="$apt_folder/state" -o Dir::State::status="$apt_folder/status"
     -o Dir::Cache="$apt_folder/cache" -o APT::Architecture=i386 -o APT::Architectures=i386
     -o APT::Sandbox::User="$(id -un)" -o Debug::NoLocking=1 -o Acquire::Retries=3)
-  # The packages may still be had when the lists of one source cannot.
+  # When one source is down, the others may still have the packages.
   run_step "Reading the lists of 32-bit packages" "$wine_folder/root32-lists.log" limited 600 "${apt[@]}" update || true
   if ! run_step "Downloading the 32-bit Wine (once: 145 MB to download, 730 MB on disk)" "$wine_folder/root32.log" \
     limited 1800 "${apt[@]}" install -y --no-install-recommends --download-only "wine32=$version" "libwine=$version" \
     libxrender1 libxcursor1 libxrandr2 libxfixes3 libxi6 libxcomposite1 libxinerama1 ||
     ! run_step "Unpacking the 32-bit Wine" "$wine_folder/root32-unpack.log" \
       unpack_wine32 "$apt_folder/cache/archives"; then
-    echo "The 32-bit Wine could not be had: 32-bit programs cannot run here" >&2
+    echo "There is no 32-bit Wine: 32-bit programs cannot run here" >&2
     return 1
   fi
   rm -rf "$apt_folder"
@@ -92,13 +91,13 @@ unpack_wine32() {
   for package in "${packages[@]}"; do
     count=$((count + 1))
     echo "[$count/${#packages[@]}] ${package##*/}"
-    # The C library comes with the loader of package libc6-i386, which it must match to the letter.
+    # The system's libc6-i386 holds the C library, and the loader, which needs exactly that one.
     [[ ${package##*/} == libc6_* ]] || dpkg -x "$package" "$wine32_root" || return
   done
   mkdir -p "$wine32_root/usr/lib/x86_64-linux-gnu" &&
     ln -s /usr/lib/x86_64-linux-gnu/wine "$wine32_root/usr/lib/x86_64-linux-gnu/wine" &&
     cp /usr/lib/wine/{wine64,wineserver64} "$wine32_root/usr/lib/wine/" &&
-    # Made by an installation script of the package, which unpacking does not run.
+    # In an installation, a script of the package copies this file.
     cp /usr/lib/x86_64-linux-gnu/wine/i386-windows/zlib1.dll "$wine32_root/usr/lib/i386-linux-gnu/wine/i386-windows/"
 }
 
@@ -106,9 +105,12 @@ unpack_wine32() {
 make_prefix() {
   mkdir -p "$wine_folder"
   (
-    # One at a time: two runs that meet here would take each other's halves away.
+    # Two runs at a time would remove each other's unfinished prefixes.
     exec 9>"$wine_folder/making.lock"
-    flock 9
+    if ! flock -n 9; then
+      echo "Waiting for another run that makes a Wine prefix" >&2
+      flock -w 3600 9 || exit
+    fi
     prepare_prefix "$1" 9>&-
   ) || return
   use_prefix "$1"
@@ -131,7 +133,7 @@ prepare_prefix() {
     rm -rf "$WINEPREFIX"
   fi
   if [[ $1 != x64 && $1 != x86 ]]; then
-    # The stamp comes last: a copy that is cut off is made again.
+    # The stamp is written last, so an unfinished copy is made again.
     mkdir "$WINEPREFIX" &&
       cp -a "$wine_folder"/x64/{.update-timestamp,dosdevices,drive_c,pristine} "$WINEPREFIX" &&
       restore_registry || return
@@ -146,17 +148,17 @@ prepare_prefix() {
   printf '%s\n' "$recipe" >"$stamp"
 }
 
-# Puts the current prefix's registry back to what it was when the prefix was made. The server must not run.
+# Puts the current prefix's registry back to what it was in the new prefix. The server must not run.
 restore_registry() {
   cp "$WINEPREFIX"/pristine/*.reg "$WINEPREFIX"
 }
 
 fill_prefix() {
-  # Without a display no window of Wine's appears on the developer's.
+  # Without a display, so that Wine shows no window on the developer's.
   (unset DISPLAY && run_wine_for 300 wineboot -i) || return
-  # Without these in the prefix itself every dialog falls back to one wide font.
+  # Wine finds its fonts for dialogs only in the prefix itself. Without them, dialogs fall back to a wide font.
   cp /usr/share/wine/fonts/*.{ttf,fon} "$WINEPREFIX/drive_c/windows/Fonts/" || return
-  # Fonts that Windows has, and the ones here that stand in for them.
+  # Fonts of Windows, and their replacements here.
   cat >"$WINEPREFIX/drive_c/prefix.reg" <<'REG' || return
 REGEDIT4
 
@@ -171,21 +173,20 @@ REGEDIT4
 "HotTrackingColor"="0 102 204"
 REG
   (unset DISPLAY && run_wine_for 60 regedit /S 'C:\prefix.reg') || return
-  # Ending the server writes the registry to disk.
+  # The server writes the registry to disk when it ends.
   end_prefix
   grep -q 'Comic Neue' "$WINEPREFIX/user.reg" || return
   mkdir "$WINEPREFIX/pristine" && cp "$WINEPREFIX"/*.reg "$WINEPREFIX/pristine" || return
-  # Wine links Documents, Desktop and the like to the developer's home folder. No test is to write there.
+  # Wine links Documents, Desktop and the like to the developer's home folder, where no test may write.
   local link
   while IFS= read -r link; do
     rm "$link" && mkdir "$link" || return
   done < <(find "$WINEPREFIX/drive_c/users" -type l)
 }
 
-# Runs a command in prefix $1 on a hidden desktop, alone in that prefix and with the registry as new, and leaves no
-# process behind. Inside such a session the command simply runs.
-#
-# The display server is started here and not by xvfb-run, which leaves it running when it is ended by a signal.
+# Runs a command in a prefix on a hidden desktop: in_session PREFIX COMMAND...
+# The command is alone in the prefix, whose registry is as new, and all its processes are ended afterwards. Within a
+# session of the same prefix, this only runs the command.
 in_session() {
   local prefix=$1
   shift
@@ -202,8 +203,8 @@ in_session() {
     fi
     trap end_session EXIT
     export OBRIN_SESSION=$prefix
-    # Without the lock: what is started here may outlive this shell for a moment.
-    # A desktop that does not come up was seen once in some hundred sessions, on a loaded machine.
+    # On a loaded machine, about one desktop in some hundred does not start at once.
+    # Programs do not inherit the lock, as they may outlive this shell for a moment.
     {
       { start_desktop || { end_session && start_desktop; }; } && "$@"
     } 9>&-
@@ -230,14 +231,15 @@ start_desktop() {
   run_step "Starting the hidden desktop" "$WINEPREFIX-desktop.log" start_session
 }
 
-# The display, the window manager and the keeper. Their output goes nowhere: whoever reads this script's output
-# through a pipe would wait for them.
+# Starts the display, the window manager and one program that keeps Wine's own processes running.
+# Their output goes to /dev/null: whoever reads this script's output through a pipe would wait until they end, too.
 start_session() {
   local display number
-  # What a session that was cut off has left.
+  # A session that was interrupted may have left processes.
   end_prefix
   restore_registry || return
 
+  # Not by xvfb-run, which leaves the display server running when a signal ends it.
   exec {display}< <(exec Xvfb -displayfd 1 -screen 0 1280x1024x24 -nolisten tcp </dev/null 2>/dev/null)
   session_processes+=($!)
   if ! read -r -t 20 -u "$display" number; then
@@ -250,10 +252,10 @@ start_session() {
 
   openbox --sm-disable </dev/null >/dev/null 2>&1 &
   session_processes+=($!)
-  # Wine ends its desktop and service processes when the last program with a window ends, and starting them for
-  # each test costs seconds, with the test runner's pipe in their hands. So one minimised program stays.
+  # Wine ends its desktop and its services with the last program that has a window. Starting them for each test takes
+  # seconds, and they would inherit the test runner's pipe. So one minimised program keeps running.
   if ! wait_until 30 window_manager_runs || ! run_wine_for 60 start /min winemine </dev/null >/dev/null 2>&1 ||
-    ! wait_until 30 keeper_stays; then
+    ! wait_until 30 keeper_has_window; then
     echo "The hidden desktop did not start" >&2
     return 1
   fi
@@ -263,8 +265,7 @@ window_manager_runs() {
   timeout 5 xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'
 }
 
-# The window manager has its window: with it stand the desktop and the services, which would otherwise be started by
-# the first test.
-keeper_stays() {
+# The program's window is there, and with it the desktop and the services.
+keeper_has_window() {
   timeout 5 xprop -root _NET_CLIENT_LIST | grep -q 'window id # 0x'
 }

@@ -14,30 +14,32 @@ exit /b 99
 
 :unpacked
 
-echo This runs the tests of the Obrin menu, for about two minutes. They open windows, type and move the mouse:
-echo close a menu and a Fenn that run, and leave mouse and keyboard alone until the end.
+echo This runs the tests of the Obrin menu, for about two minutes. They open windows, type and move the mouse.
+echo Please close the menu and Fenn first, and leave mouse and keyboard alone until the end.
 echo.
 echo What is written:
 echo   %report%
-echo   %scratch%, which goes afterwards
+echo   %scratch%, which is deleted afterwards
 echo   the registry value LastSystem of %key%, and the key HKCU\Software\ObrinTestMachine,
-echo   which are put back afterwards. The values of %key% are kept until then in
+echo   which are restored afterwards. Until then the values of %key% are saved in
 echo   %scratch%\saved.reg
 echo.
 
 pause
 
 mkdir "%scratch%"
-rem The right to write there tells at the same time whether the key has to go in the end.
+rem A key that is not there yet is deleted in the end.
 reg query %key% >nul 2>&1
-set isnew=%errorlevel%
-if %isnew%==0 reg export %key% "%scratch%\saved.reg" /y >nul 2>&1
+set keymissing=%errorlevel%
+if %keymissing%==0 reg export %key% "%scratch%\saved.reg" /y >nul 2>&1
+rem Whether this user may write there: 0 is yes.
 reg add %key% /v LastSystem /d tests /f >nul 2>&1
-set mayremember=%errorlevel%
-if not %mayremember%==0 echo You may not write to %key%. The tests then see that no system is remembered,
-if not %mayremember%==0 echo and leave out what a remembered one does. To have them all: "Run as administrator".
+set writeerror=%errorlevel%
+if not %writeerror%==0 echo You may not write to %key%, so the tests leave out what the menu does with
+if not %writeerror%==0 echo a system that it remembers there. To run them all, use "Run as administrator".
 
-rem Tests make their folders below TEMP. Programs out of a downloaded archive start without a question.
+rem Tests make their folders below TEMP. The last two: Windows starts programs from a downloaded archive without a
+rem question, and GoogleTest keeps a file there while tests run.
 set TEMP=%scratch%
 set TMP=%scratch%
 set SEE_MASK_NOZONECHECKS=1
@@ -45,25 +47,25 @@ set TEST_PREMATURE_EXIT_FILE=%scratch%\running
 
 echo The tests of the Obrin menu on %COMPUTERNAME%, %DATE% %TIME% >"%report%"
 ver >>"%report%"
-echo %PROCESSOR_ARCHITECTURE%, HKLM written: %mayremember% (0 is yes) >>"%report%"
+echo %PROCESSOR_ARCHITECTURE%, HKLM written: %writeerror% (0 is yes) >>"%report%"
 reg query "HKCU\Control Panel\Desktop\WindowMetrics" /v AppliedDPI >>"%report%" 2>nul
 
 cd /d "%scratch%"
 call :run rules_tests
 call :run windows_tests
 call :run end_to_end_tests
-rem Out of the folder that goes; this one may be a share, which cannot be a current folder.
+rem Leave the folder that is deleted. The one of this file may be on a share, which cannot be the current folder.
 cd /d "%SystemRoot%"
 
-if %mayremember%==0 reg delete %key% /v LastSystem /f >nul 2>&1
-if %mayremember%==0 if not %isnew%==0 reg delete %key% /f >nul 2>&1
-if %mayremember%==0 if %isnew%==0 reg import "%scratch%\saved.reg" >nul 2>&1
+if %writeerror%==0 reg delete %key% /v LastSystem /f >nul 2>&1
+if %writeerror%==0 if not %keymissing%==0 reg delete %key% /f >nul 2>&1
+if %writeerror%==0 if %keymissing%==0 reg import "%scratch%\saved.reg" >nul 2>&1
 reg delete HKCU\Software\ObrinTestMachine /f >nul 2>&1
 rmdir /s /q "%scratch%"
 
 echo %failures% failures >>"%report%"
 echo.
-echo %failures% failures. What happened stands in %report%
+echo %failures% failures. The report is %report%
 pause
 exit /b %failures%
 
@@ -75,7 +77,7 @@ type "%scratch%\log.txt" >>"%report%"
 set before=%failures%
 find "FAILED TEST" <"%scratch%\log.txt" >"%scratch%\count.txt"
 for /f "usebackq" %%n in ("%scratch%\count.txt") do set /a failures+=%%n
-rem One that ends in the middle does not come to its count.
+rem A program that ends in the middle of its tests does not print that count.
 if exist "%TEST_PREMATURE_EXIT_FILE%" set code=ended in the middle
 if exist "%TEST_PREMATURE_EXIT_FILE%" del "%TEST_PREMATURE_EXIT_FILE%"
 if not "%code%"=="0" if %failures%==%before% set /a failures+=1
