@@ -6,27 +6,67 @@
 
 namespace obrin {
 
-TEST(Numbers, AreRead) {
-    struct {
-        const char* text;
-        std::optional<double> whole;
-        double leading;
-    } const cases[] = {
-        {"12", 12, 12}, {" 12 ", 12, 12},  {"+5", 5, 5},     {"-3", -3, -3},     {"2.5", 2.5, 2.5},
-        {"5.", 5, 5},   {".5", .5, .5},    {"1E+1", 10, 10}, {"", {}, 0},        {" ", {}, 0},
-        {"abc", {}, 0}, {"12abc", {}, 12}, {"1 2", {}, 1},   {"1,5", {}, 1},     {"0x1F", {}, 0},
-        {"inf", {}, 0}, {"nan", {}, 0},    {".", {}, 0},     {"-", {}, 0},       {"0.5 in", {}, .5},
-        {"1e", {}, 1},  {"\t5", {}, 0},    {"5\t", {}, 5},   {"1.2.3", {}, 1.2},
-    };
-    const std::string zeros(500, '0');
-    EXPECT_EQ(LeadingNumber("0." + zeros + "25e500"), 0.25);
-    EXPECT_EQ(LeadingNumber("25" + zeros + "e-502"), 0.25);
-    EXPECT_EQ(LeadingNumber("0e999999999999"), 0);
-    EXPECT_EQ(LeadingNumber("-9e99999"), -std::numeric_limits<double>::infinity());
-    for (const auto& [text, whole, leading] : cases) {
-        EXPECT_EQ(ParseNumber(text), whole) << '"' << text << '"';
-        EXPECT_EQ(LeadingNumber(text), leading) << '"' << text << '"';
-    }
+TEST(SignedDecimal, HasABlankInPlaceOfAPlusSign) {
+    EXPECT_EQ(SignedDecimal(5), " 5");
+    EXPECT_EQ(SignedDecimal(0), " 0");
+    EXPECT_EQ(SignedDecimal(-5), "-5");
+}
+
+TEST(PlainDecimal, HasNeitherBlanksNorLeadingZeros) {
+    EXPECT_EQ(PlainDecimal(5), "5");
+    EXPECT_EQ(PlainDecimal(-5), "-5");
+}
+
+TEST(PaddedDecimal, HasAtLeastThatManyDigits) {
+    EXPECT_EQ(PaddedDecimal(5, 2), "05");
+    EXPECT_EQ(PaddedDecimal(5, 3), "005");
+    EXPECT_EQ(PaddedDecimal(-7, 2), "-07");
+    EXPECT_EQ(PaddedDecimal(123, 2), "123");
+    EXPECT_EQ(PaddedDecimal(std::numeric_limits<int>::min(), 2), "-2147483648");
+}
+
+TEST(ShortestThousandths, HasNoUnneededZeros) {
+    EXPECT_EQ(ShortestThousandths(500), "0.5");
+    EXPECT_EQ(ShortestThousandths(1250), "1.25");
+    EXPECT_EQ(ShortestThousandths(1005), "1.005");
+    EXPECT_EQ(ShortestThousandths(10'000), "10");
+    EXPECT_EQ(ShortestThousandths(0), "0");
+}
+
+TEST(ParseNumber, ReadsADecimalNumberWithBlanksAroundIt) {
+    EXPECT_EQ(ParseNumber("12"), 12);
+    EXPECT_EQ(ParseNumber("  12 "), 12);
+    EXPECT_EQ(ParseNumber("+5"), 5);
+    EXPECT_EQ(ParseNumber("-2.5"), -2.5);
+    EXPECT_EQ(ParseNumber("5."), 5);
+    EXPECT_EQ(ParseNumber(".5"), 0.5);
+    EXPECT_EQ(ParseNumber("1E+1"), 10);
+    EXPECT_EQ(ParseNumber("25e-2"), 0.25);
+}
+
+TEST(ParseNumber, RefusesATextThatIsNotANumberAsAWhole) {
+    for (const char* text : {"", " ", "abc", "12abc", "1 2", "1,5", ".", "-", "1e", "1.2.3", "\t5", "5\t"})
+        EXPECT_EQ(ParseNumber(text), std::nullopt) << '"' << text << '"';
+}
+
+// The C library reads these as numbers.
+TEST(ParseNumber, RefusesANumberThatIsNotDecimal) {
+    for (const char* text : {"0x1F", "inf", "nan"})
+        EXPECT_EQ(ParseNumber(text), std::nullopt) << text;
+}
+
+TEST(LeadingNumber, IsTheLongestNumberAtTheStartAfterBlanks) {
+    EXPECT_EQ(LeadingNumber("  12 "), 12);
+    EXPECT_EQ(LeadingNumber("12abc"), 12);
+    EXPECT_EQ(LeadingNumber("0.5 in"), 0.5);
+    EXPECT_EQ(LeadingNumber("-1,5"), -1);
+    EXPECT_EQ(LeadingNumber("1.2.3"), 1.2);
+    EXPECT_EQ(LeadingNumber("1e"), 1);
+}
+
+TEST(LeadingNumber, IsZeroWhenTheTextStartsWithNone) {
+    for (const char* text : {"", " ", "abc", ".", "-", "\t5", "inf", "nan", "0x1F"})
+        EXPECT_EQ(LeadingNumber(text), 0) << '"' << text << '"';
 }
 
 } // namespace obrin

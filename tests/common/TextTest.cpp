@@ -1,35 +1,77 @@
 #include "common/Text.h"
 
+#include "support/CodePage.h"
+
 #include <gtest/gtest.h>
 
 namespace obrin {
 
+using test::IsLeadByte;
+
 constexpr auto npos = std::string::npos;
 
-// 81 is a lead byte: of a character, of one that looks like "\" in the middle, of none at the end.
-TEST(Text, CharactersAreFoundAmongThoseOfTwoBytes) {
-    constexpr LeadByteTest lead = [](char byte) { return byte == '\x81'; };
-    struct {
-        std::string text;
-        LeadByteTest isLeadByte;
-        std::size_t first, last, firstFromTwo;
-        std::string twoCharacters, asFolder;
-    } const cases[] = {
-        {"", lead, npos, npos, npos, "", "\\"},
-        {"a\\b\\", nullptr, 1, 3, 3, "a\\", "a\\b\\"},
-        {"a\\b\\c", lead, 1, 3, 3, "a\\", "a\\b\\c\\"},
-        {"\x81\\\\\x81\\", lead, 2, 2, 2, "\x81\\\\", "\x81\\\\\x81\\\\"},
-        {"\x81\\\\\x81\\", nullptr, 1, 4, 2, "\x81\\", "\x81\\\\\x81\\"},
-        {"\x81\x81\\", lead, 2, 2, 2, "\x81\x81\\", "\x81\x81\\"},
-        {"\\\x81", lead, 0, 0, npos, "\\\x81", "\\\x81\\"},
-    };
-    for (const auto& [text, isLeadByte, first, last, firstFromTwo, twoCharacters, asFolder] : cases) {
-        EXPECT_EQ(FindCharacter(text, '\\', isLeadByte), first) << text;
-        EXPECT_EQ(FindLastCharacter(text, '\\', isLeadByte), last) << text;
-        EXPECT_EQ(FindCharacter(text, '\\', isLeadByte, 2), firstFromTwo) << text;
-        EXPECT_EQ(FirstCharacters(text, 2, isLeadByte), twoCharacters);
-        EXPECT_EQ(EnsureTrailingBackslash(text, isLeadByte), asFolder);
+TEST(FindCharacter, FindsTheFirstAtOrAfterAPosition) {
+    for (const LeadByteTest isLeadByte : {LeadByteTest{nullptr}, LeadByteTest{IsLeadByte}}) {
+        EXPECT_EQ(FindCharacter("a^b^", '^', isLeadByte), 1U);
+        EXPECT_EQ(FindCharacter("a^b^", '^', isLeadByte, 2), 3U);
+        EXPECT_EQ(FindCharacter("ab", '^', isLeadByte), npos);
     }
+}
+
+TEST(FindCharacter, SkipsTheSecondByteOfACharacter) {
+    EXPECT_EQ(FindCharacter("\x81^^", '^', IsLeadByte), 2U);
+    EXPECT_EQ(FindCharacter("\x81\x81^", '^', IsLeadByte), 2U) << "even when it looks like a lead byte";
+    EXPECT_EQ(FindCharacter("\x81^^", '^', nullptr), 1U) << "in a code page without such characters";
+}
+
+TEST(FindCharacter, TreatsALeadByteAtTheEndAsACharacter) {
+    EXPECT_EQ(FindCharacter("a\x81", '\x81', IsLeadByte), 1U);
+    EXPECT_EQ(FindCharacter("a\x81", '^', IsLeadByte), npos);
+}
+
+TEST(FindLastCharacter, FindsTheLast) {
+    for (const LeadByteTest isLeadByte : {LeadByteTest{nullptr}, LeadByteTest{IsLeadByte}}) {
+        EXPECT_EQ(FindLastCharacter("^a^b", '^', isLeadByte), 2U);
+        EXPECT_EQ(FindLastCharacter("ab", '^', isLeadByte), npos);
+    }
+}
+
+TEST(FindLastCharacter, SkipsTheSecondByteOfACharacter) {
+    EXPECT_EQ(FindLastCharacter("^a\x81^", '^', IsLeadByte), 0U);
+    EXPECT_EQ(FindLastCharacter("^a\x81^", '^', nullptr), 3U) << "in a code page without such characters";
+}
+
+TEST(FirstCharacters, CountATwoByteCharacterAsOne) {
+    EXPECT_EQ(FirstCharacters("\x81^bc", 2, IsLeadByte), "\x81^b");
+    EXPECT_EQ(FirstCharacters("\x81^bc", 2, nullptr), "\x81^") << "in a code page without such characters";
+    EXPECT_EQ(FirstCharacters("a\x81", 2, IsLeadByte), "a\x81") << "a lead byte at the end";
+    EXPECT_EQ(FirstCharacters("a", 2, IsLeadByte), "a");
+}
+
+TEST(TrimBlanks, RemovesSpacesAtBothEnds) {
+    EXPECT_EQ(TrimBlanks("  a b "), "a b");
+    EXPECT_EQ(TrimBlanks("   "), "");
+}
+
+TEST(TrimBlanks, KeepsOtherWhiteSpace) {
+    EXPECT_EQ(TrimBlanks("\ta\r\n"), "\ta\r\n");
+}
+
+TEST(WithoutAccessKeyMarks, IsTheCaptionAsItIsShown) {
+    EXPECT_EQ(WithoutAccessKeyMarks("A&bout Obrin"), "About Obrin");
+    EXPECT_EQ(WithoutAccessKeyMarks("Billing && Payroll&"), "Billing & Payroll");
+}
+
+TEST(WithAmpersandsDoubled, IsShownWithoutAccessKeys) {
+    EXPECT_EQ(WithAmpersandsDoubled("&Billing & Payroll"), "&&Billing && Payroll");
+}
+
+TEST(EnsureTrailingBackslash, AppendsAMissingBackslash) {
+    EXPECT_EQ(EnsureTrailingBackslash("C:\\Host", IsLeadByte), "C:\\Host\\");
+    EXPECT_EQ(EnsureTrailingBackslash("C:\\Host\\", IsLeadByte), "C:\\Host\\");
+    EXPECT_EQ(EnsureTrailingBackslash("", IsLeadByte), "\\");
+    EXPECT_EQ(EnsureTrailingBackslash("C:\\\x81\\", IsLeadByte), "C:\\\x81\\\\")
+        << "the second byte of a character";
 }
 
 } // namespace obrin

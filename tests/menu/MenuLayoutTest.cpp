@@ -1,67 +1,112 @@
 #include "menu/MenuLayout.h"
 
+#include "common/RunTimeError.h"
+
 #include <gtest/gtest.h>
 
-#include <tuple>
+#include <limits>
 
 namespace obrin {
 namespace {
 
-// Round numbers: margins of 1000 around the frame and of 200 and 300 around the tree.
-constexpr MenuLayout designed{{100, 50, 4000, 3000}, {10, 20, 3800, 2700}, {}};
+constexpr double infinite = std::numeric_limits<double>::infinity();
+
+// Round numbers, so that the sums can be followed.
+constexpr MenuLayout designed{.frame1 = {.left = 100, .top = 50, .width = 4000, .height = 3000},
+                              .treeView1 = {.left = 10, .top = 20, .width = 3800, .height = 2700},
+                              .command1 = {}};
 constexpr LayoutMargins margins{.height = 1000, .width = 1000, .treeWidth = 200, .treeHeight = 300};
-constexpr OwnSizes own{.label1 = 700,
-                       .image1 = 500,
-                       .label2 = {300, 230},
-                       .label3 = {},
-                       .label4 = {900, 240},
-                       .label5 = {600, 250}};
 
-MenuLayout At(double width, double height, const OwnSizes& sizes = own) {
-    return Resize(designed, margins, {width, height}, {width - 200, height - 500}, sizes);
+// The layout in a window of that outer size, whose frame takes 200 of the width and 500 of the height.
+MenuLayout At(Size outer, const OwnSizes& own = {}) {
+    return Resize(designed, margins, outer, {outer.width - 200, outer.height - 500}, own);
 }
 
-TEST(MenuLayout, FrameAndTreeKeepTheirMargins) {
-    struct {
-        Size outer, frame, tree;
-    } const cases[] = {
-        {{9000, 8000}, {8000, 7000}, {7800, 6700}}, {{5000.5, 4000}, {4000.5, 3000}, {3800.5, 2700}},
-        {{1000, 1000}, {4000, 3000}, {3800, 2700}}, // exactly the margins: left as they were
-        {{15, 15}, {4000, 3000}, {3800, 2700}},     {{900, 8000}, {4000, 7000}, {3800, 6700}},
-        {{1200, 4000}, {200, 3000}, {3800, 2700}}, // the frame is as wide as the tree's margin
-        {{5000, 1300}, {4000, 300}, {3800, 2700}},  {{1201, 1301}, {201, 301}, {1, 1}},
-    };
-    for (const auto& [outer, frame, tree] : cases) {
-        const MenuLayout layout = At(outer.width, outer.height);
-        const auto& [frame1, tree1] = std::tie(layout.frame1, layout.treeView1);
-        EXPECT_EQ(std::tuple(frame1.width, frame1.height, tree1.width, tree1.height),
-                  std::tuple(frame.width, frame.height, tree.width, tree.height));
-        EXPECT_EQ(layout.command1.top, 20 + tree.height + design::command1Gap) << "below the tree";
-    }
-    const auto recorded = RecordMargins({5000.4, 4000.6}, designed);
-    EXPECT_EQ(std::tuple(recorded.width, recorded.height, recorded.treeWidth, recorded.treeHeight),
-              std::tuple(1000, 1001, 200, 300))
-        << "in whole twips";
+TEST(RecordMargins, AreTheDesignedDistancesInWholeTwips) {
+    const LayoutMargins recorded = RecordMargins({.width = 5000.4, .height = 4000.6}, designed);
+    EXPECT_EQ(recorded.width, 1000);
+    EXPECT_EQ(recorded.height, 1001);
+    EXPECT_EQ(recorded.treeWidth, 200);
+    EXPECT_EQ(recorded.treeHeight, 300);
 }
 
-TEST(MenuLayout, CentresByTheOuterWidthAndPutsTheLinkIntoTheInnerCorner) {
-    OwnSizes wide = own;
-    wide.label2.width = 100'000;                    // overlaps the frame
-    const MenuLayout layout = At(9001, 4000, wide); // the frame ends at 8101, and 900 remain
-    EXPECT_EQ(layout.label1Left, 8101 + 450 - 350);
-    EXPECT_EQ(layout.image1.left, 8101 + 450 - 250);
-    EXPECT_EQ(layout.label2Left, 8101 + 450 - 50'000);
-    EXPECT_EQ(layout.label3.left, 8101 + 450);
-    EXPECT_EQ(layout.label3.top, design::label3Top);
-    EXPECT_EQ(layout.image1.top, design::image1Top);
-    wide.label2.height = 500; // a large font of the user's
-    wide.label3.height = 700;
-    EXPECT_EQ(At(9001, 4000, wide).label3.top, design::label2Top + 500);
-    EXPECT_EQ(At(9001, 4000, wide).image1.top, design::label2Top + 500 + 700);
-    EXPECT_EQ(layout.label5.left, 9001 - 200 - 100 - 600);
-    EXPECT_EQ(layout.label5.top, 3500 - 20 - 250);
-    EXPECT_EQ(layout.label4.left, layout.label5.left - 900);
+TEST(RecordMargins, RefuseAnInfiniteSize) {
+    EXPECT_THROW(RecordMargins({.width = infinite, .height = 4000}, designed), RunTimeError);
+}
+
+TEST(Resize, FrameKeepsItsMarginsInTheWindow) {
+    EXPECT_EQ(At({9000, 8000}).frame1.width, 8000);
+    EXPECT_EQ(At({9000, 8000}).frame1.height, 7000);
+}
+
+TEST(Resize, FrameKeepsItsSizeInAWindowThatIsNotLargerThanItsMargins) {
+    EXPECT_EQ(At({1000, 8000}).frame1.width, 4000);
+    EXPECT_EQ(At({1001, 8000}).frame1.width, 1);
+    EXPECT_EQ(At({9000, 1000}).frame1.height, 3000);
+    EXPECT_EQ(At({9000, 1001}).frame1.height, 1);
+}
+
+TEST(Resize, TreeKeepsItsMarginsInTheFrame) {
+    EXPECT_EQ(At({9000, 8000}).treeView1.width, 7800);
+    EXPECT_EQ(At({9000, 8000}).treeView1.height, 6700);
+}
+
+TEST(Resize, TreeKeepsItsSizeInAFrameThatIsNotLargerThanItsMargins) {
+    EXPECT_EQ(At({1200, 8000}).treeView1.width, 3800) << "in a frame 200 wide";
+    EXPECT_EQ(At({1201, 8000}).treeView1.width, 1);
+    EXPECT_EQ(At({9000, 1300}).treeView1.height, 2700) << "in a frame 300 high";
+    EXPECT_EQ(At({9000, 1301}).treeView1.height, 1);
+}
+
+TEST(Resize, CommandIsBelowTheTree) {
+    EXPECT_EQ(At({9000, 8000}).command1.top, 20 + 6700 + design::command1Gap);
+}
+
+TEST(Resize, RightHandControlsAreCentredInTheOuterWidthBesideTheFrame) {
+    OwnSizes own{};
+    own.label1 = 2000; // overlaps the frame
+    own.image1 = 500;
+    own.label2.width = 300;
+    own.label3.width = 200;
+    const MenuLayout layout = At({9000, 8000}, own); // the frame ends at 8100, the middle is at 8550
+    EXPECT_EQ(layout.label1Left, 8550 - 1000);
+    EXPECT_EQ(layout.image1.left, 8550 - 250);
+    EXPECT_EQ(layout.label2Left, 8550 - 150);
+    EXPECT_EQ(layout.label3.left, 8550 - 100);
+}
+
+TEST(Resize, RightHandControlsMoveDownBelowTallText) {
+    OwnSizes own{};
+    EXPECT_EQ(At({9000, 8000}, own).label3.top, design::label3Top);
+    EXPECT_EQ(At({9000, 8000}, own).image1.top, design::image1Top);
+    own.label2.height = 500;
+    own.label3.height = 700;
+    EXPECT_EQ(At({9000, 8000}, own).label3.top, design::label2Top + 500);
+    EXPECT_EQ(At({9000, 8000}, own).image1.top, design::label2Top + 500 + 700);
+}
+
+TEST(Resize, LinkIsInTheInnerCorner) {
+    OwnSizes own{};
+    own.label5 = {.width = 600, .height = 250};
+    const MenuLayout layout = At({9000, 8000}, own); // 8800 x 7500 inside
+    EXPECT_EQ(layout.label5.left + 600, 8800 - 100);
+    EXPECT_EQ(layout.label5.top + 250, 7500 - 20);
+}
+
+TEST(Resize, QuestionTouchesTheLinkOnTheLeft) {
+    OwnSizes own{};
+    own.label4.width = 900;
+    const MenuLayout layout = At({9000, 8000}, own);
+    EXPECT_EQ(layout.label4.left + 900, layout.label5.left);
     EXPECT_EQ(layout.label4.top, layout.label5.top);
+}
+
+TEST(Resize, RefusesAnInfinitePosition) {
+    OwnSizes boundless{};
+    boundless.label1 = infinite;
+    EXPECT_THROW(At({infinite, 8000}), RunTimeError);
+    EXPECT_THROW(At({9000, infinite}), RunTimeError);
+    EXPECT_THROW(At({9000, 8000}, boundless), RunTimeError);
 }
 
 } // namespace

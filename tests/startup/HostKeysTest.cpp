@@ -1,5 +1,7 @@
 #include "startup/HostKeys.h"
 
+#include "support/CodePage.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -9,22 +11,53 @@ namespace {
 
 using Codes = std::vector<std::uint8_t>;
 
-// Of a Greek code page, in which 220 is a lower-case letter; as much of it as is typed here.
-std::string GreekUpper(std::string text) {
-    std::ranges::replace(text, 'a', 'A');
-    std::ranges::replace(text, '\xDC', '\xA2');
-    return text;
+Codes CodesOf(const char* command) {
+    return HostKeyCodes(command, test::UpperCase, test::IsLeadByte);
 }
 
-TEST(HostKeys, AreUnsignedUpperCaseCodes) {
-    EXPECT_EQ(HostKeyCodes("aZ9 .\xFF", GreekUpper, nullptr), (Codes{'A', 'Z', '9', ' ', '.', 0xFF}));
-    EXPECT_EQ(HostKeyCodes("\xDC\\a\\", GreekUpper, nullptr), (Codes{0xA2, 220, 'A', 220}));
-    EXPECT_EQ(HostKeyCodes("a\r\nB\rC\nD\r\r\n", GreekUpper, nullptr),
-              (Codes{'A', 13, 'B', 13, 'C', 10, 'D', 13, 13}));
-    EXPECT_EQ(HostKeyCodes("\x81\\\\\x81\r\\", GreekUpper, [](char byte) { return byte == '\x81'; }),
-              (Codes{0x81, 0x5C, 220, 0x81, 13, 220}))
-        << "a character of two bytes is typed as they are";
-    EXPECT_EQ(HostStartArguments(-7) + StationCaption(-7), "run core\\start --7Obrin--07");
+TEST(HostKeyCodes, AreThoseOfUpperCaseCharacters) {
+    EXPECT_EQ(CodesOf("aZ9 .\xFF"), (Codes{'A', 'Z', '9', ' ', '.', 255}));
+}
+
+TEST(HostKeyCodes, BackslashIsTheKey220) {
+    EXPECT_EQ(CodesOf("\\a\\"), (Codes{220, 'A', 220}));
+}
+
+TEST(HostKeyCodes, BackslashIsTheKey220WhereThatIsALowerCaseLetter) {
+    const UpperCaser greek = [](std::string text) {
+        std::ranges::replace(text, '\xDC', '\xA2');
+        return text;
+    };
+    EXPECT_EQ(HostKeyCodes("\\\xDC", greek, nullptr), (Codes{220, 0xA2}));
+}
+
+TEST(HostKeyCodes, TwoByteCharacterIsTwoCodes) {
+    EXPECT_EQ(CodesOf("\x81\\\\"), (Codes{0x81, '\\', 220}));
+}
+
+TEST(HostKeyCodes, CrLfIsOneEnterKey) {
+    EXPECT_EQ(CodesOf("a\r\nb\r\r\n"), (Codes{'A', 13, 'B', 13, 13}));
+}
+
+TEST(HostKeyCodes, LoneLfIsItsOwnCode) {
+    EXPECT_EQ(CodesOf("\na\nb"), (Codes{10, 'A', 10, 'B'}));
+}
+
+TEST(LoadAndRun, IsTwoLines) {
+    EXPECT_EQ(LoadAndRun("Core\\Programs\\CSBackup"), "Load Core\\Programs\\CSBackup\rRun\r");
+}
+
+TEST(StartSystem, AnswersTheStartProgramWithTheSystemCode) {
+    EXPECT_EQ(StartSystem("UB"), "Load Core\\StartSys\rRun\rUB\r");
+}
+
+TEST(HostStartArguments, HaveThePlainNumber) {
+    EXPECT_EQ(HostStartArguments(5), "run core\\start -5");
+}
+
+TEST(StationCaption, HasAtLeastTwoDigits) {
+    EXPECT_EQ(StationCaption(5), "Obrin-05");
+    EXPECT_EQ(StationCaption(12), "Obrin-12");
 }
 
 } // namespace

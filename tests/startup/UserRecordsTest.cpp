@@ -4,41 +4,68 @@
 
 namespace obrin {
 
-TEST(UserRecords, HaveTheirFieldsAtFixedPlaces) {
-    EXPECT_EQ(UserWsidRecord("  anna ", 42), "anna" + std::string(96, ' ') + '\x2A' + std::string(101, '\0'));
-    EXPECT_EQ(UserWsidRecord(std::string(120, 'n'), 300).substr(99, 4), std::string("n\x2C\x01\0", 4));
-    EXPECT_EQ(MarkerFileName(-7), "Menu-7.txt");
+static const std::string anna = UserWsidRecord("anna", 3);
+static const std::string bert = UserWsidRecord("bert", 7);
+
+TEST(UserWsidRecord, IsNameThenNumberThenZeros) {
+    EXPECT_EQ(UserWsidRecord(" anna ", 0x1234),
+              "anna" + std::string(96, ' ') + "\x34\x12" + std::string(100, '\0'));
 }
 
-TEST(UserRecords, ScanCountsRecordsAndLetsTheLastMatchWin) {
-    const std::string anna = UserWsidRecord("anna", 3);
-    const std::string other = UserWsidRecord("Anna", 4);
-    struct {
-        std::string file;
-        int wsid;
-        std::size_t records;
-    } const cases[] = {
-        {"", 0, 0},
-        {anna + other, 3, 2},
-        {anna + other + UserWsidRecord("anna", 9), 9, 3},
-        {anna + UserWsidRecord("annabel", 7), 3, 2},
-        {"x" + anna, 0, 1},                    // found at multiples of 202 only
-        {other + anna.substr(0, 102), 3, 2},   // a last slot may stop behind its number
-        {other + anna.substr(0, 101), 0, 1},   // a fragment is no record
-        {UserWsidRecord("anna", 300), 300, 1}, // both bytes count
-    };
-    for (const auto& [file, wsid, records] : cases) {
-        const auto scan = ScanUserRecords(file, " anna ");
-        EXPECT_EQ(std::pair(int{scan.wsid}, scan.recordsRead), std::pair(wsid, records));
-    }
+TEST(UserWsidRecord, CutsALongName) {
+    EXPECT_EQ(UserWsidRecord(std::string(120, 'n'), 42).substr(0, 101), std::string(100, 'n') + '\x2A');
 }
 
-TEST(UserRecords, AnswersAreWholeNumbersFromOneToNinetyNine) {
-    for (const char* answer : {"", " ", "0", "100", "2.5", "abc", "-1", "5x", "99.5", "1e2", "nan", "1 2"})
-        EXPECT_FALSE(ParseWsidAnswer(answer)) << answer;
-    const std::pair<const char*, int> valid[] = {{"1", 1}, {"99", 99}, {" 12 ", 12}, {"5.0", 5}, {"+7", 7}};
-    for (const auto& [answer, wsid] : valid)
-        EXPECT_EQ(ParseWsidAnswer(answer), wsid) << answer;
+TEST(ReadUserRecords, FindsARecordInEachSlot) {
+    const std::string file = anna + bert;
+    const auto records = ReadUserRecords(file);
+    ASSERT_EQ(records.size(), 2U);
+    EXPECT_EQ(records[0].name, "anna");
+    EXPECT_EQ(records[0].wsid, 3);
+    EXPECT_EQ(records[1].name, "bert");
+    EXPECT_EQ(records[1].wsid, 7);
+}
+
+TEST(ReadUserRecords, ReadsNumbersOfTwoBytesWithTheirSign) {
+    EXPECT_EQ(ReadUserRecords(UserWsidRecord("anna", 300)).at(0).wsid, 300);
+    EXPECT_EQ(ReadUserRecords(UserWsidRecord("anna", -2)).at(0).wsid, -2);
+}
+
+TEST(ReadUserRecords, LastSlotMayEndAfterItsNumber) {
+    EXPECT_EQ(ReadUserRecords(anna + bert.substr(0, 102)).size(), 2U);
+    EXPECT_EQ(ReadUserRecords(anna + bert.substr(0, 101)).size(), 1U) << "a fragment is no record";
+}
+
+TEST(ScanUserRecords, FindsTheNumberInTheLastRecordOfTheUser) {
+    EXPECT_EQ(ScanUserRecords(bert + anna, " anna ").wsid, 3);
+    EXPECT_EQ(ScanUserRecords(anna + UserWsidRecord("anna", 9) + bert, "anna").wsid, 9);
+}
+
+TEST(ScanUserRecords, FindsZeroWithoutARecordOfExactlyThatName) {
+    for (const char* name : {"Anna", "ann", "annabel", ""})
+        EXPECT_EQ(ScanUserRecords(anna + bert, name).wsid, 0) << name;
+}
+
+TEST(ScanUserRecords, CountsTheRecordsOfAllUsers) {
+    EXPECT_EQ(ScanUserRecords(anna + bert, "anna").recordsRead, 2U);
+    EXPECT_EQ(ScanUserRecords("", "anna").recordsRead, 0U);
+}
+
+TEST(ParseWsidAnswer, TakesAWholeNumberFromOneToNinetyNine) {
+    EXPECT_EQ(ParseWsidAnswer("1"), 1);
+    EXPECT_EQ(ParseWsidAnswer("99"), 99);
+    EXPECT_EQ(ParseWsidAnswer(" 12 "), 12);
+    EXPECT_EQ(ParseWsidAnswer("5.0"), 5);
+}
+
+TEST(ParseWsidAnswer, RefusesEverythingElse) {
+    for (const char* answer : {"", "0", "100", "2.5", "-1", "abc", "5x", "1 2", "1e2"})
+        EXPECT_EQ(ParseWsidAnswer(answer), std::nullopt) << answer;
+}
+
+TEST(MarkerFileName, HasABlankBeforeTheNumber) {
+    EXPECT_EQ(MarkerFileName(5), "Menu 5.txt");
+    EXPECT_EQ(MarkerFileName(12), "Menu 12.txt");
 }
 
 } // namespace obrin
