@@ -1,5 +1,7 @@
-// What the fuzz targets share: the input as text, and a check that ends the run.
+// What the fuzz targets share: the input as text, the made-up code page, and a check that ends the run.
 #pragma once
+
+#include "support/CodePage.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -8,13 +10,11 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
+using obrin::test::IsLeadByte;
+using obrin::test::UpperCase;
+
 inline std::string_view Text(const std::uint8_t* data, std::size_t size) {
     return {reinterpret_cast<const char*>(data), size};
-}
-
-// Of a made-up code page.
-inline bool IsLeadByte(char byte) {
-    return static_cast<unsigned char>(byte) >= 0x81 && static_cast<unsigned char>(byte) <= 0x9F;
 }
 
 inline void Require(bool holds) {
