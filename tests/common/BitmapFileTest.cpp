@@ -15,10 +15,16 @@ std::string Bytes(std::uint32_t number, std::size_t size) {
     return bytes;
 }
 
-// The header of a picture without a palette, as it should be.
+// The header of a picture of two rows of four pixels, without a palette.
 struct Header {
-    std::uint32_t pixelsAt = 54, headerBytes = 40, width = 4, height = 2, bits = 24, compression = 0,
-                  stored = 0, colours = 0;
+    std::uint32_t pixelsAt = 54;
+    std::uint32_t headerBytes = 40;
+    std::uint32_t width = 4;
+    std::uint32_t height = 2;
+    std::uint32_t bits = 24;
+    std::uint32_t compression = 0;
+    std::uint32_t stored = 0;
+    std::uint32_t colours = 0;
 
     std::string Text() const {
         return "BM" + Bytes(0, 8) + Bytes(pixelsAt, 4) + Bytes(headerBytes, 4) + Bytes(width, 4) +
@@ -27,53 +33,94 @@ struct Header {
     }
 };
 
-constexpr std::uint64_t wholeSize = 54 + 2 * 12; // two rows of four pixels of three bytes
+// The oldest kind of header, with sizes of two bytes.
+std::string OldHeader(std::uint32_t pixelsAt, std::uint32_t bits) {
+    return "BM" + Bytes(0, 8) + Bytes(pixelsAt, 4) + Bytes(12, 4) + Bytes(4, 2) + Bytes(2, 2) + Bytes(1, 2) +
+           Bytes(bits, 2);
+}
 
-TEST(BitmapFile, HoldsAsManyBytesAsItsHeaderSays) {
+constexpr std::uint64_t wholeSize = 54 + 2 * 12; // rows of four pixels of three bytes
+constexpr std::uint64_t largeSize = 1ULL << 40;  // larger than any picture
+constexpr auto runLength8 = 1;
+constexpr auto runLength4 = 2;
+constexpr auto bitFields = 3;
+
+TEST(IsWholeBitmap, FileHoldsEveryRow) {
     EXPECT_TRUE(IsWholeBitmap(Header{}.Text(), wholeSize));
-    EXPECT_TRUE(IsWholeBitmap(Header{.height = static_cast<std::uint32_t>(-2)}.Text(), wholeSize))
-        << "upper row first";
-    EXPECT_FALSE(IsWholeBitmap(Header{}.Text(), wholeSize - 1)) << "cut off";
+    EXPECT_FALSE(IsWholeBitmap(Header{}.Text(), wholeSize - 1));
+    EXPECT_FALSE(IsWholeBitmap(Header{.pixelsAt = wholeSize + 1}.Text(), wholeSize));
 }
 
-TEST(BitmapFile, HeaderThatLiesIsRefused) {
-    const std::pair<const char*, Header> cases[] = {
-        {"more rows than bytes", {.height = 3}},
-        {"wider than any screen", {.width = 0x7FFFFFFF}},
-        {"rows beyond any number", {.height = 0x80000000}},
-        {"no width", {.width = 0}},
-        {"no height", {.height = 0}},
-        {"pixels behind the end", {.pixelsAt = 78}},
-        {"pixels in the header", {.pixelsAt = 20}},
-        {"a header of no known size", {.headerBytes = 13}},
-        {"a header longer than the file", {.headerBytes = 0xFFFFFFF0}},
-        {"no such number of bits", {.bits = 7}},
-        {"no such compression", {.compression = 4}},
-        {"a palette that the file has no room for", {.bits = 8}},
-        {"more colours than the bits tell apart", {.bits = 4, .colours = 17}},
-        {"more packed bytes than the file has", {.bits = 8, .compression = 1, .stored = 100, .colours = 1}},
-    };
-    for (const auto& [name, header] : cases)
-        EXPECT_FALSE(IsWholeBitmap(header.Text(), wholeSize)) << name;
+TEST(IsWholeBitmap, NegativeHeightIsThatOfAPictureWithTheUpperRowFirst) {
+    const Header header{.height = static_cast<std::uint32_t>(-2)};
+    EXPECT_TRUE(IsWholeBitmap(header.Text(), wholeSize));
+    EXPECT_FALSE(IsWholeBitmap(header.Text(), wholeSize - 1));
 }
 
-TEST(BitmapFile, PaletteStandsBetweenHeaderAndPixels) {
+TEST(IsWholeBitmap, RowIsWhole32BitWords) {
     const Header header{.pixelsAt = 54 + 8, .bits = 1, .colours = 2};
-    EXPECT_TRUE(IsWholeBitmap(header.Text(), 54 + 8 + 2 * 4)); // rows of whole 32-bit words
-    EXPECT_FALSE(IsWholeBitmap(header.Text(), 54 + 8 + 4));
+    EXPECT_TRUE(IsWholeBitmap(header.Text(), 54 + 8 + 2 * 4));
+    EXPECT_FALSE(IsWholeBitmap(header.Text(), 54 + 8 + 2 * 4 - 1));
 }
 
-TEST(BitmapFile, OldHeaderHasShortSizes) {
-    const std::string old = "BM" + Bytes(0, 8) + Bytes(26, 4) + Bytes(12, 4) + Bytes(4, 2) + Bytes(2, 2) +
-                            Bytes(1, 2) + Bytes(24, 2);
-    EXPECT_TRUE(IsWholeBitmap(old + std::string(24, 'x'), 26 + 24));
-    EXPECT_FALSE(IsWholeBitmap(old + std::string(23, 'x'), 26 + 23));
+TEST(IsWholeBitmap, CompressedPictureHoldsItsStoredBytes) {
+    const Header header{.pixelsAt = 54 + 1024, .bits = 8, .compression = runLength8, .stored = 100};
+    EXPECT_TRUE(IsWholeBitmap(header.Text(), 54 + 1024 + 100));
+    EXPECT_FALSE(IsWholeBitmap(header.Text(), 54 + 1024 + 99));
 }
 
-TEST(BitmapFile, OtherFilesAreNone) {
-    EXPECT_FALSE(IsWholeBitmap("", 0));
-    EXPECT_FALSE(IsWholeBitmap("BM", 2));
-    EXPECT_FALSE(IsWholeBitmap("PK" + Header{}.Text().substr(2), wholeSize));
+TEST(IsWholeBitmap, OldHeaderHasAPaletteOfThreeBytesAColour) {
+    EXPECT_TRUE(IsWholeBitmap(OldHeader(26, 24), 26 + 24));
+    EXPECT_FALSE(IsWholeBitmap(OldHeader(26, 24), 26 + 23));
+    EXPECT_TRUE(IsWholeBitmap(OldHeader(26 + 2 * 3, 1), largeSize));
+    EXPECT_FALSE(IsWholeBitmap(OldHeader(26 + 2 * 3 - 1, 1), largeSize));
+}
+
+TEST(IsWholeBitmap, EveryKindOfPictureIsAccepted) {
+    struct {
+        const char* kind;
+        Header header;
+    } const cases[] = {
+        {"largest", {.width = 32767, .height = 32767}},
+        {"bit fields", {.bits = 16, .compression = bitFields}},
+        {"compressed 8 bits", {.pixelsAt = 2000, .bits = 8, .compression = runLength8, .stored = 8}},
+        {"compressed 4 bits", {.pixelsAt = 2000, .bits = 4, .compression = runLength4, .stored = 8}},
+    };
+    for (const auto& [kind, header] : cases)
+        EXPECT_TRUE(IsWholeBitmap(header.Text(), largeSize)) << kind;
+}
+
+TEST(IsWholeBitmap, HeaderThatLiesIsRefused) {
+    struct {
+        const char* lie;
+        Header header;
+    } const cases[] = {
+        {"no width", {.width = 0}},
+        {"wider than any screen", {.width = 32768}},
+        {"no height", {.height = 0}},
+        {"higher than any screen", {.height = 32768}},
+        {"height beyond any number", {.height = 0x80000000}},
+        {"pixels in the header", {.pixelsAt = 53}},
+        {"pixels in the palette", {.pixelsAt = 54 + 7, .bits = 1}},
+        {"header of unknown size", {.headerBytes = 13}},
+        {"header longer than the file", {.headerBytes = 0xFFFFFFF0}},
+        {"unknown number of bits", {.bits = 15}},
+        {"unknown compression", {.compression = 4, .stored = 8}},
+        {"more colours than the bits can name", {.pixelsAt = 2000, .bits = 4, .colours = 17}},
+        {"more colours than any palette has", {.pixelsAt = 2000, .colours = 257}},
+        {"bit fields with a palette", {.pixelsAt = 2000, .bits = 8, .compression = bitFields}},
+        {"compression of other bits", {.compression = runLength8, .stored = 8}},
+        {"compression without bytes", {.pixelsAt = 2000, .bits = 8, .compression = runLength8}},
+    };
+    for (const auto& [lie, header] : cases)
+        EXPECT_FALSE(IsWholeBitmap(header.Text(), largeSize)) << lie;
+}
+
+TEST(IsWholeBitmap, FileWithoutAWholeHeaderIsRefused) {
+    EXPECT_FALSE(IsWholeBitmap("", largeSize));
+    EXPECT_FALSE(IsWholeBitmap(OldHeader(26, 24).substr(0, 25), largeSize));
+    EXPECT_FALSE(IsWholeBitmap(Header{}.Text().substr(0, 53), largeSize));
+    EXPECT_FALSE(IsWholeBitmap("PK" + Header{}.Text().substr(2), largeSize)) << "of another format";
 }
 
 } // namespace
