@@ -11,10 +11,6 @@ TEST(FormatIniLine, PadsTheKeyTo18Characters) {
     EXPECT_EQ(FormatIniLine("123456789012345678", "UB"), "123456789012345678=     UB");
 }
 
-TEST(FormatIniLine, AcceptsAnEmptyValue) {
-    EXPECT_EQ(FormatIniLine("SaveToAsStart", ""), "SaveToAsStart     =     ");
-}
-
 TEST(FormatIniLine, RefusesALongerKey) {
     EXPECT_THROW(FormatIniLine("1234567890123456789", "UB"), RunTimeError);
 }

@@ -46,7 +46,7 @@ TEST(ReadsAsMargin, IsFalseForANumberThatIsOnlyNear) {
     EXPECT_FALSE(ReadsAsMargin("2.0501", 2050));
 }
 
-// The text with the caret, which is "|" in both.
+// Shows the caret as "|", in the text before and in the one that replaces it.
 std::string WithKeptCaret(std::string before, std::string after) {
     const auto caret = before.find('|');
     before.erase(caret, 1);
@@ -61,7 +61,7 @@ TEST(KeptCaret, KeepsItsPlaceRelativeToTheDecimalPoint) {
 
 TEST(KeptCaret, CountsFromTheEndOfATextWithoutAPoint) {
     EXPECT_EQ(WithKeptCaret("01|", "1"), "1|");
-    EXPECT_EQ(WithKeptCaret("1|", "1.5"), "1|.5");
+    EXPECT_EQ(WithKeptCaret("00|3", "3"), "|3");
 }
 
 TEST(KeptCaret, StaysInsideTheText) {
