@@ -1,0 +1,11 @@
+// Proves that any header of a picture can be read, and that a longer file holds what a shorter one does.
+#include "Fuzz.h"
+
+#include "common/BitmapFile.h"
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const auto file = Text(data, size);
+    if (obrin::IsWholeBitmap(file.substr(0, obrin::bitmapHeaderBytes), size))
+        Require(obrin::IsWholeBitmap(file.substr(0, obrin::bitmapHeaderBytes), size + 1));
+    return 0;
+}
