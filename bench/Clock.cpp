@@ -16,7 +16,7 @@ double Milliseconds(LONGLONG ticks) {
     return 1e3 * static_cast<double>(ticks) / static_cast<double>(frequency.QuadPart);
 }
 
-double Timed(const std::function<void()>& work) {
+double MeasureTime(const std::function<void()>& work) {
     const LONGLONG start = Now();
     work();
     return Milliseconds(Now() - start);
@@ -28,7 +28,8 @@ double Median(std::vector<double> values) {
     return values.size() % 2 == 1 ? values[middle] : (values[middle - 1] + values[middle]) / 2;
 }
 
-Medians Alternate(int runs, const std::function<double()>& product, const std::function<double()>& floor) {
+Medians MeasureAlternately(int runs, const std::function<double()>& product,
+                           const std::function<double()>& floor) {
     std::vector<double> products;
     std::vector<double> floors;
     std::vector<double> ratios;

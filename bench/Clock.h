@@ -15,7 +15,7 @@ LONGLONG Now();
 double Milliseconds(LONGLONG ticks);
 
 /// How long the work takes, in milliseconds.
-double Timed(const std::function<void()>& work);
+double MeasureTime(const std::function<void()>& work);
 
 double Median(std::vector<double> values);
 
@@ -26,6 +26,7 @@ struct Medians {
 
 /// Calls both alternately, `runs` times each after one call that does not count. Each returns what it
 /// measured.
-Medians Alternate(int runs, const std::function<double()>& product, const std::function<double()>& floor);
+Medians MeasureAlternately(int runs, const std::function<double()>& product,
+                           const std::function<double()>& floor);
 
 } // namespace obrin::bench

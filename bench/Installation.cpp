@@ -18,8 +18,8 @@ namespace obrin::bench {
 
 namespace {
 
-[[noreturn]] void ThrowLastError(const std::string& doing) {
-    throw std::system_error(static_cast<int>(GetLastError()), std::system_category(), doing);
+[[noreturn]] void ThrowLastError(const std::string& action) {
+    throw std::system_error(static_cast<int>(GetLastError()), std::system_category(), action);
 }
 
 double ThreadTime(DWORD id) {
@@ -37,13 +37,13 @@ double ThreadTime(DWORD id) {
     return (value(kernel) + value(user)) / perMillisecond;
 }
 
-void AwaitEnd(const UniqueHandle& process) {
-    Await("the end of a process", [&] { return WaitForSingleObject(process.get(), 0) == WAIT_OBJECT_0; });
+void WaitForEnd(const UniqueHandle& process) {
+    WaitFor("the end of a process", [&] { return WaitForSingleObject(process.get(), 0) == WAIT_OBJECT_0; });
 }
 
 } // namespace
 
-void Await(const std::string& what, const std::function<bool()>& condition) {
+void WaitFor(const std::string& what, const std::function<bool()>& condition) {
     constexpr double longest = 30'000; // milliseconds
     for (const LONGLONG start = Now(); !condition(); Sleep(1)) {
         if (Milliseconds(Now() - start) > longest)
@@ -121,8 +121,8 @@ RunningMenu::~RunningMenu() {
     TerminateProcess(process.get(), 1); // without effect on a process that has ended
 }
 
-void RunningMenu::AwaitShown() const {
-    Await("the menu's window", [this] { return IsWindowVisible(Window()) != FALSE; });
+void RunningMenu::WaitUntilShown() const {
+    WaitFor("the menu's window", [this] { return IsWindowVisible(Window()) != FALSE; });
 }
 
 // Thread by thread, because Wine does not report the CPU time of another process.
@@ -156,10 +156,10 @@ void RunningMenu::Close() const {
     if (!hostProcess)
         ThrowLastError("opening the host's process");
     PostMessageA(Window(), WM_CLOSE, 0, 0);
-    AwaitEnd(process);
+    WaitForEnd(process);
     // A menu that shows its window has typed the host's exit command; other hosts are still open.
     PostMessageA(host, WM_CLOSE, 0, 0);
-    AwaitEnd(hostProcess);
+    WaitForEnd(hostProcess);
 }
 
 } // namespace obrin::bench

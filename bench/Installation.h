@@ -54,7 +54,7 @@ public:
     RunningMenu& operator=(const RunningMenu&) = delete;
     ~RunningMenu();
 
-    void AwaitShown() const;
+    void WaitUntilShown() const;
     /// CPU time of all threads that still run, in milliseconds.
     double CpuTime() const;
     /// The most private memory up to the end of the first painting, in MB.
@@ -72,6 +72,6 @@ private:
 
 /// Tries about every millisecond until `condition` holds. Throws after half a minute and names what it waited
 /// for.
-void Await(const std::string& what, const std::function<bool()>& condition);
+void WaitFor(const std::string& what, const std::function<bool()>& condition);
 
 } // namespace obrin::bench

@@ -95,15 +95,15 @@ void MeasureSave() {
     // Another value each time, because the product does not write what the file holds already.
     const auto change = [](std::string& text) { text.back() ^= 1; };
     PrintRatio("saving a settings file", "ms",
-               Alternate(
+               MeasureAlternately(
                    runs,
                    [&] {
                        change(values.back());
-                       return Timed([&] { SaveSystemSettings(path, values); });
+                       return MeasureTime([&] { SaveSystemSettings(path, values); });
                    },
                    [&] {
                        change(bytes);
-                       return Timed([&] { SaveBare(path, bytes); });
+                       return MeasureTime([&] { SaveBare(path, bytes); });
                    }),
                1.25);
 }
@@ -115,9 +115,9 @@ void MeasureLoad() {
     const std::string path = SettingsPath(key);
     WriteDefaultSettings(path, key);
     PrintRatio("loading a settings file", "ms",
-               Alternate(
-                   runs, [&] { return Timed([&] { LoadSystemSettings(path); }); },
-                   [&] { return Timed([&] { LoadBare(path); }); }),
+               MeasureAlternately(
+                   runs, [&] { return MeasureTime([&] { LoadSystemSettings(path); }); },
+                   [&] { return MeasureTime([&] { LoadBare(path); }); }),
                1.25);
 }
 
@@ -134,7 +134,7 @@ void MeasureDialog() {
     const SupportLibrary corvel;
     const std::string programKey = key;
     PrintRatio("opening the Properties dialog", "ms",
-               Alternate(
+               MeasureAlternately(
                    runs, [&] { return TimeToShown([&] { Form2(corvel, programKey).Show(owner); }); },
                    [&] {
                        return TimeToShown([&] {

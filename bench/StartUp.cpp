@@ -22,7 +22,7 @@ namespace {
 double StartTime(const MenuProgram& program) {
     const LONGLONG start = Now();
     const RunningMenu menu(program);
-    menu.AwaitShown();
+    menu.WaitUntilShown();
     const double time = Milliseconds(Now() - start);
     menu.Close();
     return time;
@@ -30,7 +30,7 @@ double StartTime(const MenuProgram& program) {
 
 double PeakMemory(const MenuProgram& program) {
     const RunningMenu menu(program);
-    menu.AwaitShown();
+    menu.WaitUntilShown();
     const double memory = menu.PeakMemory();
     menu.Close();
     return memory;
@@ -42,7 +42,7 @@ void MeasureStart() {
     const Installation installation(demoHost);
     constexpr int runs = 25;
     PrintRatio("start to the shown menu, host there at once", "ms",
-               Alternate(
+               MeasureAlternately(
                    runs, [] { return StartTime(product); }, [] { return StartTime(bare); }),
                1.10);
 }
@@ -51,7 +51,7 @@ void MeasureMemory() {
     const Installation installation(demoHost);
     constexpr int runs = 5;
     PrintRatio("peak private memory", "MB",
-               Alternate(
+               MeasureAlternately(
                    runs, [] { return PeakMemory(product); }, [] { return PeakMemory(bare); }),
                1.20);
 }

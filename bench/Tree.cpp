@@ -29,7 +29,7 @@ HWND CreateTree(HWND frame, int left) {
 
 double ShowByProduct(MenuTree& tree) {
     ProcessPendingEvents();
-    return Timed([&] {
+    return MeasureTime([&] {
         tree.Clear();
         tree.Fill(ParseMenuDefinition(ReadFileBytes("UB.mnu"), CodePageLeadByteTest()).entries);
         UpdateWindow(tree.Window());
@@ -40,7 +40,7 @@ double ShowByProduct(MenuTree& tree) {
 double ShowByBareCalls(HWND tree, std::vector<Entry>& entries) {
     ProcessPendingEvents();
     std::vector<HTREEITEM> items(entries.size());
-    return Timed([&] {
+    return MeasureTime([&] {
         TVINSERTSTRUCTA insertion{};
         insertion.hInsertAfter = TVI_LAST;
         insertion.item.mask = TVIF_TEXT;
@@ -75,7 +75,7 @@ void MeasureEntries(const char* what, int count, int runs, double target) {
     MenuTree tree;
     tree.Attach(CreateTree(frame, 0), {});
     const HWND bareTree = CreateTree(frame, treeWidth);
-    const Medians medians = Alternate(
+    const Medians medians = MeasureAlternately(
         runs, [&] { return ShowByProduct(tree); }, [&] { return ShowByBareCalls(bareTree, entries); });
     const auto isComplete = [=](HWND window) { return SendMessageA(window, TVM_GETCOUNT, 0, 0) == count; };
     const bool areComplete = isComplete(tree.Window()) && isComplete(bareTree);

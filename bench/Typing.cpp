@@ -15,7 +15,7 @@ void MeasureTyping() {
     constexpr int runs = 201;
     const Installation installation(lateHost);
     const RunningMenu menu(bare); // starts the host
-    menu.AwaitShown();
+    menu.WaitUntilShown();
     const HWND host = FindWindowA(hostWindowClass, nullptr);
 
     HostLink link(host);
@@ -30,9 +30,9 @@ void MeasureTyping() {
     };
     const auto count = static_cast<double>(keys.size());
     PrintRatio("typing a command, per key", "ms",
-               Alternate(
-                   runs, [&] { return Timed([&] { link.SendHostCommand(command); }) / count; },
-                   [&] { return Timed(sendKeys) / count; }),
+               MeasureAlternately(
+                   runs, [&] { return MeasureTime([&] { link.SendHostCommand(command); }) / count; },
+                   [&] { return MeasureTime(sendKeys) / count; }),
                1.05);
     menu.Close();
 }

@@ -17,10 +17,11 @@ namespace {
 // Per cent of a core while the host's window is there and never gets its caption.
 double WaitingShare() {
     const RunningMenu menu(product);
-    Await("the host's window", [] { return FindWindowA(hostWindowClass, nullptr) != nullptr; });
+    WaitFor("the host's window", [] { return FindWindowA(hostWindowClass, nullptr) != nullptr; });
     Sleep(3000); // the rest of the start, and the opening of the notice, are no waiting
     const double before = menu.CpuTime();
-    const double watched = Timed([] { Sleep(10'000); }); // CPU time is counted in steps of 10 milliseconds
+    const double watched =
+        MeasureTime([] { Sleep(10'000); }); // CPU time is counted in steps of 10 milliseconds
     const double share = 100 * (menu.CpuTime() - before) / watched;
     menu.Close();
     return share;
@@ -34,7 +35,7 @@ struct Delays {
 
 Delays StartWithLateHost(const MenuProgram& program) {
     const RunningMenu menu(program);
-    menu.AwaitShown();
+    menu.WaitUntilShown();
     const LONGLONG shown = Now();
     const HWND host = FindWindowA(hostWindowClass, nullptr);
     const LONGLONG caption = SendMessageA(host, askCaptionTime, 0, 0);
@@ -68,7 +69,7 @@ void MeasureWait() {
 void MeasureCaption() {
     const Installation installation(lateHost);
     PrintRatio("from the host's caption to the shown menu", "ms",
-               Alternate(
+               MeasureAlternately(
                    lateStarts, [] { return StartWithLateHost(product).untilShown; },
                    [] { return StartWithLateHost(bareWithAllCalls).untilShown; }),
                1.25);

@@ -21,7 +21,7 @@ bool IsModifier(WPARAM key) {
 
 } // namespace
 
-std::string Legible(const std::string& line) {
+std::string EscapeControlCharacters(const std::string& line) {
     std::string legible;
     for (const char c : line) {
         if (const auto code = static_cast<unsigned char>(c); code < ' ')
@@ -141,31 +141,31 @@ void CommandWindow::KeyUp(WPARAM key) {
 void CommandWindow::CompleteLine() {
     std::string line;
     line.swap(typed);
-    log.Write("line", Legible(line));
-    listener.LineTyped(Legible(line));
+    log.Write("line", EscapeControlCharacters(line));
+    listener.LineTyped(EscapeControlCharacters(line));
 
     if (!behaviour.hangLine.empty() && line == behaviour.hangLine) {
-        log.Write("hang", Legible(line));
+        log.Write("hang", EscapeControlCharacters(line));
         Sleep(behaviour.hangDuration);
     }
 
-    switch (interpreter.Take(line)) {
-    case Interpreter::Deed::Nothing:
+    switch (interpreter.Interpret(line)) {
+    case Interpreter::Action::Nothing:
         break;
-    case Interpreter::Deed::OpenProgram:
-        log.Write("run", Legible(interpreter.Program()));
+    case Interpreter::Action::OpenProgram:
+        log.Write("run", EscapeControlCharacters(interpreter.Program()));
         listener.ProgramStarted(interpreter.Program(), interpreter.System());
         break;
-    case Interpreter::Deed::StartSystem:
-        log.Write("system", Legible(interpreter.System()));
+    case Interpreter::Action::StartSystem:
+        log.Write("system", EscapeControlCharacters(interpreter.System()));
         break;
-    case Interpreter::Deed::Exit:
+    case Interpreter::Action::Exit:
         leaving = true;
         // For a sender that never lets the key go.
         SetTimer(window, leaveTimer, 1000, nullptr);
         break;
-    case Interpreter::Deed::NotUnderstood:
-        log.Write("unknown", Legible(line));
+    case Interpreter::Action::NotUnderstood:
+        log.Write("unknown", EscapeControlCharacters(line));
         break;
     }
 }
@@ -184,11 +184,11 @@ void CommandWindow::Paint() {
     std::array<char, 24> stationText{};
     wsprintfA(stationText.data(), "Workstation %02d", station);
     std::string state = stationText.data();
-    state +=
-        interpreter.System().empty() ? "      No system" : "      System " + Legible(interpreter.System());
+    state += interpreter.System().empty() ? "      No system"
+                                          : "      System " + EscapeControlCharacters(interpreter.System());
     if (!interpreter.Program().empty())
-        state += "      " + Legible(interpreter.Program());
-    const std::string prompt = "> " + Legible(typed) + "_";
+        state += "      " + EscapeControlCharacters(interpreter.Program());
+    const std::string prompt = "> " + EscapeControlCharacters(typed) + "_";
 
     PAINTSTRUCT paint{};
     HDC context = BeginPaint(window, &paint);

@@ -59,6 +59,6 @@ private:
 };
 
 /// A line with its control characters made visible, for the log and the screen.
-std::string Legible(const std::string& line);
+std::string EscapeControlCharacters(const std::string& line);
 
 } // namespace fenn

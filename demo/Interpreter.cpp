@@ -2,16 +2,16 @@
 
 namespace fenn {
 
-Interpreter::Deed Interpreter::Take(std::string_view line) {
+Interpreter::Action Interpreter::Interpret(std::string_view line) {
     if (systemCodeComesNext) {
         systemCodeComesNext = false;
         if (line.size() != 2)
-            return Deed::NotUnderstood;
+            return Action::NotUnderstood;
         system = line;
-        return Deed::StartSystem;
+        return Action::StartSystem;
     }
     if (line.empty())
-        return Deed::Nothing;
+        return Action::Nothing;
     if (line == "RUN")
         return RunLoaded();
 
@@ -19,25 +19,25 @@ Interpreter::Deed Interpreter::Take(std::string_view line) {
     constexpr std::string_view run = "RUN ";
     if (line.starts_with(load) && line.size() > load.size()) {
         program = line.substr(load.size());
-        return Deed::Nothing;
+        return Action::Nothing;
     }
     if (line.starts_with(run) && line.size() > run.size()) {
         program = line.substr(run.size());
         return RunLoaded();
     }
-    return Deed::NotUnderstood;
+    return Action::NotUnderstood;
 }
 
-Interpreter::Deed Interpreter::RunLoaded() {
+Interpreter::Action Interpreter::RunLoaded() {
     if (program.empty())
-        return Deed::NotUnderstood;
+        return Action::NotUnderstood;
     if (program == "CORE\\EXIT")
-        return Deed::Exit;
+        return Action::Exit;
     if (program == "CORE\\STARTSYS") {
         systemCodeComesNext = true;
-        return Deed::Nothing;
+        return Action::Nothing;
     }
-    return Deed::OpenProgram;
+    return Action::OpenProgram;
 }
 
 } // namespace fenn

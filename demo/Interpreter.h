@@ -11,9 +11,9 @@ namespace fenn {
 /// small letter's code is another key.
 class Interpreter {
 public:
-    enum class Deed { Nothing, OpenProgram, StartSystem, Exit, NotUnderstood };
+    enum class Action { Nothing, OpenProgram, StartSystem, Exit, NotUnderstood };
 
-    Deed Take(std::string_view line);
+    Action Interpret(std::string_view line);
 
     /// The loaded program's path; empty before the first.
     [[nodiscard]] const std::string& Program() const { return program; }
@@ -21,7 +21,7 @@ public:
     [[nodiscard]] const std::string& System() const { return system; }
 
 private:
-    Deed RunLoaded();
+    Action RunLoaded();
 
     std::string program;
     std::string system;

@@ -19,7 +19,7 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
     // session ends.
     SetProcessShutdownParameters(0x300, 0);
     obrin::frmMain menu; // outlives the box of an error, which lets its window's events through
-    return obrin::AtBoundary([&] {
+    return obrin::RunOrEndProgram([&] {
         // The shell opens documents and shortcuts through components that need it.
         CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE);
         const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_WIN95_CLASSES};

@@ -13,7 +13,7 @@ constexpr const char* temporaryConfigurationFile = "Core\\TempOut.tmp";
 constexpr const char* userRecordsFile = "UserWSID.sys";
 constexpr const char* updateRegisterFile = "Updated.txt";
 constexpr const char* startupPictureFile = "Startup.bmp";
-constexpr const char* menuFileEnding = ".mnu";
+constexpr const char* menuFileExtension = ".mnu";
 
 /// Environment variables of a workstation: the host's local folder, and the base folder of the settings.
 constexpr const char* localHostVariable = "Tessel";
@@ -25,7 +25,7 @@ constexpr const char* menuRegistryKey = "Software\\Obrin";
 constexpr const char* propertiesRegistryKey = "Software\\Obrin\\Menu";
 constexpr const char* lastSystemValue = "LastSystem";
 
-constexpr int mostSystems = 99; ///< item 99 of the System List is its template
-constexpr int mostWsid = 99;    ///< workstation numbers are 1 to 99
+constexpr int maxSystems = 99; ///< item 99 of the System List is its template
+constexpr int maxWsid = 99;    ///< workstation numbers are 1 to 99
 
 } // namespace obrin

@@ -41,7 +41,7 @@ std::string PaddedDecimal(int number, int digits) {
     return (number < 0 ? "-" : "") + text;
 }
 
-std::string ShortestThousandths(int thousandths) {
+std::string FormatThousandths(int thousandths) {
     std::string text = PaddedDecimal(thousandths, 4);
     text.insert(text.size() - 3, 1, '.');
     text.erase(text.find_last_not_of('0') + 1);

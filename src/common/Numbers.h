@@ -18,7 +18,7 @@ std::string PlainDecimal(int number);
 std::string PaddedDecimal(int number, int digits);
 
 /// Thousandths as a decimal number in the shortest form: 500 is "0.5", 1000 is "1".
-std::string ShortestThousandths(int thousandths);
+std::string FormatThousandths(int thousandths);
 
 /// The value of a text that is a decimal number as a whole (sign, point and exponent allowed, blanks around
 /// it ignored); nothing for any other text.

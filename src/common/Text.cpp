@@ -48,7 +48,7 @@ std::string_view TrimBlanks(std::string_view text) {
     return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
-std::string WithoutAccessKeyMarks(std::string_view caption) {
+std::string RemoveAccessKeyMarks(std::string_view caption) {
     std::string shown;
     for (std::size_t i = 0; i < caption.size(); ++i) {
         if (caption[i] == '&' && ++i == caption.size())
@@ -58,7 +58,7 @@ std::string WithoutAccessKeyMarks(std::string_view caption) {
     return shown;
 }
 
-std::string WithAmpersandsDoubled(std::string_view text) {
+std::string DoubleAmpersands(std::string_view text) {
     std::string doubled;
     for (const char character : text)
         doubled.append(character == '&' ? 2 : 1, character);

@@ -30,10 +30,10 @@ std::string_view FirstCharacters(std::string_view text, std::size_t count, LeadB
 std::string_view TrimBlanks(std::string_view text);
 
 /// As a caption is shown: "&", which marks an access key, left out, and "&&" as "&".
-std::string WithoutAccessKeyMarks(std::string_view caption);
+std::string RemoveAccessKeyMarks(std::string_view caption);
 
 /// A text for a control that takes "&" for the mark of an access key.
-std::string WithAmpersandsDoubled(std::string_view text);
+std::string DoubleAmpersands(std::string_view text);
 
 /// With a "\" appended when the last character is not one; an empty path becomes "\".
 std::string EnsureTrailingBackslash(std::string path, LeadByteTest isLeadByte);

@@ -40,7 +40,7 @@ INT_PTR CALLBACK Dialog::Procedure(HWND dialogWindow, UINT message, WPARAM wPara
     auto* dialog = reinterpret_cast<Dialog*>(GetWindowLongPtrA(dialogWindow, DWLP_USER));
     if (dialog == nullptr)
         return FALSE;
-    return AtBoundary([=] { return dialog->Handle(message, wParam, lParam); });
+    return RunOrEndProgram([=] { return dialog->Handle(message, wParam, lParam); });
 }
 
 INT_PTR Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -52,18 +52,18 @@ INT_PTR Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         return TRUE;
     case WM_DPICHANGED: {
         const auto* suggested = reinterpret_cast<const RECT*>(lParam);
-        LayOut(LOWORD(wParam), {suggested->left, suggested->top});
+        ApplyLayout(LOWORD(wParam), {suggested->left, suggested->top});
         return TRUE;
     }
     case WM_SYSCOLORCHANGE:
     case WM_SETTINGCHANGE:
-        for (const HWND control : WindowsWithin(window))
+        for (const HWND control : ListDescendants(window))
             SendMessageA(control, message, wParam, lParam);
         [[fallthrough]];
     case WM_THEMECHANGED: { // which Windows tells the controls
         RECT place;
         GetWindowRect(window, &place);
-        LayOut(dpi, {place.left, place.top});
+        ApplyLayout(dpi, {place.left, place.top});
         return FALSE;
     }
     default:
@@ -73,7 +73,7 @@ INT_PTR Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
 
 DialogLayout Dialog::LayoutAt(UINT someDpi) const {
     DialogLayout layout = design->At(someDpi);
-    Adjust(layout);
+    AdjustLayout(layout);
     return layout;
 }
 
@@ -83,7 +83,7 @@ SIZE Dialog::OuterSize(const DialogLayout& layout, UINT someDpi) const {
     return {outer.right - outer.left, outer.bottom - outer.top};
 }
 
-void Dialog::LayOut(UINT newDpi, POINT topLeft) {
+void Dialog::ApplyLayout(UINT newDpi, POINT topLeft) {
     dpi = newDpi;
     DialogLayout layout = LayoutAt(dpi);
     for (const auto& [control, place] : layout.places) {
@@ -92,7 +92,7 @@ void Dialog::LayOut(UINT newDpi, POINT topLeft) {
                      place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
     }
     font.swap(layout.font); // the old one goes when no control has it any more
-    LaidOut();
+    OnLayout();
     RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
     // Last: whatever the resize starts may close the dialog.
     const SIZE outer = OuterSize(layout, dpi);

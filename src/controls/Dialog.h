@@ -29,14 +29,14 @@ protected:
     virtual INT_PTR OnMessage(UINT message, WPARAM wParam, LPARAM lParam) = 0;
 
     /// What a layout has that the template does not say, such as the height of a text.
-    virtual void Adjust(DialogLayout&) const {}
+    virtual void AdjustLayout(DialogLayout&) const {}
 
     /// The controls have got the places and the font for `dpi`; what has other ones gets them here. Not
     /// called for a dialog as it was made.
-    virtual void LaidOut() {}
+    virtual void OnLayout() {}
 
     /// Lays the dialog out anew and puts it there.
-    void LayOut(UINT newDpi, POINT topLeft);
+    void ApplyLayout(UINT newDpi, POINT topLeft);
 
     /// The size of its window at a DPI, in pixels.
     SIZE OuterSizeAt(UINT someDpi) const { return OuterSize(LayoutAt(someDpi), someDpi); }
@@ -45,7 +45,7 @@ protected:
     void AddPage(HWND page) { design->AddControlsOf(page); }
 
     /// One of the dialog's controls or its pages'.
-    HWND Control(int id) const { return design->ControlOf(id); }
+    HWND Control(int id) const { return design->FindControl(id); }
 
     HWND window = nullptr;
     UINT dpi = USER_DEFAULT_SCREEN_DPI;

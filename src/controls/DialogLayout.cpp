@@ -10,7 +10,7 @@ namespace {
 
 constexpr int pointsPerInch = 72;
 
-SIZE CharacterOf(HDC context) {
+SIZE MeasureCharacter(HDC context) {
     constexpr std::string_view letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
     SIZE extent{};
     GetTextExtentPoint32A(context, letters.data(), letters.size(), &extent);
@@ -25,7 +25,7 @@ constexpr SIZE unitsOfCharacter{4, 8};
 
 // From one measure of a character to another: place and size each for itself, as the dialog manager does.
 // From pixels to units this is exact, since a unit is larger than a pixel.
-RECT Converted(const RECT& place, SIZE from, SIZE to) {
+RECT Convert(const RECT& place, SIZE from, SIZE to) {
     const int left = MulDiv(place.left, to.cx, from.cx);
     const int top = MulDiv(place.top, to.cy, from.cy);
     return {left, top, left + MulDiv(place.right - place.left, to.cx, from.cx),
@@ -34,7 +34,7 @@ RECT Converted(const RECT& place, SIZE from, SIZE to) {
 
 } // namespace
 
-RECT& DialogLayout::PlaceOf(HWND control) {
+RECT& DialogLayout::BoundsOf(HWND control) {
     return std::ranges::find(places, control, &Place::control)->place;
 }
 
@@ -45,13 +45,13 @@ DialogDesign::DialogDesign(HWND dialog) {
     GetObjectA(reinterpret_cast<HFONT>(SendMessageA(dialog, WM_GETFONT, 0, 0)), sizeof font, &font);
     points = MulDiv(-font.lfHeight, pointsPerInch, static_cast<int>(GetDpiForWindow(dialog)));
     GetClientRect(dialog, &area);
-    area = Converted(area, character, unitsOfCharacter);
+    area = Convert(area, character, unitsOfCharacter);
     inner = {area.right, area.bottom};
     AddControlsOf(dialog);
 }
 
 void DialogDesign::AddControlsOf(HWND parent) {
-    for (const HWND control : WindowsWithin(parent)) {
+    for (const HWND control : ListDescendants(parent)) {
         if (GetAncestor(control, GA_PARENT) != parent)
             continue; // a part of a control
         RECT place;
@@ -59,11 +59,11 @@ void DialogDesign::AddControlsOf(HWND parent) {
         if (SendMessageA(control, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&place)) == 0)
             GetWindowRect(control, &place);
         MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&place), 2);
-        places.push_back({control, Converted(place, character, unitsOfCharacter)});
+        places.push_back({control, Convert(place, character, unitsOfCharacter)});
     }
 }
 
-HWND DialogDesign::ControlOf(int id) const {
+HWND DialogDesign::FindControl(int id) const {
     const auto found =
         std::ranges::find(places, id, [](const auto& place) { return GetDlgCtrlID(place.control); });
     return found == places.end() ? nullptr : found->control;
@@ -77,13 +77,13 @@ DialogLayout DialogDesign::At(UINT dpi) const {
 
     const UniqueDc context(CreateCompatibleDC(nullptr));
     const HGDIOBJ old = SelectObject(context.get(), layout.font.get());
-    const SIZE pixels = CharacterOf(context.get());
+    const SIZE pixels = MeasureCharacter(context.get());
     SelectObject(context.get(), old);
 
-    const RECT area = Converted({0, 0, inner.cx, inner.cy}, unitsOfCharacter, pixels);
+    const RECT area = Convert({0, 0, inner.cx, inner.cy}, unitsOfCharacter, pixels);
     layout.inner = {area.right, area.bottom};
     for (auto& [control, place] : layout.places)
-        place = Converted(place, unitsOfCharacter, pixels);
+        place = Convert(place, unitsOfCharacter, pixels);
     return layout;
 }
 

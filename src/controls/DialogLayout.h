@@ -20,7 +20,7 @@ struct DialogLayout {
     std::vector<Place> places;
 
     /// Of one of the dialog's own controls.
-    RECT& PlaceOf(HWND control);
+    RECT& BoundsOf(HWND control);
 };
 
 /// What the template of a dialog says.
@@ -34,7 +34,7 @@ public:
 
     /// The control of this id, those of dialogs within counted; 0 without one. To ask the platform for each
     /// would take longer.
-    HWND ControlOf(int id) const;
+    HWND FindControl(int id) const;
 
     DialogLayout At(UINT dpi) const;
 

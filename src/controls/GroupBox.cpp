@@ -13,7 +13,7 @@ void Fill(HWND box, HDC target) {
     FillRect(target, &inner, GetSysColorBrush(COLOR_BTNFACE));
 }
 
-LRESULT OwnAnswer(HWND box, UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT CallOriginal(HWND box, UINT message, WPARAM wParam, LPARAM lParam) {
     const auto ownProcedure = reinterpret_cast<WNDPROC>(GetWindowLongPtrA(box, GWLP_USERDATA));
     return CallWindowProcW(ownProcedure, box, message, wParam, lParam);
 }
@@ -21,7 +21,7 @@ LRESULT OwnAnswer(HWND box, UINT message, WPARAM wParam, LPARAM lParam) {
 // The inside, then caption and border on it.
 LRESULT Print(HWND box, HDC target, LPARAM what) {
     Fill(box, target);
-    return OwnAnswer(box, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(target), what);
+    return CallOriginal(box, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(target), what);
 }
 
 // Inside and border reach the screen at once: erased first, the border would flicker while the window is
@@ -55,7 +55,7 @@ LRESULT CALLBACK Procedure(HWND box, UINT message, WPARAM wParam, LPARAM lParam)
         Paint(box);
         return 0;
     default:
-        return OwnAnswer(box, message, wParam, lParam);
+        return CallOriginal(box, message, wParam, lParam);
     }
 }
 

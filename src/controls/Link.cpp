@@ -57,7 +57,7 @@ LRESULT OnMessage(HWND label, UINT message, WPARAM wParam, LPARAM lParam) {
 
 LRESULT CALLBACK Procedure(HWND label, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
                            DWORD_PTR) noexcept {
-    return AtBoundary([=] { return OnMessage(label, message, wParam, lParam); });
+    return RunOrEndProgram([=] { return OnMessage(label, message, wParam, lParam); });
 }
 
 // Gives the label the role of a link for screen readers. A platform without this service leaves it a label.

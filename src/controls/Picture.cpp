@@ -7,10 +7,10 @@
 namespace obrin {
 
 UniqueBitmap LoadPicture(const std::string& path) {
-    const std::string doing = "Loading the picture " + path;
+    const std::string action = "Loading the picture " + path;
     File file(path, File::Use::Read);
     if (!IsWholeBitmap(file.Read(bitmapHeaderBytes), file.Size()))
-        throw RunTimeError(PlatformError::InvalidData, doing);
+        throw RunTimeError(PlatformError::InvalidData, action);
     file.Close();
     SetLastError(0);
     UniqueBitmap picture(static_cast<HBITMAP>(
@@ -18,8 +18,8 @@ UniqueBitmap LoadPicture(const std::string& path) {
     if (picture)
         return picture;
     if (GetLastError() != 0)
-        ThrowLastError(doing);
-    throw RunTimeError(PlatformError::InvalidData, doing); // the call itself is silent about bad contents
+        ThrowLastError(action);
+    throw RunTimeError(PlatformError::InvalidData, action); // the call itself is silent about bad contents
 }
 
 UniqueBitmap ScalePicture(HBITMAP picture, UINT dpi) {

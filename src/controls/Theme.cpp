@@ -8,7 +8,7 @@ namespace {
 
 // The routines are null without the library.
 struct UxTheme {
-    UniqueLibrary library = LoadFrom("UxTheme.dll", LOAD_LIBRARY_SEARCH_SYSTEM32);
+    UniqueLibrary library = LoadLibraryFrom("UxTheme.dll", LOAD_LIBRARY_SEARCH_SYSTEM32);
     decltype(&BeginBufferedPaint) begin = FindRoutine<decltype(begin)>(library, "BeginBufferedPaint");
     decltype(&EndBufferedPaint) end = FindRoutine<decltype(end)>(library, "EndBufferedPaint");
     decltype(&EnableThemeDialogTexture) enableTexture =

@@ -59,7 +59,7 @@ BOOL CALLBACK Add(HWND within, LPARAM list) {
 
 } // namespace
 
-std::vector<HWND> WindowsWithin(HWND window) {
+std::vector<HWND> ListDescendants(HWND window) {
     std::vector<HWND> windows;
     EnumChildWindows(window, Add, reinterpret_cast<LPARAM>(&windows));
     return windows;

@@ -23,6 +23,6 @@ void IgnoreHeldEnter(HWND button);
 void CentreOnScreen(HWND window, SIZE outer);
 
 /// All descendants of a window.
-std::vector<HWND> WindowsWithin(HWND window);
+std::vector<HWND> ListDescendants(HWND window);
 
 } // namespace obrin

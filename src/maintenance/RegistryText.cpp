@@ -15,7 +15,7 @@ constexpr std::string_view hexDigits = "0123456789ABCDEF";
 
 // The bytes' codes in hexadecimal, from the last to the first, each without leading zeros, as it always was:
 // the bytes 05 01 give 15 and not 105.
-std::string DigitsFromLast(std::string_view bytes) {
+std::string HexDigitsFromLast(std::string_view bytes) {
     std::string digits;
     std::for_each(bytes.rbegin(), bytes.rend(), [&](char byte) {
         const auto code = static_cast<unsigned char>(byte);
@@ -45,7 +45,7 @@ std::optional<int> SignedValue(std::string_view digits) {
 
 // The general formatting leaves a text that is no number as it is.
 std::string NumberText(std::string_view bytes) {
-    const std::string digits = DigitsFromLast(bytes);
+    const std::string digits = HexDigitsFromLast(bytes);
     const auto value = SignedValue(digits);
     return value ? PlainDecimal(*value) : "&h" + digits;
 }

@@ -47,7 +47,7 @@ void frmAbout::Form_Load() {
     // Higher or lower than the template says, evenly up and down.
     RECT box;
     GetWindowRect(window, &box);
-    LayOut(dpi, {box.left, (box.top + box.bottom - OuterSizeAt(dpi).cy) / 2});
+    ApplyLayout(dpi, {box.left, (box.top + box.bottom - OuterSizeAt(dpi).cy) / 2});
 }
 
 void frmAbout::cmdOK_Click() {
@@ -61,27 +61,27 @@ void frmAbout::cmdSysInfo_Click() {
 // The description keeps its width and gets the height of its text; what is below it moves with its lower
 // edge. A disclaimer that needs more than its room gets that too, and the buttons beside it stay at the
 // bottom.
-void frmAbout::Adjust(DialogLayout& layout) const {
+void frmAbout::AdjustLayout(DialogLayout& layout) const {
     const auto missing = [&](const RECT& place, const char* text) {
         return MeasureText(layout.font.get(), text, place.right - place.left).cy - (place.bottom - place.top);
     };
-    RECT& description = layout.PlaceOf(lblDescription);
+    RECT& description = layout.BoundsOf(lblDescription);
     const LONG below = description.bottom;
     const LONG growth = missing(description, descriptionText);
     description.bottom += growth;
     for (auto& [control, place] : layout.places)
         OffsetRect(&place, 0, place.top >= below ? growth : 0);
 
-    RECT& disclaimer = layout.PlaceOf(lblDisclaimer);
+    RECT& disclaimer = layout.BoundsOf(lblDisclaimer);
     const LONG more = std::max(0L, missing(disclaimer, disclaimerText));
     disclaimer.bottom += more;
     for (const int button : {IDOK, IDC_CMD_SYS_INFO})
-        OffsetRect(&layout.PlaceOf(Control(button)), 0, more);
+        OffsetRect(&layout.BoundsOf(Control(button)), 0, more);
     layout.inner.cy += growth + more;
 }
 
 // The picture and the large font.
-void frmAbout::LaidOut() {
+void frmAbout::OnLayout() {
     constexpr int iconSize = 32; // at 96 DPI
     const int pixels = MulDiv(iconSize, static_cast<int>(dpi), USER_DEFAULT_SCREEN_DPI);
     UniqueIcon newIcon(static_cast<HICON>(

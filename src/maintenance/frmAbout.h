@@ -18,8 +18,8 @@ private:
     void cmdOK_Click();
     void cmdSysInfo_Click();
 
-    void Adjust(DialogLayout& layout) const override;
-    void LaidOut() override;
+    void AdjustLayout(DialogLayout& layout) const override;
+    void OnLayout() override;
 
     HWND picIcon = nullptr;
     HWND lblTitle = nullptr;

@@ -22,7 +22,7 @@ constexpr UINT firstShown = WM_APP;
 constexpr UINT neverSent = WM_APP + 1;
 
 // A file that cannot be copied is passed over: the next one is tried, and nobody is told.
-void CopyUnexamined(const char* source, const std::string& destination) {
+void CopyIgnoringErrors(const char* source, const std::string& destination) {
     CopyFileA(source, destination.c_str(), FALSE);
 }
 
@@ -61,7 +61,7 @@ void frmUpdate::Form_Load() {
     Label2 = Control(IDC_LABEL2);
     Command1 = Control(IDOK);
     IgnoreHeldEnter(Command1); // held since the program was run, it would close the window at once
-    LaidOut();
+    OnLayout();
 
     // A quarter of its own height below the menu window's top and half its own width right of its left edge.
     RECT menu;
@@ -73,12 +73,12 @@ void frmUpdate::Form_Load() {
     SetWindowPos(window, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-void frmUpdate::LaidOut() {
+void frmUpdate::OnLayout() {
     UniqueFont newFont = MakeFont(georgia, 10, dpi);
     SetFont(Label1, newFont.get());
     SetFont(Label2, newFont.get());
     labelFont = std::move(newFont);
-    LayLabel();
+    PlaceLabel();
 }
 
 // Closed while files are copied, the window stays until they are: the register will say that the workstation
@@ -89,7 +89,7 @@ void frmUpdate::Command1_Click() {
         EndDialog(window, 0);
 }
 
-void frmUpdate::LayLabel() {
+void frmUpdate::PlaceLabel() {
     RECT inner;
     GetClientRect(window, &inner);
     const int height = inner.bottom;
@@ -99,7 +99,7 @@ void frmUpdate::LayLabel() {
 }
 
 void frmUpdate::Form_Resize() {
-    LayLabel();
+    PlaceLabel();
     // A resize can arrive while files are copied, from the events processed between two of them. Its copy
     // sequence then follows the one at work.
     if (++copiesDue > 1)
@@ -126,8 +126,9 @@ void frmUpdate::CopyFiles() {
         if (!IsWindow(window))
             return;
         show(destination);
-        CopyUnexamined(source, EnsureTrailingBackslash(EnvironmentVariable(localHostVariable), isLeadByte) +
-                                   destination);
+        CopyIgnoringErrors(source,
+                           EnsureTrailingBackslash(EnvironmentVariable(localHostVariable), isLeadByte) +
+                               destination);
         ProcessPendingEvents();
     }
     show("Complete");

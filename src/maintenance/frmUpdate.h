@@ -15,8 +15,8 @@ private:
     INT_PTR OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     void Form_Load();
     void Form_Resize();
-    void LaidOut() override;
-    void LayLabel();
+    void OnLayout() override;
+    void PlaceLabel();
     void Command1_Click();
     void CopyFiles();
 

@@ -26,7 +26,7 @@ constexpr std::array<Item, 8> hostPrograms{{
     {ID_PRINT_TEST, "Core\\Programs\\PrintTest"},
 }};
 
-constexpr char systemCodePlace = '*'; // in a document's path; no file name can hold one
+constexpr char systemCodePlaceholder = '*'; // in a document's path; no file name can hold one
 
 constexpr std::array<Item, 5> documents{{
     {ID_CORE_HELP, "Help\\Index.html"},
@@ -53,7 +53,7 @@ std::optional<std::string> DocumentOf(int item, std::string_view menuFileName, L
     if (!document)
         return std::nullopt;
     std::string path(*document);
-    if (const auto place = path.find(systemCodePlace); place != std::string::npos)
+    if (const auto place = path.find(systemCodePlaceholder); place != std::string::npos)
         path.replace(place, 1, SystemCode(menuFileName, isLeadByte));
     return path;
 }

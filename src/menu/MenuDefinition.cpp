@@ -12,12 +12,12 @@ namespace obrin {
 
 namespace {
 
-constexpr char fieldEnd = '^';
+constexpr char fieldSeparator = '^';
 constexpr char depthMark = '>';
-constexpr std::size_t mostEntries = std::numeric_limits<std::int16_t>::max();
+constexpr std::size_t maxEntries = std::numeric_limits<std::int16_t>::max();
 
 std::string_view FirstField(std::string_view line, LeadByteTest isLeadByte) {
-    return line.substr(0, FindCharacter(line, fieldEnd, isLeadByte));
+    return line.substr(0, FindCharacter(line, fieldSeparator, isLeadByte));
 }
 
 std::string WithoutDepthMarks(std::string_view text) {
@@ -45,7 +45,7 @@ public:
         definition.title = HeaderTitle(*header, isLeadByte);
         while (const auto line = lines.Next()) {
             ++lineNumber;
-            if (definition.entries.size() == mostEntries) {
+            if (definition.entries.size() == maxEntries) {
                 AddFault(MenuFault::Kind::TooManyEntries, "more entries than a menu can count");
                 break;
             }
@@ -61,7 +61,7 @@ private:
         MenuEntry entry;
         entry.depth = depth;
         entry.parent = ParentAt(depth);
-        const auto separator = FindCharacter(line, fieldEnd, isLeadByte);
+        const auto separator = FindCharacter(line, fieldSeparator, isLeadByte);
         entry.isProgram = separator != std::string_view::npos;
         if (entry.isProgram) {
             entry.text = WithoutDepthMarks(line.substr(0, separator));
@@ -70,7 +70,7 @@ private:
         } else {
             entry.text = line;
             // Headings deeper than this one are closed.
-            headings.resize(std::min(depth, mostEntries) + 1, missing);
+            headings.resize(std::min(depth, maxEntries) + 1, missing);
             headings.back() = static_cast<std::int16_t>(definition.entries.size() + 1);
         }
         definition.entries.push_back(std::move(entry));
@@ -114,7 +114,7 @@ private:
 } // namespace
 
 bool IsMenuFileName(std::string_view name) {
-    const std::string_view ending = menuFileEnding;
+    const std::string_view ending = menuFileExtension;
     return name.size() > ending.size() && name.ends_with(ending);
 }
 
@@ -130,7 +130,7 @@ MenuDefinition ParseMenuDefinition(std::string_view file, LeadByteTest isLeadByt
     return Parser(isLeadByte).Parse(file);
 }
 
-void RefuseFaults(const MenuDefinition& definition, const std::string& fileName) {
+void ThrowFirstFault(const MenuDefinition& definition, const std::string& fileName) {
     if (definition.faults.empty())
         return;
     const MenuFault& fault = definition.faults.front();

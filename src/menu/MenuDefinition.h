@@ -53,6 +53,6 @@ MenuDefinition ParseMenuDefinition(std::string_view file, LeadByteTest isLeadByt
 
 /// Throws RunTimeError with file, line and text of the first fault, if there is one: a tree that differs from
 /// its file would start the wrong programs.
-void RefuseFaults(const MenuDefinition& definition, const std::string& fileName);
+void ThrowFirstFault(const MenuDefinition& definition, const std::string& fileName);
 
 } // namespace obrin

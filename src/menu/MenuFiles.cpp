@@ -17,10 +17,10 @@ std::vector<MenuFile> EnumerateMenuFiles() {
         if (!IsMenuFileName(name))
             continue;
         const std::string header = ReadFirstLine(name);
-        if (files.size() == mostSystems)
+        if (files.size() == maxSystems)
             throw RunTimeError(PlatformError::InvalidIndex, "Adding " + name +
                                                                 " to the system list as item " +
-                                                                std::to_string(mostSystems));
+                                                                std::to_string(maxSystems));
         files.push_back({.name = name, .title = std::string(HeaderTitle(header, isLeadByte))});
     }
     return files;

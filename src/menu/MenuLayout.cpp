@@ -9,24 +9,24 @@ namespace obrin {
 
 namespace {
 
-double Finite(double twips) {
+double RequireFinite(double twips) {
     if (!std::isfinite(twips))
         throw RunTimeError(PlatformError::ArithmeticOverflow, "Laying out the menu window");
     return twips;
 }
 
-std::int32_t Whole(double twips) {
-    return static_cast<std::int32_t>(std::lrint(Finite(twips)));
+std::int32_t RoundTwips(double twips) {
+    return static_cast<std::int32_t>(std::lrint(RequireFinite(twips)));
 }
 
 } // namespace
 
 LayoutMargins RecordMargins(Size outer, const MenuLayout& layout) {
     return {
-        .height = Whole(outer.height - layout.frame1.height),
-        .width = Whole(outer.width - layout.frame1.width),
-        .treeWidth = Whole(layout.frame1.width - layout.treeView1.width),
-        .treeHeight = Whole(layout.frame1.height - layout.treeView1.height),
+        .height = RoundTwips(outer.height - layout.frame1.height),
+        .width = RoundTwips(outer.width - layout.frame1.width),
+        .treeWidth = RoundTwips(layout.frame1.width - layout.treeView1.width),
+        .treeHeight = RoundTwips(layout.frame1.height - layout.treeView1.height),
     };
 }
 
@@ -36,18 +36,20 @@ MenuLayout Resize(MenuLayout layout, const LayoutMargins& margins, Size outer, S
     Box& tree = layout.treeView1;
     // Strictly greater: a window too small for the margins leaves frame and tree as they were.
     if (outer.height > margins.height)
-        frame.height = Finite(outer.height - margins.height);
+        frame.height = RequireFinite(outer.height - margins.height);
     if (outer.width > margins.width)
-        frame.width = Finite(outer.width - margins.width);
+        frame.width = RequireFinite(outer.width - margins.width);
     if (frame.width > margins.treeWidth)
-        tree.width = Finite(frame.width - margins.treeWidth);
+        tree.width = RequireFinite(frame.width - margins.treeWidth);
     if (frame.height > margins.treeHeight)
-        tree.height = Finite(frame.height - margins.treeHeight);
+        tree.height = RequireFinite(frame.height - margins.treeHeight);
     layout.command1.top = tree.top + tree.height + design::command1Gap;
 
     // Centred by the outer width: slightly right of the true centre, as it always was.
     const double right = frame.left + frame.width;
-    const auto centred = [&](double width) { return Finite(right + (outer.width - right) / 2 - width / 2); };
+    const auto centred = [&](double width) {
+        return RequireFinite(right + (outer.width - right) / 2 - width / 2);
+    };
     layout.label1Left = centred(own.label1);
     layout.image1.left = centred(own.image1);
     layout.label2Left = centred(own.label2.width);
@@ -55,9 +57,9 @@ MenuLayout Resize(MenuLayout layout, const LayoutMargins& margins, Size outer, S
     layout.label3.top = std::max(design::label3Top, design::label2Top + own.label2.height);
     layout.image1.top = std::max(design::image1Top, layout.label3.top + own.label3.height);
 
-    layout.label5 = {Finite(inner.width - own.label5.width - 100),
-                     Finite(inner.height - own.label5.height - 20)};
-    layout.label4 = {Finite(layout.label5.left - own.label4.width), layout.label5.top};
+    layout.label5 = {RequireFinite(inner.width - own.label5.width - 100),
+                     RequireFinite(inner.height - own.label5.height - 20)};
+    layout.label4 = {RequireFinite(layout.label5.left - own.label4.width), layout.label5.top};
     return layout;
 }
 

@@ -102,10 +102,10 @@ void MenuTree::Attach(HWND treeView, Events treeEvents) {
 
 LRESULT CALLBACK MenuTree::Procedure(HWND tree, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
     auto* self = reinterpret_cast<MenuTree*>(GetWindowLongPtrA(tree, GWLP_USERDATA));
-    return AtBoundary([=] { return self->OnMessage(message, wParam, lParam); });
+    return RunOrEndProgram([=] { return self->OnMessage(message, wParam, lParam); });
 }
 
-LRESULT MenuTree::OwnAnswer(UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT MenuTree::CallOriginal(UINT message, WPARAM wParam, LPARAM lParam) {
     return CallWindowProcW(ownProcedure, window, message, wParam, lParam);
 }
 
@@ -114,7 +114,7 @@ LRESULT MenuTree::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_GETDLGCODE: {
         // Enter is the tree's own key here, not the default button's.
         const auto* key = reinterpret_cast<const MSG*>(lParam);
-        const LRESULT code = OwnAnswer(message, wParam, lParam);
+        const LRESULT code = CallOriginal(message, wParam, lParam);
         return key != nullptr && key->wParam == VK_RETURN ? code | DLGC_WANTMESSAGE : code;
     }
     case WM_CHAR:
@@ -123,7 +123,7 @@ LRESULT MenuTree::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         events.run();
         return 0; // the tree would beep
     case WM_LBUTTONDBLCLK: {
-        const LRESULT result = OwnAnswer(message, wParam, lParam);
+        const LRESULT result = CallOriginal(message, wParam, lParam);
         events.run();
         return result;
     }
@@ -133,14 +133,14 @@ LRESULT MenuTree::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         return 0;
     case WM_CONTEXTMENU:
         if (lParam == -1)
-            MenuKey();
+            OpenPopupByKeyboard();
         else if (SendMessageA(window, WM_NCHITTEST, 0, lParam) != HTCLIENT)
             break; // a scroll bar has a menu of its own
         return 0;  // the mouse's has been handled above
     default:
         break;
     }
-    return OwnAnswer(message, wParam, lParam);
+    return CallOriginal(message, wParam, lParam);
 }
 
 void MenuTree::RightMouseDown() {
@@ -173,7 +173,7 @@ void MenuTree::RightMouseDown() {
 }
 
 // Below the text of the selected node, which is brought into sight.
-void MenuTree::MenuKey() {
+void MenuTree::OpenPopupByKeyboard() {
     const HTREEITEM selected = Selected();
     if (selected == nullptr)
         return;

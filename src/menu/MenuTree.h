@@ -39,9 +39,9 @@ public:
 private:
     static LRESULT CALLBACK Procedure(HWND tree, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
     LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
-    LRESULT OwnAnswer(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT CallOriginal(UINT message, WPARAM wParam, LPARAM lParam);
     void RightMouseDown();
-    void MenuKey();
+    void OpenPopupByKeyboard();
 
     HTREEITEM Selected() const;
     const MenuEntry* SelectedNode() const;

@@ -32,7 +32,7 @@ namespace {
 
 // Runs the selected program once the tree has finished with the event that asks for it: the update and the
 // host may take their time, and the window may be closed meanwhile, with the tree in it.
-constexpr UINT runSelected = WM_APP;
+constexpr UINT runSelectedMessage = WM_APP;
 constexpr DWORD windowStyle = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
 
 } // namespace
@@ -69,7 +69,7 @@ LRESULT CALLBACK frmMain::Procedure(HWND window, UINT message, WPARAM wParam, LP
     auto* self = reinterpret_cast<frmMain*>(GetWindowLongPtrA(window, GWLP_USERDATA));
     if (self == nullptr)
         return DefWindowProcA(window, message, wParam, lParam);
-    return AtBoundary([=] { return self->OnMessage(message, wParam, lParam); });
+    return RunOrEndProgram([=] { return self->OnMessage(message, wParam, lParam); });
 }
 
 LRESULT frmMain::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -104,7 +104,7 @@ LRESULT frmMain::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         if (reinterpret_cast<HWND>(lParam) == Label5)
             return UseLinkColours(reinterpret_cast<HDC>(wParam));
         break;
-    case runSelected:
+    case runSelectedMessage:
         // A second one may have been queued behind the one at work, whose dialog or error lets it through.
         if (IsWindowEnabled(window))
             RunSelectedProgram();
@@ -141,7 +141,7 @@ void frmMain::OnCommand(int id, int notification) {
     else if (const auto program = HostProgramOf(id))
         RunHostProgram(*program);
     else if (const auto document = DocumentOf(id, currentSystem, CodePageLeadByteTest()))
-        OpenUnexamined(window, document->c_str());
+        OpenIgnoringErrors(window, document->c_str());
 }
 
 // A state of the window, not of the label: once the link has turned the pointer into the crosshair, it stays
@@ -304,7 +304,7 @@ void frmMain::CreateControls() {
                                    WS_TABSTOP | TVS_HASLINES | TVS_LINESATROOT | TVS_HASBUTTONS |
                                        TVS_SHOWSELALWAYS | TVS_DISABLEDRAGDROP,
                                    "", WS_EX_CLIENTEDGE),
-                     {.run = [this] { PostMessageA(window, runSelected, 0, 0); },
+                     {.run = [this] { PostMessageA(window, runSelectedMessage, 0, 0); },
                       .popUp = [this](int x, int y) { PopUp(x, y); }});
     SendMessageA(TreeView1.Window(), TVM_SETEXTENDEDSTYLE, TVS_EX_DOUBLEBUFFER, TVS_EX_DOUBLEBUFFER);
     Command1 = CreateControl(Frame1, WC_BUTTONA, IDC_COMMAND1, WS_TABSTOP | BS_PUSHBUTTON, "&Run Program");
@@ -400,7 +400,7 @@ void frmMain::LoadSystem(const std::string& fileName, std::string_view file) {
     TreeView1.Clear();
     const LeadByteTest isLeadByte = CodePageLeadByteTest();
     MenuDefinition definition = ParseMenuDefinition(file, isLeadByte);
-    RefuseFaults(definition, fileName);
+    ThrowFirstFault(definition, fileName);
     // With its folder: the platform looks for a bare name in other folders too.
     const std::string pictureFile = EnsureTrailingBackslash(CurrentFolder(), isLeadByte) + startupPictureFile;
     if (NormalFileExists(pictureFile))
@@ -408,13 +408,13 @@ void frmMain::LoadSystem(const std::string& fileName, std::string_view file) {
     SetWindowTextA(window, menuCaption);
     // Only the System List makes access keys of marks: here they would take Alt+letter away from the menu
     // bar.
-    const std::string title = WithoutAccessKeyMarks(TrimBlanks(definition.title));
-    SetWindowTextA(Frame1, WithAmpersandsDoubled(title).c_str());
+    const std::string title = RemoveAccessKeyMarks(TrimBlanks(definition.title));
+    SetWindowTextA(Frame1, DoubleAmpersands(title).c_str());
     SetWindowTextA(TreeView1.Window(), title.c_str()); // shown nowhere: a screen reader's name for the tree
     SetLabel(Label1, title);
     Form_Resize(); // title and picture are centred by their own widths
     TreeView1.Fill(std::move(definition.entries));
-    hostLink.SendHostCommand(StartSystem(SystemCode(fileName, isLeadByte)));
+    hostLink.SendHostCommand(StartSystemCommand(SystemCode(fileName, isLeadByte)));
 }
 
 void frmMain::RunSelectedProgram() {
@@ -425,7 +425,7 @@ void frmMain::RunSelectedProgram() {
 }
 
 void frmMain::RunHostProgram(std::string_view program) {
-    hostLink.SendHostCommand(LoadAndRun(program));
+    hostLink.SendHostCommand(LoadAndRunCommand(program));
 }
 
 } // namespace obrin

@@ -16,10 +16,10 @@ std::string CurrentFolderLine() {
 
 bool ending = false;
 
-[[noreturn]] void End(DWORD code, const char* doing) noexcept {
+[[noreturn]] void End(DWORD code, const char* action) noexcept {
     ending = true;
     // Task-modal: no other window of ours may act while the program ends.
-    MessageBoxA(nullptr, (PlatformText(code) + "\r\n\r\n" + doing + CurrentFolderLine()).c_str(),
+    MessageBoxA(nullptr, (PlatformText(code) + "\r\n\r\n" + action + CurrentFolderLine()).c_str(),
                 applicationTitle, MB_OK | MB_ICONERROR | MB_TASKMODAL | MB_SETFOREGROUND);
     ExitProcess(1);
 }
@@ -32,21 +32,21 @@ std::string PlatformText(DWORD code, const std::string& subject) {
                                         code, 0, text, sizeof text, nullptr);
     std::string result(text, length);
     result.erase(result.find_last_not_of("\r\n ") + 1);
-    constexpr std::string_view gap = "%1";
-    if (const auto place = result.find(gap); place != std::string::npos)
-        result.replace(place, gap.size(), subject);
+    constexpr std::string_view placeholder = "%1";
+    if (const auto place = result.find(placeholder); place != std::string::npos)
+        result.replace(place, placeholder.size(), subject);
     return result.empty() ? "Error " + std::to_string(code) : result;
 }
 
-void ThrowLastError(const std::string& doing) {
-    throw RunTimeError(GetLastError(), doing);
+void ThrowLastError(const std::string& action) {
+    throw RunTimeError(GetLastError(), action);
 }
 
 bool IsEndingWithError() {
     return ending;
 }
 
-void EndWithCurrentError() noexcept {
+void EndProgramWithCurrentError() noexcept {
     try {
         throw;
     } catch (const RunTimeError& error) {

@@ -22,7 +22,7 @@ bool IsBusy(DWORD error) {
 // Makes a call about a file, and makes it again for up to a second while somebody has the file open just now:
 // another menu, a virus scanner, a backup. Returns false with the last error when it fails.
 template <class Call>
-bool Try(Call&& call) {
+bool RetryWhileBusy(Call&& call) {
     constexpr ULONGLONG patience = 1000; // milliseconds
     constexpr DWORD pause = 25;
     const ULONGLONG start = GetTickCount64();
@@ -46,7 +46,7 @@ HANDLE Open(const std::string& path, File::Use use) {
     }};
     const auto [access, disposition] = modes[static_cast<std::size_t>(use)];
     HANDLE handle = INVALID_HANDLE_VALUE;
-    const bool opened = Try([&] {
+    const bool opened = RetryWhileBusy([&] {
         handle = CreateFileA(path.c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
                              nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
         return handle != INVALID_HANDLE_VALUE;
@@ -62,14 +62,15 @@ File::File(const std::string& filePath, Use use)
     : path(filePath)
     , handle(Open(filePath, use)) {}
 
-void File::Fail(const char* doing) const {
-    ThrowLastError(doing + path);
+void File::Fail(const char* action) const {
+    ThrowLastError(action + path);
 }
 
 std::string File::Read(std::size_t most) {
     std::string bytes(most, '\0');
     DWORD got = 0;
-    if (!Try([&] { return ReadFile(handle.get(), bytes.data(), static_cast<DWORD>(most), &got, nullptr); }))
+    if (!RetryWhileBusy(
+            [&] { return ReadFile(handle.get(), bytes.data(), static_cast<DWORD>(most), &got, nullptr); }))
         Fail("Reading ");
     bytes.resize(got);
     return bytes;
@@ -99,7 +100,7 @@ void File::Write(std::string_view bytes) {
     while (!bytes.empty()) {
         DWORD done = 0;
         const auto want = static_cast<DWORD>(std::min<std::size_t>(bytes.size(), 1U << 30));
-        if (!Try([&] { return WriteFile(handle.get(), bytes.data(), want, &done, nullptr); }))
+        if (!RetryWhileBusy([&] { return WriteFile(handle.get(), bytes.data(), want, &done, nullptr); }))
             Fail("Writing ");
         bytes.remove_prefix(done);
     }
@@ -113,7 +114,7 @@ void File::Seek(std::uint64_t position) {
 }
 
 void File::Truncate() {
-    if (!Try([&] { return SetEndOfFile(handle.get()); }))
+    if (!RetryWhileBusy([&] { return SetEndOfFile(handle.get()); }))
         Fail("Writing ");
 }
 

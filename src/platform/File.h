@@ -48,7 +48,7 @@ public:
     const std::string& Path() const { return path; }
 
 private:
-    [[noreturn]] void Fail(const char* doing) const;
+    [[noreturn]] void Fail(const char* action) const;
 
     std::string path;
     UniqueFile handle;

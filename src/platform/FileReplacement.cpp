@@ -9,7 +9,7 @@ namespace obrin {
 namespace {
 
 // Nothing when the file cannot be read.
-std::optional<std::string> ContentsOf(const std::string& path) {
+std::optional<std::string> TryReadFile(const std::string& path) {
     try {
         return ReadFileIfThere(path);
     } catch (const RunTimeError&) {
@@ -31,7 +31,7 @@ std::optional<File> MakeTemporaryFile(const std::string& path) {
     }
 }
 
-void WriteSafely(File& file, std::string_view bytes) {
+void WriteAndFlush(File& file, std::string_view bytes) {
     file.Write(bytes);
     file.Truncate();
     file.Flush();
@@ -40,7 +40,7 @@ void WriteSafely(File& file, std::string_view bytes) {
 
 // Whether a file may be taken out of its place: its users need the right, and others who have it open must
 // allow it. Asked first, as a replacement that fails in the middle leaves things behind on some platforms.
-bool MayBeMoved(const std::string& path) {
+bool CanBeReplaced(const std::string& path) {
     const HANDLE handle =
         CreateFileA(path.c_str(), DELETE, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
                     OPEN_EXISTING, 0, nullptr);
@@ -53,8 +53,8 @@ bool MayBeMoved(const std::string& path) {
 // Puts the temporary file in the place of the other one, whose rights and attributes stay; or just there when
 // the other one does not exist, or is gone after a replacement that failed half-way. Returns whether it has
 // happened.
-bool Replace(const std::string& path, const std::string& temporary) {
-    if (MayBeMoved(path) &&
+bool MoveIntoPlace(const std::string& path, const std::string& temporary) {
+    if (CanBeReplaced(path) &&
         ReplaceFileA(FullPath(path).c_str(), FullPath(temporary).c_str(), nullptr, 0, nullptr, nullptr))
         return true;
     return GetFileAttributesA(path.c_str()) == INVALID_FILE_ATTRIBUTES &&
@@ -62,30 +62,30 @@ bool Replace(const std::string& path, const std::string& temporary) {
 }
 
 // The last thing to try: writes into the file itself.
-void WriteInPlace(const std::string& path, std::string_view bytes, const std::optional<std::string>& present,
+void WriteInPlace(const std::string& path, std::string_view bytes, const std::optional<std::string>& current,
                   const std::string& temporary) {
-    std::string doing = "Writing " + path; // the file that the user knows
+    std::string action = "Writing " + path; // the file that the user knows
     try {
         File file(path, File::Use::Write);
-        WriteSafely(file, bytes);
+        WriteAndFlush(file, bytes);
     } catch (const RunTimeError& error) {
         // Refused before the first byte, as by missing rights or a lock.
-        const bool isUnchanged = ContentsOf(path) == present;
+        const bool isUnchanged = TryReadFile(path) == current;
         if (isUnchanged || temporary.empty())
             DeleteFileA(temporary.c_str());
         else
-            doing += "\r\nIts new contents are complete in " + temporary;
-        throw RunTimeError(error.Code(), doing);
+            action += "\r\nIts new contents are complete in " + temporary;
+        throw RunTimeError(error.Code(), action);
     }
     DeleteFileA(temporary.c_str());
 }
 
 } // namespace
 
-void ReplaceFileBytes(const std::string& path, std::string_view bytes, std::optional<std::string> present) {
-    if (!present)
-        present = ContentsOf(path);
-    if (present == bytes)
+void ReplaceFileBytes(const std::string& path, std::string_view bytes, std::optional<std::string> current) {
+    if (!current)
+        current = TryReadFile(path);
+    if (current == bytes)
         return;
     const DWORD attributes = GetFileAttributesA(path.c_str());
     if (attributes != INVALID_FILE_ATTRIBUTES &&
@@ -95,21 +95,21 @@ void ReplaceFileBytes(const std::string& path, std::string_view bytes, std::opti
     if (auto file = MakeTemporaryFile(path)) {
         temporary = file->Path();
         try {
-            WriteSafely(*file, bytes);
+            WriteAndFlush(*file, bytes);
         } catch (const RunTimeError& error) {
             file.reset();
             DeleteFileA(temporary.c_str());
             throw RunTimeError(error.Code(), "Writing " + path); // on a full disk, say: the old contents stay
         }
-        if (Replace(path, temporary))
+        if (MoveIntoPlace(path, temporary))
             return;
         // A share may report a failure although the replacement has happened.
-        if (ContentsOf(path) == bytes) {
+        if (TryReadFile(path) == bytes) {
             DeleteFileA(temporary.c_str());
             return;
         }
     }
-    WriteInPlace(path, bytes, present, temporary);
+    WriteInPlace(path, bytes, current, temporary);
 }
 
 } // namespace obrin

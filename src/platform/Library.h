@@ -7,7 +7,7 @@ namespace obrin {
 
 /// Looks for the library only in the folders that `where` names (LOAD_LIBRARY_SEARCH_...). Null with the last
 /// error when it cannot be loaded.
-inline UniqueLibrary LoadFrom(const char* name, DWORD where) {
+inline UniqueLibrary LoadLibraryFrom(const char* name, DWORD where) {
     return UniqueLibrary(LoadLibraryExA(name, nullptr, where));
 }
 

@@ -16,7 +16,7 @@ DWORD Open(HWND owner, const char* file, const char* parameters) {
     return result != 0 ? static_cast<DWORD>(result) : ERROR_NOT_ENOUGH_MEMORY;
 }
 
-void OpenUnexamined(HWND owner, const char* file) {
+void OpenIgnoringErrors(HWND owner, const char* file) {
     Open(owner, file);
 }
 

@@ -11,6 +11,6 @@ namespace obrin {
 DWORD Open(HWND owner, const char* file, const char* parameters = nullptr);
 
 /// The same when nobody asks whether it could be opened: of a missing document the menu says nothing.
-void OpenUnexamined(HWND owner, const char* file);
+void OpenIgnoringErrors(HWND owner, const char* file);
 
 } // namespace obrin

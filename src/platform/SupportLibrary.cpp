@@ -9,8 +9,8 @@ namespace obrin {
 namespace {
 
 UniqueLibrary Load() {
-    UniqueLibrary library =
-        LoadFrom(supportLibraryFile, LOAD_LIBRARY_SEARCH_APPLICATION_DIR | LOAD_LIBRARY_SEARCH_SYSTEM32);
+    UniqueLibrary library = LoadLibraryFrom(supportLibraryFile, LOAD_LIBRARY_SEARCH_APPLICATION_DIR |
+                                                                    LOAD_LIBRARY_SEARCH_SYSTEM32);
     if (library)
         return library;
     if (GetLastError() == ERROR_BAD_EXE_FORMAT) // whose text has a gap in the place of the name

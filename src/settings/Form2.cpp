@@ -23,7 +23,7 @@ constexpr std::array<const char*, 3> tabCaptions{"General", "Page Settings", "Pa
 constexpr std::size_t longestText = 32767;
 
 // The element of a control array that an id names; out of the array's range for the id of another control.
-std::size_t ElementOf(int id, int firstId) {
+std::size_t IndexInArray(int id, int firstId) {
     return static_cast<std::size_t>(id - firstId);
 }
 
@@ -42,7 +42,7 @@ INT_PTR Form2::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         OnCommand(LOWORD(wParam), HIWORD(wParam));
         return TRUE;
     case WM_HSCROLL: // of a slider, by mouse or keyboard
-        if (const auto index = ElementOf(GetDlgCtrlID(reinterpret_cast<HWND>(lParam)), IDC_SLD_MARGIN);
+        if (const auto index = IndexInArray(GetDlgCtrlID(reinterpret_cast<HWND>(lParam)), IDC_SLD_MARGIN);
             index < sldMargin.size() && SliderValue(index) != shownMargin[index])
             sldMargin_Change(index); // the slider also says so when it is only let go of
         return TRUE;
@@ -67,7 +67,7 @@ void Form2::OnCommand(int id, int notification) {
             cmbOrientation_DropDown();
         else if (notification == CBN_SELCHANGE)
             cmbOrientation_Click();
-    } else if (const auto index = ElementOf(id, IDC_TXT_MARGIN); index < txtMargin.size()) {
+    } else if (const auto index = IndexInArray(id, IDC_TXT_MARGIN); index < txtMargin.size()) {
         if (notification == EN_CHANGE)
             txtMargin_Change(index);
         else if (notification == EN_KILLFOCUS)
@@ -83,7 +83,7 @@ void Form2::Form_Load() {
         WriteDefaultSettings(IniPath, std::string(TrimBlanks(treeTag)));
     CreatePages();
     PrepareSliders();
-    PrepareTips();
+    CreateTips();
     LoadSettings();
     SetFocus(TabStrip1);
 }
@@ -123,7 +123,7 @@ void Form2::CreatePages() {
             ThrowLastError("Opening the Properties dialog");
         AddPage(Frame[i]);
     }
-    LayPages();
+    PlacePages();
 
     cmbOrientation = Control(IDC_CMB_ORIENTATION);
     for (const char* item : {"Portrait", "Landscape"})
@@ -132,7 +132,7 @@ void Form2::CreatePages() {
 
 // Over the tab strip's client area, one behind the other. Those behind are visible, and, disabled, out of the
 // keyboard's reach.
-void Form2::LayPages() {
+void Form2::PlacePages() {
     RECT inner;
     GetWindowRect(TabStrip1, &inner);
     MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&inner), 2);
@@ -200,16 +200,16 @@ void Form2::PrepareSliders() {
     }
 }
 
-void Form2::PrepareTips() {
+void Form2::CreateTips() {
     sliderTips =
         CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0,
                         0, 0, 0, window, nullptr, nullptr, nullptr);
     for (std::size_t i = 0; i < sldMargin.size(); ++i)
-        TellTips(TTM_ADDTOOLA, i);
+        SendTip(TTM_ADDTOOLA, i);
 }
 
-void Form2::TellTips(UINT message, std::size_t index) {
-    std::string text = ShortestThousandths(SliderValue(index));
+void Form2::SendTip(UINT message, std::size_t index) {
+    std::string text = FormatThousandths(SliderValue(index));
     TOOLINFOA tip{};
     tip.cbSize = sizeof tip;
     tip.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
@@ -225,26 +225,26 @@ int Form2::SliderValue(std::size_t index) const {
 
 void Form2::sldMargin_Change(std::size_t index) {
     shownMargin[index] = SliderValue(index);
-    TellTips(TTM_UPDATETIPTEXTA, index);
+    SendTip(TTM_UPDATETIPTEXTA, index);
     WriteMarginText(index);
 }
 
 void Form2::WriteMarginText(std::size_t index) {
     const HWND box = txtMargin[index];
     const std::string before = WindowText(box);
-    const std::string text = ShortestThousandths(SliderValue(index));
+    const std::string text = FormatThousandths(SliderValue(index));
     if (text == before)
         return; // the caret stays, and what was typed can be undone
     DWORD caret = 0;
     SendMessageA(box, EM_GETSEL, 0, reinterpret_cast<LPARAM>(&caret));
     SetWindowTextA(box, text.c_str()); // sets the caret in front of it
-    if (const std::size_t kept = KeptCaret(before, caret, text); kept != 0)
+    if (const std::size_t kept = CaretAfterChange(before, caret, text); kept != 0)
         SendMessageA(box, EM_SETSEL, kept, static_cast<LPARAM>(kept));
 }
 
 // Comes back here once when the slider's change writes the box; the slider has the box's value by then.
 void Form2::txtMargin_Change(std::size_t index) {
-    const auto margin = TypedMargin(WindowText(txtMargin[index]));
+    const auto margin = ParseTypedMargin(WindowText(txtMargin[index]));
     if (!margin || *margin == SliderValue(index))
         return;
     SendMessageA(sldMargin[index], TBM_SETPOS, TRUE, *margin);
@@ -252,7 +252,7 @@ void Form2::txtMargin_Change(std::size_t index) {
 }
 
 void Form2::txtMargin_LostFocus(std::size_t index) {
-    if (ReadsAsMargin(WindowText(txtMargin[index]), SliderValue(index)))
+    if (EqualsMargin(WindowText(txtMargin[index]), SliderValue(index)))
         WriteMarginText(index);
 }
 
@@ -274,7 +274,7 @@ void Form2::Command2_Click() {
 void Form2::SaveSettings() const {
     SettingValues values;
     for (std::size_t i = 0; i < settings.size(); ++i)
-        values[i] = ValueOf(i);
+        values[i] = ReadValue(i);
     SaveSystemSettings(IniPath, values);
 }
 
@@ -288,7 +288,7 @@ void Form2::LoadSettings() {
     for (std::size_t i = 0; i < settings.size(); ++i) {
         if (loaded[i])
             ShowValue(i, *loaded[i]);
-        else if (const auto margin = ElementOf(settings[i].control, IDC_SLD_MARGIN);
+        else if (const auto margin = IndexInArray(settings[i].control, IDC_SLD_MARGIN);
                  margin < sldMargin.size())
             sldMargin_Change(margin);
     }
@@ -296,8 +296,8 @@ void Form2::LoadSettings() {
 
 void Form2::ShowValue(std::size_t setting, const std::string& value) {
     const int id = settings[setting].control;
-    if (const auto margin = ElementOf(id, IDC_SLD_MARGIN); margin < sldMargin.size()) {
-        SendMessageA(sldMargin[margin], TBM_SETPOS, TRUE, MarginOf(value));
+    if (const auto margin = IndexInArray(id, IDC_SLD_MARGIN); margin < sldMargin.size()) {
+        SendMessageA(sldMargin[margin], TBM_SETPOS, TRUE, ParseMargin(value));
         // Also when the value was the same: the box may hold something else that was typed.
         sldMargin_Change(margin);
         return;
@@ -313,13 +313,13 @@ void Form2::ShowValue(std::size_t setting, const std::string& value) {
     shown[setting] = WindowText(control);
 }
 
-std::string Form2::ValueOf(std::size_t setting) const {
+std::string Form2::ReadValue(std::size_t setting) const {
     const int control = settings[setting].control;
     // The box can be edited, but the name in the file is always the tree's.
     if (control == IDC_TXT_PROGRAM_NAME)
         return treeTag;
-    if (const auto margin = ElementOf(control, IDC_SLD_MARGIN); margin < sldMargin.size())
-        return ShortestThousandths(SliderValue(margin));
+    if (const auto margin = IndexInArray(control, IDC_SLD_MARGIN); margin < sldMargin.size())
+        return FormatThousandths(SliderValue(margin));
     // A box that nobody edited may have had no room for all of its value.
     std::string text = WindowText(Control(control));
     return loaded[setting] && text == shown[setting] ? *loaded[setting] : text;

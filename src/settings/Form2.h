@@ -38,15 +38,15 @@ private:
 
     void CreatePages();
     void PrepareSliders();
-    void PrepareTips();
-    void TellTips(UINT message, std::size_t index);
-    void LaidOut() override { LayPages(); }
-    void LayPages();
+    void CreateTips();
+    void SendTip(UINT message, std::size_t index);
+    void OnLayout() override { PlacePages(); }
+    void PlacePages();
     void BringToFront(std::size_t page);
     void SaveSettings() const;
     void LoadSettings();
     void ShowValue(std::size_t setting, const std::string& value);
-    std::string ValueOf(std::size_t setting) const;
+    std::string ReadValue(std::size_t setting) const;
     int SliderValue(std::size_t index) const;
     void WriteMarginText(std::size_t index);
 

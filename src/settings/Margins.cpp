@@ -18,23 +18,23 @@ int NearestMargin(double inches) {
 
 } // namespace
 
-int MarginOf(std::string_view text) {
+int ParseMargin(std::string_view text) {
     return NearestMargin(LeadingNumber(text));
 }
 
-std::optional<int> TypedMargin(std::string_view text) {
+std::optional<int> ParseTypedMargin(std::string_view text) {
     const double inches = LeadingNumber(text);
     if (inches < smallestMargin / perInch)
         return std::nullopt;
     return NearestMargin(inches);
 }
 
-bool ReadsAsMargin(std::string_view text, int margin) {
+bool EqualsMargin(std::string_view text, int margin) {
     // Both sides are the double nearest to the same decimal number, if it is the same.
     return LeadingNumber(text) == margin / perInch;
 }
 
-std::size_t KeptCaret(std::string_view before, std::size_t caret, std::string_view after) {
+std::size_t CaretAfterChange(std::string_view before, std::size_t caret, std::string_view after) {
     const auto pointOf = [](std::string_view text) {
         return static_cast<std::ptrdiff_t>(std::min(text.find('.'), text.size()));
     };

@@ -19,7 +19,7 @@ SettingValues DefaultSettings(const std::string& name, StringTable stringTable) 
     for (std::size_t i = 0; i < settings.size(); ++i) {
         if (settings[i].defaultString != 0)
             values[i] = stringTable(settings[i].defaultString);
-        if (settings[i].nameFollows)
+        if (settings[i].appendsName)
             values[i] += name;
     }
     return values;

@@ -14,7 +14,7 @@ namespace obrin {
 struct Setting {
     std::string_view key;
     int defaultString; ///< in the string table; 0 for a default without a text of its own
-    bool nameFollows;  ///< the default ends in the name that the defaults are written for
+    bool appendsName;  ///< the default ends in the name that the defaults are written for
     int control;       ///< of the Properties dialog: a box that holds the value, or a margin's slider
 };
 

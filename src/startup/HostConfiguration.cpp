@@ -27,7 +27,7 @@ std::string BlankDriveLines(std::string_view configuration, UpperCaser upperCase
     return blanked;
 }
 
-std::string WithDriveLine(std::string_view shortFolder, std::string_view blankedConfiguration) {
+std::string AddDriveLine(std::string_view shortFolder, std::string_view blankedConfiguration) {
     std::string configuration = "Drive S,";
     configuration.append(shortFolder).append(",X,\\").append(lineEnd);
     LineReader lines(blankedConfiguration);

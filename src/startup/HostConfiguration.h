@@ -14,6 +14,6 @@ std::string BlankDriveLines(std::string_view configuration, UpperCaser upperCase
 
 /// Pass 2: the drive line of the folder first, then every line of pass 1's result that is not blank.
 /// `shortFolder` may be empty: the line is written all the same.
-std::string WithDriveLine(std::string_view shortFolder, std::string_view blankedConfiguration);
+std::string AddDriveLine(std::string_view shortFolder, std::string_view blankedConfiguration);
 
 } // namespace obrin

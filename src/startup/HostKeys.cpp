@@ -21,12 +21,12 @@ std::vector<std::uint8_t> HostKeyCodes(std::string command, UpperCaser upperCase
     return codes;
 }
 
-std::string LoadAndRun(std::string_view program) {
+std::string LoadAndRunCommand(std::string_view program) {
     return std::string("Load ").append(program).append("\rRun\r");
 }
 
-std::string StartSystem(std::string_view systemCode) {
-    return LoadAndRun("Core\\StartSys").append(systemCode).append("\r");
+std::string StartSystemCommand(std::string_view systemCode) {
+    return LoadAndRunCommand("Core\\StartSys").append(systemCode).append("\r");
 }
 
 std::string HostStartArguments(int wsid) {

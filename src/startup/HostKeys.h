@@ -16,10 +16,10 @@ namespace obrin {
 std::vector<std::uint8_t> HostKeyCodes(std::string command, UpperCaser upperCase, LeadByteTest isLeadByte);
 
 /// The lines that load a program of the host and run it.
-std::string LoadAndRun(std::string_view program);
+std::string LoadAndRunCommand(std::string_view program);
 
 /// The lines that start a system: its code is asked for by the start program that they run.
-std::string StartSystem(std::string_view systemCode);
+std::string StartSystemCommand(std::string_view systemCode);
 
 /// "run core\start -5": plain number.
 std::string HostStartArguments(int wsid);

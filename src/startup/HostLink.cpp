@@ -31,25 +31,26 @@ private:
 
 } // namespace
 
-void HostLink::StartHost(HWND menuWindow, std::int16_t wsid, const std::function<void()>& meanwhile) {
+void HostLink::StartHost(HWND menuWindow, std::int16_t wsid, const std::function<void()>& duringStart) {
     menu = menuWindow;
     // Waited for all the same when the start is refused: somebody may start it by hand.
     const DWORD refusal = Open(menu, hostProgram, HostStartArguments(wsid).c_str());
     if (!IsWindow(menu))
         return; // closed while Windows asked whether the host may be started
-    meanwhile();
+    duringStart();
     const std::string caption = StationCaption(wsid);
     notice.emplace(menu, caption, refusal);
     // Any window of the host will do first, one of another instance too; the caption behind it is this one's.
     // The children of that first window tell nothing that is needed, so they are not looked up.
-    if (!WaitUntil(menu, [&] { return FindWindowA(hostWindowClass, nullptr) != nullptr || ShowNotice(); }))
+    if (!WaitUntil(menu,
+                   [&] { return FindWindowA(hostWindowClass, nullptr) != nullptr || ShowNoticeWhenDue(); }))
         return;
     // Both: a station window may get its child a moment later.
     HWND station = nullptr;
     if (!WaitUntil(menu, [&] {
             station = FindWindowA(nullptr, caption.c_str());
             hostCommandWindow = FirstChild(station);
-            return hostCommandWindow != nullptr || ShowNotice();
+            return hostCommandWindow != nullptr || ShowNoticeWhenDue();
         }))
         return;
     // A station that is found before its first showing would stay on the screen.
@@ -60,7 +61,7 @@ void HostLink::StartHost(HWND menuWindow, std::int16_t wsid, const std::function
 }
 
 // Tells the operator what is waited for. Returns false: the wait goes on.
-bool HostLink::ShowNotice() {
+bool HostLink::ShowNoticeWhenDue() {
     notice->ShowWhenDue();
     return false;
 }

@@ -20,10 +20,10 @@ public:
     explicit HostLink(HWND commandWindow = nullptr)
         : hostCommandWindow(commandWindow) {}
 
-    /// Starts the host for this workstation, does `meanwhile`, waits for the host's windows without a time
+    /// Starts the host for this workstation, does `duringStart`, waits for the host's windows without a time
     /// limit while the events of the menu window are processed, and hides it. The link stands when it
-    /// returns, unless the menu was closed meanwhile. Throws RunTimeError.
-    void StartHost(HWND menuWindow, std::int16_t wsid, const std::function<void()>& meanwhile);
+    /// returns, unless the menu was closed duringStart. Throws RunTimeError.
+    void StartHost(HWND menuWindow, std::int16_t wsid, const std::function<void()>& duringStart);
 
     /// Closes the notice that a wait of more than a moment has shown.
     void CloseNotice() { notice.reset(); }
@@ -38,7 +38,7 @@ private:
         WPARAM code;
     };
 
-    bool ShowNotice();
+    bool ShowNoticeWhenDue();
 
     HWND menu = nullptr;
     HWND hostCommandWindow;

@@ -16,28 +16,28 @@ namespace obrin {
 
 namespace {
 
-void RewriteHostConfiguration(std::string present) {
-    const std::string blanked = BlankDriveLines(present, UpperCase);
+void RewriteHostConfiguration(std::string current) {
+    const std::string blanked = BlankDriveLines(current, UpperCase);
     WriteFileBytes(temporaryConfigurationFile, blanked);
     // Not read back from the temporary file: a workstation that starts at the same instant empties it. And
     // the configuration keeps its old lines until the new ones are safely on disk.
-    ReplaceFileBytes(hostConfigurationFile, WithDriveLine(ShortPath(CurrentFolder()), blanked),
-                     std::move(present));
+    ReplaceFileBytes(hostConfigurationFile, AddDriveLine(ShortPath(CurrentFolder()), blanked),
+                     std::move(current));
 }
 
 // Under any caption: the class alone counts.
-HWND OpenHost() {
+HWND FindOpenHost() {
     return FindWindowA(hostWindowClass, nullptr);
 }
 
-void OfferOpenHost() {
+void OfferToShowHost() {
     constexpr UINT style = MB_YESNO | MB_ICONSTOP | MB_DEFBUTTON2;
     if (MessageBoxA(nullptr,
                     "Error: Fenn Already Open!! Please close before proceeding.\r\n\r\n"
                     "Would you like us to show the Fenn Window Now?",
                     "Error Opening Obrin System", style) != IDYES)
         return;
-    const HWND host = OpenHost();
+    const HWND host = FindOpenHost();
     ShowWindowAsync(host, SW_SHOWNORMAL); // not waited for: it may hang
     SetForegroundWindow(host);
     SetActiveWindow(host);
@@ -48,7 +48,7 @@ void ShowOtherMenu(HWND menu) {
     SetForegroundWindow(menu);
 }
 
-BOOL CALLBACK KeepFirstShown(HWND window, LPARAM kept) {
+BOOL CALLBACK FindFirstUsableWindow(HWND window, LPARAM kept) {
     // What a box in front has disabled is not what waits for the operator.
     if (!IsWindowVisible(window) || !IsWindowEnabled(window))
         return TRUE;
@@ -58,9 +58,9 @@ BOOL CALLBACK KeepFirstShown(HWND window, LPARAM kept) {
 
 // Of a menu that is still loading: the question for its number, that it waits for the host, an error. It may
 // show nothing yet, and then nothing comes to the front.
-void ShowWhatLoadingMenuShows(HWND menu) {
+void ActivateLoadingMenu(HWND menu) {
     HWND shown = nullptr;
-    EnumThreadWindows(GetWindowThreadProcessId(menu, nullptr), KeepFirstShown,
+    EnumThreadWindows(GetWindowThreadProcessId(menu, nullptr), FindFirstUsableWindow,
                       reinterpret_cast<LPARAM>(&shown));
     if (shown != nullptr)
         SetForegroundWindow(shown);
@@ -69,19 +69,19 @@ void ShowWhatLoadingMenuShows(HWND menu) {
 } // namespace
 
 void Main(const MenuWindow& menu) {
-    std::optional<std::string> present = ReadFileIfThere(hostConfigurationFile);
-    if (!present) {
+    std::optional<std::string> current = ReadFileIfThere(hostConfigurationFile);
+    if (!current) {
         MessageBoxA(nullptr, "Config File Not found!", "Error!", MB_OK);
         return;
     }
     // Before the test for an open host: the drive line is right from now on, whatever the test says.
-    RewriteHostConfiguration(std::move(*present));
-    if (OpenHost() != nullptr)
-        OfferOpenHost();
+    RewriteHostConfiguration(std::move(*current));
+    if (FindOpenHost() != nullptr)
+        OfferToShowHost();
     else if (const HWND other = FindWindowA(nullptr, menu.caption))
         ShowOtherMenu(other);
     else if (const HWND loading = FindWindowA(menu.windowClass, nullptr))
-        ShowWhatLoadingMenuShows(loading); // a second one would type into the same host
+        ActivateLoadingMenu(loading); // a second one would type into the same host
     else
         menu.show();
 }
