@@ -1,4 +1,4 @@
-// The header of a BMP file. The platform trusts it: one that lies makes some versions read beyond the file.
+// Checks the header of a BMP file. Windows trusts it: with a wrong header some versions read beyond the file.
 #pragma once
 
 #include <cstddef>
@@ -7,9 +7,9 @@
 
 namespace obrin {
 
-constexpr std::size_t bitmapHeaderBytes = 54; ///< as many as are needed of the file's start
+constexpr std::size_t bitmapHeaderBytes = 54; ///< the bytes at the start of the file that the check needs
 
-/// Whether the header is one of a picture that lies in a file of this size as a whole.
+/// Returns whether the header describes a picture that fits completely into a file of `fileSize` bytes.
 bool IsWholeBitmap(std::string_view header, std::uint64_t fileSize);
 
 } // namespace obrin

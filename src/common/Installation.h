@@ -1,4 +1,4 @@
-// The names of the installation's files, folders and variables, and its limits.
+// The names of the installation's files, folders, variables and registry keys, and its limits.
 #pragma once
 
 namespace obrin {
@@ -15,17 +15,17 @@ constexpr const char* updateRegisterFile = "Updated.txt";
 constexpr const char* startupPictureFile = "Startup.bmp";
 constexpr const char* menuFileExtension = ".mnu";
 
-/// Environment variables of a workstation: the host's local folder, and the base folder of the settings.
+/// Environment variables of a workstation: its local host folder, and the folder above settingsFolder.
 constexpr const char* localHostVariable = "Tessel";
 constexpr const char* temporaryFolderVariable = "TesselTemp";
-constexpr const char* settingsFolder = "\\Ini\\"; ///< below the base folder of the settings
+constexpr const char* settingsFolder = "\\Ini\\";
 
-/// The menu's key below HKEY_LOCAL_MACHINE, and the one that the Properties dialog reads.
+/// Keys below HKEY_LOCAL_MACHINE: the menu's own, and the one that the Properties dialog reads.
 constexpr const char* menuRegistryKey = "Software\\Obrin";
 constexpr const char* propertiesRegistryKey = "Software\\Obrin\\Menu";
 constexpr const char* lastSystemValue = "LastSystem";
 
 constexpr int maxSystems = 99; ///< item 99 of the System List is its template
-constexpr int maxWsid = 99;    ///< workstation numbers are 1 to 99
+constexpr int maxWsid = 99;    ///< the largest workstation number; the smallest is 1
 
 } // namespace obrin

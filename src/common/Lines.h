@@ -1,4 +1,4 @@
-// The one line reader of the program.
+// Reads texts line by line.
 #pragma once
 
 #include <optional>
@@ -6,18 +6,17 @@
 
 namespace obrin {
 
-/// Whether a line ends at a lone LF as it does at CR LF and at a lone CR.
+/// How to read an LF without a CR in front of it. CR LF and a lone CR always end a line.
 enum class LoneLf { IsText, EndsLine };
 
-/// Hands out the lines of a text one after the other. A last line without a line end is a line; behind the
-/// last line end there is none.
+/// Returns the lines of a text one after the other. Text after the last line end is also a line.
 class LineReader {
 public:
     explicit LineReader(std::string_view text, LoneLf aLoneLf = LoneLf::IsText)
         : rest(text)
         , loneLf(aLoneLf) {}
 
-    /// The next line without its line end, or nothing at the end of the text.
+    /// Returns the next line without its line end, or nothing at the end of the text.
     std::optional<std::string_view> Next();
 
 private:

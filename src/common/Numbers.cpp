@@ -9,15 +9,14 @@ namespace obrin {
 
 namespace {
 
-struct Reading {
+struct NumberAtStart {
     double value;
     std::size_t length;
 };
 
 // Reads the longest decimal number at the start of the text.
-Reading ReadNumber(std::string_view text) {
-    // The library also reads hexadecimal numbers, "inf" and "nan": it gets only what decimal numbers consist
-    // of.
+NumberAtStart ReadNumber(std::string_view text) {
+    // Without this cut strtod would also accept hexadecimal numbers, "inf" and "nan".
     const std::string number(text.substr(0, text.find_first_not_of("0123456789.+-eE")));
     char* end = nullptr;
     const double value = std::strtod(number.c_str(), &end);

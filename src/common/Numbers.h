@@ -1,5 +1,5 @@
-// Numbers as text and text as numbers. The ways of writing a number differ on purpose: each stands in
-// files or window captions that other programs of the installation read.
+// Converts numbers to text and text to numbers. The installation writes numbers in several forms: other
+// programs of the suite expect each form in its own file or window caption.
 #pragma once
 
 #include <optional>
@@ -8,23 +8,23 @@
 
 namespace obrin {
 
-/// With a blank in the sign position of a number that is not negative: " 5", "-5".
+/// Puts a blank in front of a number that is not negative: " 5", "-5".
 std::string SignedDecimal(int number);
 
-/// Plain: "5", "-5".
+/// Adds nothing: "5", "-5".
 std::string PlainDecimal(int number);
 
-/// With at least `digits` digits: 5 in two digits is "05".
+/// Adds zeros in front up to `digits` digits: 5 with two digits is "05".
 std::string PaddedDecimal(int number, int digits);
 
-/// Thousandths as a decimal number in the shortest form: 500 is "0.5", 1000 is "1".
+/// Writes a number of thousandths as a decimal number without trailing zeros: 500 is "0.5", 1000 is "1".
 std::string FormatThousandths(int thousandths);
 
-/// The value of a text that is a decimal number as a whole (sign, point and exponent allowed, blanks around
-/// it ignored); nothing for any other text.
+/// Returns the value of a text that holds one decimal number, or nothing for any other text. Sign, point,
+/// exponent and blanks at both ends are allowed.
 std::optional<double> ParseNumber(std::string_view text);
 
-/// The value of the number at the start of the text, behind blanks; 0 when the text starts with none.
+/// Returns the number at the start of the text, or 0 if there is none. Skips leading blanks.
 double LeadingNumber(std::string_view text);
 
 } // namespace obrin

@@ -6,9 +6,9 @@ namespace obrin {
 
 namespace {
 
-// Behind the character at `place`. A lead byte that ends the text is a character of its own.
-std::size_t NextCharacter(std::string_view text, std::size_t place, LeadByteTest isLeadByte) {
-    return std::min(place + (isLeadByte != nullptr && isLeadByte(text[place]) ? 2 : 1), text.size());
+// A lead byte at the end of the text counts as a character.
+std::size_t NextCharacter(std::string_view text, std::size_t position, LeadByteTest isLeadByte) {
+    return std::min(position + (isLeadByte != nullptr && isLeadByte(text[position]) ? 2 : 1), text.size());
 }
 
 } // namespace
@@ -16,9 +16,9 @@ std::size_t NextCharacter(std::string_view text, std::size_t place, LeadByteTest
 std::size_t FindCharacter(std::string_view text, char character, LeadByteTest isLeadByte, std::size_t start) {
     if (isLeadByte == nullptr)
         return text.find(character, start);
-    for (auto place = start; place < text.size(); place = NextCharacter(text, place, isLeadByte)) {
-        if (text[place] == character)
-            return place;
+    for (auto i = start; i < text.size(); i = NextCharacter(text, i, isLeadByte)) {
+        if (text[i] == character)
+            return i;
     }
     return std::string_view::npos;
 }
@@ -26,11 +26,10 @@ std::size_t FindCharacter(std::string_view text, char character, LeadByteTest is
 std::size_t FindLastCharacter(std::string_view text, char character, LeadByteTest isLeadByte) {
     if (isLeadByte == nullptr)
         return text.rfind(character);
-    // From the start: backwards nothing tells a second byte from a first.
+    // Searches from the start, because a backward search cannot recognise second bytes.
     auto last = std::string_view::npos;
-    for (std::size_t place = 0; (place = FindCharacter(text, character, isLeadByte, place)) < text.size();
-         ++place)
-        last = place;
+    for (std::size_t i = 0; (i = FindCharacter(text, character, isLeadByte, i)) < text.size(); ++i)
+        last = i;
     return last;
 }
 
@@ -52,7 +51,7 @@ std::string RemoveAccessKeyMarks(std::string_view caption) {
     std::string shown;
     for (std::size_t i = 0; i < caption.size(); ++i) {
         if (caption[i] == '&' && ++i == caption.size())
-            break; // a mark at the end marks nothing
+            break; // an "&" at the end marks nothing
         shown += caption[i];
     }
     return shown;

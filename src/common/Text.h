@@ -1,4 +1,4 @@
-// Text of the workstation: bytes in its ANSI code page.
+// Helpers for text, which is always bytes in the workstation's ANSI code page.
 #pragma once
 
 #include <cstddef>
@@ -7,35 +7,34 @@
 
 namespace obrin {
 
-/// Upper-cases by the code page. The rules take it as an argument: only Windows knows the code page.
+/// Converts a text to upper case. Functions take it as a parameter, because only Windows knows the code page.
 using UpperCaser = std::string (*)(std::string);
 
-/// Whether a byte is the first of a character's two. Taken as an argument like the upper-casing; null for a
-/// code page without such characters.
+/// Returns whether a byte is the first of a two-byte character. Null if the code page has no such characters.
 using LeadByteTest = bool (*)(char byte);
 
-/// Where a character of one byte stands in a text, from `start` on, at which a character begins; npos when
-/// nowhere. The second byte of a character can look like any from 40 hex on, such as "\" and "^". What is
-/// below, such as blanks, digits, line ends, ".", "=" and ">", is found byte by byte.
+/// Returns the position of a one-byte character at or after `start`, or npos. `start` must not be the second
+/// byte of a character. Second bytes can have any value from 40 hex on, such as "\" or "^". To find a lower
+/// value, such as a blank, a digit, a line end, ".", "=" or ">", use std::string::find.
 std::size_t FindCharacter(std::string_view text, char character, LeadByteTest isLeadByte,
                           std::size_t start = 0);
 
-/// The last such place.
+/// Returns the last position of a one-byte character, or npos.
 std::size_t FindLastCharacter(std::string_view text, char character, LeadByteTest isLeadByte);
 
-/// As many characters from the start of a text.
+/// Returns the first `count` characters of a text.
 std::string_view FirstCharacters(std::string_view text, std::size_t count, LeadByteTest isLeadByte);
 
-/// Without leading and trailing spaces. Tabs and other white space are text.
+/// Removes leading and trailing spaces. Keeps tabs and other white space.
 std::string_view TrimBlanks(std::string_view text);
 
-/// As a caption is shown: "&", which marks an access key, left out, and "&&" as "&".
+/// Returns a caption as it is shown: without each "&" that marks an access key, and with "&&" as "&".
 std::string RemoveAccessKeyMarks(std::string_view caption);
 
-/// A text for a control that takes "&" for the mark of an access key.
+/// Doubles every "&", for a control that would read one as the mark of an access key.
 std::string DoubleAmpersands(std::string_view text);
 
-/// With a "\" appended when the last character is not one; an empty path becomes "\".
+/// Appends a "\" if the path does not end with one. An empty path becomes "\".
 std::string EnsureTrailingBackslash(std::string path, LeadByteTest isLeadByte);
 
 } // namespace obrin

@@ -1,4 +1,4 @@
-// Twips, the unit of every position rule, and pixels of a window's DPI: the only conversion between them.
+// Converts between pixels and twips. The layout of the menu window is in twips.
 #pragma once
 
 #include <cmath>
