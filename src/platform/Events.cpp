@@ -6,14 +6,13 @@ namespace obrin {
 
 namespace {
 
-// The keyboard moves between the controls of the window that has it, dialog or not.
 void Dispatch(MSG& message) {
-    // Enter held down counts once: what it starts takes its time.
+    // Enter that is held down must not start a program again and again.
     if (message.message == WM_KEYDOWN && message.wParam == VK_RETURN &&
         (HIWORD(message.lParam) & KF_REPEAT) != 0)
         return;
-    // For the dialog manager a letter is an access key also without Alt. Here it is typed to find a node of
-    // the tree.
+    // The dialog manager also treats a letter without Alt as an access key. Here the operator types letters
+    // to find a node of the tree.
     if (message.message != WM_CHAR && IsDialogMessageA(GetAncestor(message.hwnd, GA_ROOT), &message))
         return;
     TranslateMessage(&message);
@@ -26,7 +25,7 @@ bool ProcessPendingEvents() {
     MSG message;
     while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
         if (message.message == WM_QUIT) {
-            PostQuitMessage(static_cast<int>(message.wParam)); // it is for the loop outside
+            PostQuitMessage(static_cast<int>(message.wParam)); // for RunEvents
             return false;
         }
         Dispatch(message);
@@ -42,7 +41,7 @@ int RunEvents() noexcept {
 }
 
 bool WaitUntil(HWND window, const std::function<bool()>& condition) {
-    constexpr DWORD pause = 15; // milliseconds: nobody notices it, and a core has nothing to do
+    constexpr DWORD pause = 15; // milliseconds: too short to notice, long enough to leave the processor idle
     while (IsWindow(window)) {
         if (condition())
             return true;

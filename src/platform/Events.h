@@ -1,4 +1,4 @@
-// Window events while a handler of ours is at work.
+// The event loop of the program, and functions that process events inside a handler.
 #pragma once
 
 #include "platform/WindowsApi.h"
@@ -7,16 +7,17 @@
 
 namespace obrin {
 
-/// Processes the events that are pending, once. Any handler may run meanwhile, also one that closes the
-/// window: callers check. Returns false when one of them is the program's end, which stays for RunEvents.
+/// Processes all pending events once. Any handler can run during the call and can even close the window, so
+/// callers must check that their window still exists. Returns false if the program has to quit; RunEvents
+/// then gets the quit message again.
 bool ProcessPendingEvents();
 
-/// Runs the program's events until it ends; the keyboard moves between the controls of each window. Returns
-/// the exit code. Nothing that a procedure should have stopped comes through here.
+/// Processes events until the program quits, and returns its exit code. Tab and the arrow keys move the focus
+/// between the controls of each window. noexcept: better to end the program than to unwind through Windows.
 int RunEvents() noexcept;
 
-/// Tests a condition at least every 15 ms until it holds, without a time limit, and processes events in
-/// between. Returns false when `window` was closed or the program ended first. Throws RunTimeError.
+/// Tests a condition at least every 15 ms and processes events in between, without a time limit. Returns true
+/// when it is true, or false if `window` is closed or the program quits first. Throws RunTimeError.
 bool WaitUntil(HWND window, const std::function<bool()>& condition);
 
 } // namespace obrin

@@ -6,7 +6,7 @@ namespace obrin {
 
 namespace {
 
-// Files are named relative to it: on a workstation with several installations the name alone tells little.
+// The action names files relative to this folder. A workstation can have several installations.
 std::string CurrentFolderLine() {
     char folder[1024];
     const DWORD length = GetCurrentDirectoryA(sizeof folder, folder);
@@ -18,7 +18,7 @@ bool ending = false;
 
 [[noreturn]] void End(DWORD code, const char* action) noexcept {
     ending = true;
-    // Task-modal: no other window of ours may act while the program ends.
+    // Task-modal, because no other window of the menu may react while the program ends.
     MessageBoxA(nullptr, (PlatformText(code) + "\r\n\r\n" + action + CurrentFolderLine()).c_str(),
                 applicationTitle, MB_OK | MB_ICONERROR | MB_TASKMODAL | MB_SETFOREGROUND);
     ExitProcess(1);
@@ -33,8 +33,8 @@ std::string PlatformText(DWORD code, const std::string& subject) {
     std::string result(text, length);
     result.erase(result.find_last_not_of("\r\n ") + 1);
     constexpr std::string_view placeholder = "%1";
-    if (const auto place = result.find(placeholder); place != std::string::npos)
-        result.replace(place, placeholder.size(), subject);
+    if (const auto position = result.find(placeholder); position != std::string::npos)
+        result.replace(position, placeholder.size(), subject);
     return result.empty() ? "Error " + std::to_string(code) : result;
 }
 

@@ -1,4 +1,4 @@
-// Failed calls as exceptions, and the boundary at which they end the program.
+// Turns failed calls of Windows into exceptions, and ends the program when nobody expected the failure.
 #pragma once
 
 #include "common/RunTimeError.h"
@@ -8,24 +8,25 @@
 
 namespace obrin {
 
-/// The title of message boxes that have none of their own.
+/// The title of message boxes that have no title of their own.
 constexpr const char* applicationTitle = "ObrinMenu";
 
-/// The platform's sentence for an error code. Some have a gap for the name of what they are about.
+/// Returns the text of Windows for an error code. Some texts contain a name: `subject` is that name.
 std::string PlatformText(DWORD code, const std::string& subject = "The file");
 
-/// Throws the calling thread's last error with what was being done.
+/// Throws RunTimeError with the last error of Windows. `action` says what failed, like "Opening UB.mnu".
 [[noreturn]] void ThrowLastError(const std::string& action);
 
-/// Shows the platform's text for the error that is being handled, what failed and the folder that relative
-/// paths stand in, then ends the program with exit code 1, at once: no exit command for the host, no
-/// remembered system. Only for catch blocks.
+/// Shows the caught error and the current folder, then ends the program at once with exit code 1: sends no
+/// exit command to the host and does not store the last system. Call it only in a catch block.
 [[noreturn]] void EndProgramWithCurrentError() noexcept;
 
-/// Whether that is happening: its box lets events through, which must not start the orderly close.
+/// Returns whether the program is ending with an error. Its message box still processes events, and those
+/// must not start the normal close.
 bool IsEndingWithError();
 
-/// Runs the body of a window, dialog or subclass procedure: no exception may cross the platform's callback.
+/// Runs the body of a window, dialog or subclass procedure. An exception ends the program with its error,
+/// because no exception may pass through the code of Windows that called the procedure.
 template <class Body>
 auto RunOrEndProgram(Body&& body) noexcept {
     try {

@@ -11,23 +11,22 @@ namespace obrin {
 
 namespace {
 
-// As much as a first line takes in practice; more is read only for longer ones.
-constexpr std::size_t firstLineBytes = 4096;
+constexpr std::size_t firstLineBytes = 4096; // longer than most first lines
 
 bool IsBusy(DWORD error) {
     return error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION ||
            error == ERROR_USER_MAPPED_FILE;
 }
 
-// Makes a call about a file, and makes it again for up to a second while somebody has the file open just now:
-// another menu, a virus scanner, a backup. Returns false with the last error when it fails.
+// Calls a function of Windows and retries it for up to a second while the file is locked, for example by a
+// virus scanner or a backup. If it fails, returns false and keeps the last error.
 template <class Call>
 bool RetryWhileBusy(Call&& call) {
-    constexpr ULONGLONG patience = 1000; // milliseconds
+    constexpr ULONGLONG timeLimit = 1000; // milliseconds
     constexpr DWORD pause = 25;
     const ULONGLONG start = GetTickCount64();
     while (!call()) {
-        if (!IsBusy(GetLastError()) || GetTickCount64() - start >= patience)
+        if (!IsBusy(GetLastError()) || GetTickCount64() - start >= timeLimit)
             return false;
         Sleep(pause);
     }
@@ -66,18 +65,19 @@ void File::Fail(const char* action) const {
     ThrowLastError(action + path);
 }
 
-std::string File::Read(std::size_t most) {
-    std::string bytes(most, '\0');
-    DWORD got = 0;
-    if (!RetryWhileBusy(
-            [&] { return ReadFile(handle.get(), bytes.data(), static_cast<DWORD>(most), &got, nullptr); }))
+std::string File::Read(std::size_t maxBytes) {
+    std::string bytes(maxBytes, '\0');
+    DWORD count = 0;
+    if (!RetryWhileBusy([&] {
+            return ReadFile(handle.get(), bytes.data(), static_cast<DWORD>(maxBytes), &count, nullptr);
+        }))
         Fail("Reading ");
-    bytes.resize(got);
+    bytes.resize(count);
     return bytes;
 }
 
 std::string File::ReadToEnd() {
-    constexpr std::uint64_t step = 1 << 30; // a call reads no more than 4 GB
+    constexpr std::uint64_t step = 1 << 30; // one call of Windows cannot read more than 4 GB
     const std::uint64_t size = Size();
     std::string bytes = Read(static_cast<std::size_t>(std::min(size, step)));
     while (bytes.size() < size) {
@@ -98,11 +98,11 @@ std::uint64_t File::Size() const {
 
 void File::Write(std::string_view bytes) {
     while (!bytes.empty()) {
-        DWORD done = 0;
-        const auto want = static_cast<DWORD>(std::min<std::size_t>(bytes.size(), 1U << 30));
-        if (!RetryWhileBusy([&] { return WriteFile(handle.get(), bytes.data(), want, &done, nullptr); }))
+        DWORD written = 0;
+        const auto count = static_cast<DWORD>(std::min<std::size_t>(bytes.size(), 1U << 30));
+        if (!RetryWhileBusy([&] { return WriteFile(handle.get(), bytes.data(), count, &written, nullptr); }))
             Fail("Writing ");
-        bytes.remove_prefix(done);
+        bytes.remove_prefix(written);
     }
 }
 
@@ -120,7 +120,7 @@ void File::Truncate() {
 
 void File::Flush() {
     if (!FlushFileBuffers(handle.get())) {
-        // Some shares cannot be asked to; what they were given has been accepted.
+        // Some shares do not support this call. They have accepted the bytes already.
         const DWORD error = GetLastError();
         if (error != ERROR_INVALID_FUNCTION && error != ERROR_NOT_SUPPORTED)
             Fail("Writing ");
@@ -128,7 +128,7 @@ void File::Flush() {
 }
 
 void File::Close() {
-    if (!CloseHandle(handle.release())) // of which only this way tells how it went
+    if (!CloseHandle(handle.release()))
         Fail("Writing ");
 }
 
@@ -149,7 +149,7 @@ std::optional<std::string> ReadFileIfThere(const std::string& path) {
 std::string ReadFirstLine(const std::string& path) {
     File file(path, File::Use::Read);
     std::string start = file.Read(firstLineBytes);
-    // Each further step reads as much as there is already: a line of megabytes takes few steps.
+    // Each step doubles the text, so that a line of megabytes needs few steps.
     while (start.find('\r') == std::string::npos) {
         const std::string more = file.Read(start.size());
         if (more.empty())
@@ -163,7 +163,7 @@ std::string ReadFirstLine(const std::string& path) {
 }
 
 void WriteFileBytes(const std::string& path, std::string_view bytes) {
-    // Not emptied as it is opened: Windows refuses that for a hidden file.
+    // Truncates at the end: Windows refuses to open a hidden file with CREATE_ALWAYS.
     File file(path, File::Use::Write);
     file.Write(bytes);
     file.Truncate();
@@ -175,14 +175,14 @@ bool FileExists(const std::string& path) {
     if (const DWORD error = GetLastError(); attributes == INVALID_FILE_ATTRIBUTES &&
                                             error != ERROR_FILE_NOT_FOUND && error != ERROR_PATH_NOT_FOUND &&
                                             error != ERROR_INVALID_NAME && error != ERROR_BAD_PATHNAME)
-        throw RunTimeError(error, "Looking for " + path); // it may well be there
+        throw RunTimeError(error, "Looking for " + path); // the file may exist
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
 }
 
 bool NormalFileExists(const std::string& path) {
-    constexpr DWORD unlisted = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
+    constexpr DWORD notNormal = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
     const DWORD attributes = GetFileAttributesA(path.c_str());
-    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & unlisted) == 0;
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & notNormal) == 0;
 }
 
 } // namespace obrin

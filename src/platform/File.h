@@ -1,5 +1,4 @@
-// Files by the platform's own calls: every call is checked, and a file lives no longer than the function
-// that uses it. Paths are relative to the current directory, which never changes.
+// Reads and writes files and checks every call. The program never changes the current directory.
 #pragma once
 
 #include "platform/Handle.h"
@@ -12,37 +11,35 @@
 
 namespace obrin {
 
-/// An open file. Other programs and workstations may read, write and replace it meanwhile: the files of the
-/// installation are shared without locks. Opening, reading and writing are tried again for up to a second
-/// while somebody else keeps the file from it.
+/// An open file. Takes no lock: other programs and workstations may read, write and replace the file at the
+/// same time. Retries for up to a second if another program locks the file.
 class File {
 public:
     enum class Use {
-        Read,      ///< must exist
-        ReadWrite, ///< created when missing
-        Write,     ///< created when missing; the old contents stay until they are written over or truncated
-        New,       ///< for writing, must not exist
+        Read,      ///< the file must exist
+        ReadWrite, ///< creates the file if it is missing
+        Write,     ///< creates the file if it is missing, does not truncate it
+        New,       ///< for writing; the file must not exist
     };
 
-    /// Throws RunTimeError when the file cannot be opened so.
+    /// Opens the file. Throws RunTimeError.
     File(const std::string& filePath, Use use);
 
-    /// The next bytes, at most `most` (up to 1 GB); none at the end of the file. Throws RunTimeError.
-    std::string Read(std::size_t most);
-    /// Everything from the current position to the end. Throws RunTimeError.
+    /// Reads up to `maxBytes` (at most 1 GB); returns no bytes at the end of the file. Throws RunTimeError.
+    std::string Read(std::size_t maxBytes);
+    /// Reads from the current position to the end. Throws RunTimeError.
     std::string ReadToEnd();
-    /// In bytes. Throws RunTimeError.
+    /// Returns the size in bytes. Throws RunTimeError.
     std::uint64_t Size() const;
-    /// Writes at the current position and moves it behind the bytes. Throws RunTimeError.
+    /// Writes at the current position and advances it. Throws RunTimeError.
     void Write(std::string_view bytes);
-    /// Moves the current position, in bytes from the start. Throws RunTimeError.
+    /// Sets the current position in bytes from the start. Throws RunTimeError.
     void Seek(std::uint64_t position);
-    /// Ends the file at the current position. Throws RunTimeError.
+    /// Truncates the file at the current position. Throws RunTimeError.
     void Truncate();
-    /// Waits until the written bytes are on disk. Throws RunTimeError: a share reports here what it could not
-    /// store.
+    /// Waits until the written bytes are on disk. Throws RunTimeError if they could not be stored.
     void Flush();
-    /// Throws RunTimeError, unlike the destructor, which closes the file too.
+    /// Closes the file. Throws RunTimeError, unlike the destructor, which also closes it.
     void Close();
 
     const std::string& Path() const { return path; }
@@ -54,24 +51,23 @@ private:
     UniqueFile handle;
 };
 
-/// All bytes of a file. Throws RunTimeError.
+/// Reads all bytes of a file. Throws RunTimeError.
 std::string ReadFileBytes(const std::string& path);
 
-/// All bytes of a file, or nothing when no file (no folder) of that name exists. Throws RunTimeError.
+/// Reads all bytes of a file. Returns nothing if there is no file of that name. Throws RunTimeError.
 std::optional<std::string> ReadFileIfThere(const std::string& path);
 
-/// The first line of a file, of which no more is read than needed. Throws RunTimeError, also for a file
-/// without any byte.
+/// Reads the first line of a file, and not much more than that. Throws RunTimeError, also for an empty file.
 std::string ReadFirstLine(const std::string& path);
 
-/// Writes a whole file in its place (created or truncated). Throws RunTimeError.
+/// Writes a whole file in place. Creates it if it is missing. Throws RunTimeError.
 void WriteFileBytes(const std::string& path, std::string_view bytes);
 
-/// Whether a file (no folder) of that name exists. A name with wildcards names no file. Throws RunTimeError
-/// when that cannot be told, as on a share that is not reached.
+/// Returns whether a file of that name exists. A folder is not a file. Throws RunTimeError if Windows cannot
+/// tell, for example because a share cannot be reached.
 bool FileExists(const std::string& path);
 
-/// Whether a folder listing of normal files shows that name: no folder, not hidden, no system file.
+/// Returns whether a file of that name exists that is neither hidden nor a system file.
 bool NormalFileExists(const std::string& path);
 
 } // namespace obrin

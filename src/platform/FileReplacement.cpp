@@ -8,7 +8,7 @@ namespace obrin {
 
 namespace {
 
-// Nothing when the file cannot be read.
+// Returns nothing if the file cannot be read.
 std::optional<std::string> TryReadFile(const std::string& path) {
     try {
         return ReadFileIfThere(path);
@@ -17,8 +17,8 @@ std::optional<std::string> TryReadFile(const std::string& path) {
     }
 }
 
-// Makes a new file beside the one that it is for. Its name is its own, as other workstations save at the same
-// moment. Nothing when no file may be made there.
+// Creates a file next to `path` with a name that no other workstation uses. Returns nothing if the user has
+// no right to create one.
 std::optional<File> MakeTemporaryFile(const std::string& path) {
     for (DWORD number = GetTickCount();; ++number) {
         try {
@@ -38,21 +38,20 @@ void WriteAndFlush(File& file, std::string_view bytes) {
     file.Close();
 }
 
-// Whether a file may be taken out of its place: its users need the right, and others who have it open must
-// allow it. Asked first, as a replacement that fails in the middle leaves things behind on some platforms.
+// Tests whether the user may delete the file and whether programs that have it open allow that. On some
+// platforms a replacement that fails half-way leaves files behind.
 bool CanBeReplaced(const std::string& path) {
     const HANDLE handle =
         CreateFileA(path.c_str(), DELETE, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
                     OPEN_EXISTING, 0, nullptr);
     if (handle == INVALID_HANDLE_VALUE)
         return false;
-    const UniqueFile closes(handle);
+    CloseHandle(handle);
     return true;
 }
 
-// Puts the temporary file in the place of the other one, whose rights and attributes stay; or just there when
-// the other one does not exist, or is gone after a replacement that failed half-way. Returns whether it has
-// happened.
+// Replaces the file by the temporary file, or renames the temporary file if there is no file to replace. A
+// replacement that fails half-way can also leave no file. Returns false on failure.
 bool MoveIntoPlace(const std::string& path, const std::string& temporary) {
     if (CanBeReplaced(path) &&
         ReplaceFileA(FullPath(path).c_str(), FullPath(temporary).c_str(), nullptr, 0, nullptr, nullptr))
@@ -61,16 +60,15 @@ bool MoveIntoPlace(const std::string& path, const std::string& temporary) {
            MoveFileExA(temporary.c_str(), path.c_str(), MOVEFILE_WRITE_THROUGH);
 }
 
-// The last thing to try: writes into the file itself.
+// The fallback for files that cannot be replaced.
 void WriteInPlace(const std::string& path, std::string_view bytes, const std::optional<std::string>& current,
                   const std::string& temporary) {
-    std::string action = "Writing " + path; // the file that the user knows
+    std::string action = "Writing " + path;
     try {
         File file(path, File::Use::Write);
         WriteAndFlush(file, bytes);
     } catch (const RunTimeError& error) {
-        // Refused before the first byte, as by missing rights or a lock.
-        const bool isUnchanged = TryReadFile(path) == current;
+        const bool isUnchanged = TryReadFile(path) == current; // for example, the user may not write
         if (isUnchanged || temporary.empty())
             DeleteFileA(temporary.c_str());
         else
@@ -90,7 +88,7 @@ void ReplaceFileBytes(const std::string& path, std::string_view bytes, std::opti
     const DWORD attributes = GetFileAttributesA(path.c_str());
     if (attributes != INVALID_FILE_ATTRIBUTES &&
         (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) != 0)
-        throw RunTimeError(ERROR_ACCESS_DENIED, "Writing " + path); // some platforms would replace them
+        throw RunTimeError(ERROR_ACCESS_DENIED, "Writing " + path); // some platforms would replace it
     std::string temporary;
     if (auto file = MakeTemporaryFile(path)) {
         temporary = file->Path();
@@ -99,11 +97,11 @@ void ReplaceFileBytes(const std::string& path, std::string_view bytes, std::opti
         } catch (const RunTimeError& error) {
             file.reset();
             DeleteFileA(temporary.c_str());
-            throw RunTimeError(error.Code(), "Writing " + path); // on a full disk, say: the old contents stay
+            throw RunTimeError(error.Code(), "Writing " + path); // names the file that the user knows
         }
         if (MoveIntoPlace(path, temporary))
             return;
-        // A share may report a failure although the replacement has happened.
+        // A share may report a failure although it has replaced the file.
         if (TryReadFile(path) == bytes) {
             DeleteFileA(temporary.c_str());
             return;

@@ -1,4 +1,4 @@
-// New contents for a file that other workstations and programs use at the same moment.
+// Replaces the contents of a file that other workstations and programs may use at the same time.
 #pragma once
 
 #include <optional>
@@ -7,14 +7,13 @@
 
 namespace obrin {
 
-/// Gives a file new contents; its rights and attributes stay. They are written to a temporary file beside it,
-/// which then takes its place: the file has the old or the new contents at any moment. Where that is refused,
-/// because others have the file open or its users may write but not delete, it is written in place, with the
-/// temporary file beside it until it is safely on disk. A file that has these contents already is left alone.
-/// `current` are its contents for callers who have just read them.
+/// Replaces the contents of a file and keeps its rights and attributes. Writes a temporary file and replaces
+/// the old file by it: readers see either the old or the new contents. Falls back to writing in place if
+/// another program has the file open or the user has no right to delete it. Writes nothing if the file has
+/// these contents already. `current` is the contents of the file, if the caller has just read it.
 ///
-/// Throws RunTimeError with the file as it was; or, when a write in place fails half-way, with a text that
-/// names the temporary file, which stays.
+/// Throws RunTimeError. The file is then unchanged, except when a write in place failed half-way: the error
+/// text then names the temporary file, which holds the complete new contents.
 void ReplaceFileBytes(const std::string& path, std::string_view bytes,
                       std::optional<std::string> current = std::nullopt);
 

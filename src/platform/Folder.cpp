@@ -10,7 +10,7 @@ namespace obrin {
 
 namespace {
 
-FolderEntry EntryOf(const WIN32_FIND_DATAA& found) {
+FolderEntry MakeEntry(const WIN32_FIND_DATAA& found) {
     const DWORD attributes = found.dwFileAttributes;
     return {.name = found.cFileName,
             .isFolder = (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0,
@@ -47,7 +47,7 @@ std::optional<FolderEntry> FindEntry(const std::string& path) {
     if (found == INVALID_HANDLE_VALUE)
         return std::nullopt;
     FindClose(found);
-    return EntryOf(entry);
+    return MakeEntry(entry);
 }
 
 std::vector<FolderEntry> ListFolder(const std::string& folder) {
@@ -56,13 +56,13 @@ std::vector<FolderEntry> ListFolder(const std::string& folder) {
     const HANDLE found =
         FindFirstFileA((EnsureTrailingBackslash(folder, CodePageLeadByteTest()) + "*").c_str(), &entry);
     if (found == INVALID_HANDLE_VALUE) {
-        if (GetLastError() == ERROR_FILE_NOT_FOUND) // an empty drive root
+        if (GetLastError() == ERROR_FILE_NOT_FOUND) // the root of an empty drive
             return entries;
         ThrowLastError("Listing " + folder);
     }
     const UniqueSearch search(found);
     do {
-        entries.push_back(EntryOf(entry));
+        entries.push_back(MakeEntry(entry));
     } while (FindNextFileA(search.get(), &entry));
     if (GetLastError() != ERROR_NO_MORE_FILES)
         ThrowLastError("Listing " + folder);
@@ -89,11 +89,10 @@ std::string FullPath(const std::string& path) {
 }
 
 std::string ShortPath(const std::string& path) {
-    // One byte more than the call is told, so that its text always ends.
     std::array<char, 165> buffer{};
     constexpr DWORD size = buffer.size() - 1;
     const DWORD length = GetShortPathNameA(path.c_str(), buffer.data(), size);
-    // Of a path that does not fit the call answers the length it would need, and the buffer holds nothing.
+    // If the path does not fit, the call returns the size that it needs.
     return length < size ? std::string(buffer.data(), length) : std::string();
 }
 

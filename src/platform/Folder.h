@@ -1,4 +1,4 @@
-// Folder listings.
+// Lists, tests and creates folders, and converts paths.
 #pragma once
 
 #include <optional>
@@ -7,36 +7,35 @@
 
 namespace obrin {
 
-/// The process's current directory, the host installation folder. Throws RunTimeError.
+/// Returns the current directory, which is the host installation folder. Throws RunTimeError.
 std::string CurrentFolder();
 
-/// Whether a folder of that name exists; a file is none.
+/// Returns whether a folder of that name exists. A file is not a folder.
 bool FolderExists(const std::string& path);
 
-/// Makes a folder in one that exists. That another program has made it meanwhile is no failure. Throws
-/// RunTimeError.
+/// Creates one folder, if it does not exist. The folder above it must exist. Throws RunTimeError.
 void CreateFolder(const std::string& path);
 
 struct FolderEntry {
     std::string name;
     bool isFolder;
-    bool isHidden; ///< or belongs to the system
+    bool isHidden; ///< hidden or a system file
 };
 
-/// What is there under a path, with its name as it stands on the disk; nothing where that cannot be listed.
+/// Returns the file or folder at a path, with its name as stored on the disk, or nothing if there is none.
 std::optional<FolderEntry> FindEntry(const std::string& path);
 
-/// Everything in a folder, in the order of the file system. Throws RunTimeError.
+/// Returns all entries of a folder in the order of the file system. Throws RunTimeError.
 std::vector<FolderEntry> ListFolder(const std::string& folder);
 
-/// Names of the normal files of a folder (read-only and archived ones too, no folders, no hidden or system
-/// files), in the order of the file system. Throws RunTimeError.
+/// Returns the names of the files of a folder in the order of the file system, without hidden files and
+/// system files. Throws RunTimeError.
 std::vector<std::string> ListNormalFiles(const std::string& folder);
 
-/// With drive or server and every folder. Throws RunTimeError.
+/// Returns the absolute path. Throws RunTimeError.
 std::string FullPath(const std::string& path);
 
-/// The folder's short form, or an empty text when it cannot be had in 164 bytes.
+/// Returns the short form (8.3 names) of a path; empty if there is none or it is longer than 163 bytes.
 std::string ShortPath(const std::string& path);
 
 } // namespace obrin

@@ -1,4 +1,4 @@
-// Ownership of the platform's handles.
+// Smart pointers that own handles of Windows.
 #pragma once
 
 #include "platform/WindowsApi.h"
@@ -10,8 +10,7 @@
 
 namespace obrin {
 
-/// Closes the handle of a file, a timer, a process or another kernel object; INVALID_HANDLE_VALUE never gets
-/// this far.
+/// Closes the handle of a file, a process or another kernel object. Do not use it for INVALID_HANDLE_VALUE.
 struct CloseKernelObject {
     void operator()(HANDLE handle) const { CloseHandle(handle); }
 };
@@ -40,7 +39,7 @@ struct DeleteMemoryDc {
     void operator()(HDC context) const { DeleteDC(context); }
 };
 
-using UniqueHandle = std::unique_ptr<void, CloseKernelObject>; // of what is no file
+using UniqueHandle = std::unique_ptr<void, CloseKernelObject>;
 using UniqueFile = UniqueHandle;
 using UniqueSearch = std::unique_ptr<void, CloseSearch>;
 using UniqueMenu = std::unique_ptr<std::remove_pointer_t<HMENU>, DestroyMenuHandle>;
@@ -51,6 +50,6 @@ using UniqueDc = std::unique_ptr<std::remove_pointer_t<HDC>, DeleteMemoryDc>;
 using UniqueLibrary = std::unique_ptr<std::remove_pointer_t<HMODULE>, UnloadLibrary>;
 using UniqueString = std::unique_ptr<OLECHAR, FreeString>; // a BSTR
 template <class Interface>
-using UniqueObject = std::unique_ptr<Interface, ReleaseObject>; // of COM
+using UniqueObject = std::unique_ptr<Interface, ReleaseObject>; // a COM object
 
 } // namespace obrin

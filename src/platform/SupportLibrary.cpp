@@ -13,7 +13,7 @@ UniqueLibrary Load() {
                                                                     LOAD_LIBRARY_SEARCH_SYSTEM32);
     if (library)
         return library;
-    if (GetLastError() == ERROR_BAD_EXE_FORMAT) // whose text has a gap in the place of the name
+    if (GetLastError() == ERROR_BAD_EXE_FORMAT) // the text of Windows for it does not name the library
         throw RunTimeError(PlatformError::InvalidData, std::string(supportLibraryFile) + " is not a " +
                                                            std::to_string(8 * sizeof(void*)) +
                                                            "-bit library. Use the one that came with " +
@@ -37,7 +37,7 @@ SupportLibrary::SupportLibrary()
     , setRegValue(Find<SetRoutine>(library, "SetRegValue")) {}
 
 std::string SupportLibrary::GetRegValue(HKEY root, const char* keyPath, const char* valueName) const {
-    // The library's strings hold bytes of the code page, not wide characters.
+    // The library returns a BSTR that holds bytes of the code page, not wide characters.
     const UniqueString text(getRegValue(root, keyPath, valueName));
     return {reinterpret_cast<const char*>(text.get()), SysStringByteLen(text.get())};
 }

@@ -1,4 +1,4 @@
-// The suite's support library, Corvel.dll: registry text under HKEY_LOCAL_MACHINE.
+// Calls the suite's support library Corvel.dll, which reads and writes texts in the registry.
 #pragma once
 
 #include "platform/Handle.h"
@@ -9,14 +9,14 @@ namespace obrin {
 
 class SupportLibrary {
 public:
-    /// Looks for the library in the program's own folder and the system's, nowhere else. Throws RunTimeError
-    /// when it or one of its routines is not there.
+    /// Loads the library from the folder of the program or the system folder of Windows. Throws RunTimeError
+    /// if it or one of its routines is missing.
     SupportLibrary();
 
-    /// The text of a value; empty when there is none.
+    /// Returns the text of a value; empty if there is no such value.
     std::string GetRegValue(HKEY root, const char* keyPath, const char* valueName) const;
 
-    /// Stores a text. Whether it could be stored is not examined: a standard user may not be allowed to.
+    /// Stores a text. Ignores errors, because a standard user may have no right to write.
     void SetRegValue(HKEY root, const char* keyPath, const char* valueName, const std::string& text) const;
 
 private:

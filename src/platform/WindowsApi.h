@@ -1,4 +1,4 @@
-// The only place that includes <windows.h>: the A calls; the build defines the Windows version.
+// The only file that includes <windows.h>. The program calls the A functions.
 #pragma once
 
 #include <windows.h>
@@ -10,7 +10,7 @@
 
 namespace obrin {
 
-/// The running program, whose resources and window classes are meant.
+/// Returns the module of the running program, which holds its resources and window classes.
 inline HINSTANCE Instance() {
     return GetModuleHandleA(nullptr);
 }

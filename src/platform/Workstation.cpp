@@ -29,7 +29,7 @@ std::string LoginName() {
 
 std::string SystemFolder(bool of32Bits) {
     std::array<char, MAX_PATH> buffer{};
-    // A 32-bit Windows has no second folder.
+    // 32-bit Windows has only one system folder.
     if (!of32Bits || GetSystemWow64DirectoryA(buffer.data(), buffer.size()) == 0)
         GetSystemDirectoryA(buffer.data(), buffer.size());
     return buffer.data();

@@ -1,4 +1,4 @@
-// What the workstation says of itself: its code page's upper case, the Windows user, environment variables.
+// Facts about the workstation: its code page, its Windows user, its folders and environment variables.
 #pragma once
 
 #include "common/Text.h"
@@ -7,25 +7,25 @@
 
 namespace obrin {
 
-/// Upper case by the workstation's ANSI code page.
+/// Converts a text to upper case by the workstation's ANSI code page.
 std::string UpperCase(std::string text);
 
-/// Tells the first bytes of double-byte characters in that code page; null when it has none.
+/// Returns the test for the first bytes of two-byte characters, or null if the ANSI code page has none.
 LeadByteTest CodePageLeadByteTest();
 
-/// The Windows user's name, of up to 99 bytes; empty when Windows does not tell it.
+/// Returns the name of the Windows user, at most 99 bytes; empty if Windows does not return it.
 std::string LoginName();
 
-/// Windows' own folder of libraries, that of 32-bit programs or of the workstation's own bits.
+/// Returns the system folder of Windows for 32-bit programs or for native programs.
 std::string SystemFolder(bool of32Bits);
 
-/// The running program.
+/// Returns the path of the running program.
 std::string OwnFile();
 
-/// The folder of the running program, with a backslash at its end.
+/// Returns the folder of the running program, ending with a backslash.
 std::string OwnFolder();
 
-/// The value of an environment variable; empty when it is not set.
+/// Returns the value of an environment variable; empty if it is not set.
 std::string EnvironmentVariable(const char* name);
 
 } // namespace obrin
