@@ -8,7 +8,7 @@
 namespace obrin {
 
 INT_PTR Dialog::ShowModal(HWND owner, int resource) {
-    // Nothing that the procedure should have stopped comes through here.
+    // noexcept: better to end the program than to unwind through Windows.
     const INT_PTR result = [&]() noexcept {
         return DialogBoxParamA(Instance(), MAKEINTRESOURCEA(resource), owner, Procedure,
                                reinterpret_cast<LPARAM>(this));
@@ -30,10 +30,10 @@ void Dialog::ShowModeless(HWND owner, int resource) {
 INT_PTR CALLBACK Dialog::Procedure(HWND dialogWindow, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
     if (message == WM_INITDIALOG) {
         SetWindowLongPtrA(dialogWindow, DWLP_USER, lParam);
-        auto* made = reinterpret_cast<Dialog*>(lParam);
-        made->window = dialogWindow;
-        made->dpi = GetDpiForWindow(dialogWindow);
-        made->design.emplace(dialogWindow);
+        auto* created = reinterpret_cast<Dialog*>(lParam);
+        created->window = dialogWindow;
+        created->dpi = GetDpiForWindow(dialogWindow);
+        created->design.emplace(dialogWindow);
         const HICON icon = LoadIconA(Instance(), MAKEINTRESOURCEA(IDI_OBRIN));
         SendMessageA(dialogWindow, WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(icon));
     }
@@ -45,7 +45,8 @@ INT_PTR CALLBACK Dialog::Procedure(HWND dialogWindow, UINT message, WPARAM wPara
 
 INT_PTR Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-    // Answered here, neither gets to the dialog manager: it would scale from where the controls happen to be.
+    // The dialog manager must not handle these two messages: it would scale the current positions, and the
+    // rounding errors would add up.
     case WM_GETDPISCALEDSIZE:
         *reinterpret_cast<SIZE*>(lParam) = OuterSizeAt(static_cast<UINT>(wParam));
         SetWindowLongPtrA(window, DWLP_MSGRESULT, TRUE);
@@ -60,10 +61,10 @@ INT_PTR Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         for (const HWND control : ListDescendants(window))
             SendMessageA(control, message, wParam, lParam);
         [[fallthrough]];
-    case WM_THEMECHANGED: { // which Windows tells the controls
-        RECT place;
-        GetWindowRect(window, &place);
-        ApplyLayout(dpi, {place.left, place.top});
+    case WM_THEMECHANGED: { // Windows itself sends this one to the controls
+        RECT bounds;
+        GetWindowRect(window, &bounds);
+        ApplyLayout(dpi, {bounds.left, bounds.top});
         return FALSE;
     }
     default:
@@ -71,30 +72,30 @@ INT_PTR Dialog::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     }
 }
 
-DialogLayout Dialog::LayoutAt(UINT someDpi) const {
-    DialogLayout layout = design->At(someDpi);
+DialogLayout Dialog::LayoutAt(UINT anyDpi) const {
+    DialogLayout layout = design->LayoutAt(anyDpi);
     AdjustLayout(layout);
     return layout;
 }
 
-SIZE Dialog::OuterSize(const DialogLayout& layout, UINT someDpi) const {
+SIZE Dialog::OuterSize(const DialogLayout& layout, UINT anyDpi) const {
     RECT outer{0, 0, layout.inner.cx, layout.inner.cy};
-    AdjustWindowRectExForDpi(&outer, GetWindowStyle(window), FALSE, GetWindowExStyle(window), someDpi);
+    AdjustWindowRectExForDpi(&outer, GetWindowStyle(window), FALSE, GetWindowExStyle(window), anyDpi);
     return {outer.right - outer.left, outer.bottom - outer.top};
 }
 
 void Dialog::ApplyLayout(UINT newDpi, POINT topLeft) {
     dpi = newDpi;
     DialogLayout layout = LayoutAt(dpi);
-    for (const auto& [control, place] : layout.places) {
+    for (const auto& [control, bounds] : layout.controls) {
         SetFont(control, layout.font.get());
-        SetWindowPos(control, nullptr, place.left, place.top, place.right - place.left,
-                     place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
+        SetWindowPos(control, nullptr, bounds.left, bounds.top, bounds.right - bounds.left,
+                     bounds.bottom - bounds.top, SWP_NOZORDER | SWP_NOACTIVATE);
     }
-    font.swap(layout.font); // the old one goes when no control has it any more
+    font.swap(layout.font); // `layout` deletes the old font, which no control uses any more
     OnLayout();
     RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
-    // Last: whatever the resize starts may close the dialog.
+    // Comes last, because handlers of the resize may close the dialog.
     const SIZE outer = OuterSize(layout, dpi);
     SetWindowPos(window, nullptr, topLeft.x, topLeft.y, outer.cx, outer.cy, SWP_NOZORDER | SWP_NOACTIVATE);
 }

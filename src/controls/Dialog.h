@@ -1,5 +1,5 @@
-// Joins a dialog of the resources and the object that handles its messages. The dialog follows the DPI of its
-// screen and the user's settings.
+// The base class of our dialogs. It connects a dialog resource with the object that handles its messages, and
+// keeps the layout right when the DPI of the screen or the user's settings change.
 #pragma once
 
 #include "controls/DialogLayout.h"
@@ -14,37 +14,36 @@ public:
     Dialog(const Dialog&) = delete;
     Dialog& operator=(const Dialog&) = delete;
 
-    /// Shows the dialog and returns once it is closed, with what EndDialog was given. It can also end
-    /// because its owner was destroyed: callers check. Throws RunTimeError when it cannot be opened.
+    /// Shows the dialog modally and returns the value passed to EndDialog. The dialog also ends when its
+    /// owner is destroyed, so callers must check that the owner still exists. Throws RunTimeError.
     INT_PTR ShowModal(HWND owner, int resource);
 
-    /// Opens the dialog beside whatever else goes on, shown without taking the keyboard; it closes with its
-    /// owner. Throws RunTimeError.
+    /// Shows the dialog without the focus and returns at once. Its owner closes it. Throws RunTimeError.
     void ShowModeless(HWND owner, int resource);
 
 protected:
     ~Dialog() = default;
 
-    /// Returns TRUE for a message that needs nothing more, as a dialog procedure does.
+    /// Handles a message. Returns what a dialog procedure returns: TRUE if the message is done.
     virtual INT_PTR OnMessage(UINT message, WPARAM wParam, LPARAM lParam) = 0;
 
-    /// What a layout has that the template does not say, such as the height of a text.
+    /// Changes the layout that was computed from the template, for example to make room for a longer text.
     virtual void AdjustLayout(DialogLayout&) const {}
 
-    /// The controls have got the places and the font for `dpi`; what has other ones gets them here. Not
-    /// called for a dialog as it was made.
+    /// Sets everything that depends on `dpi` but is not in the layout, for example special fonts. Called by
+    /// ApplyLayout, not when the dialog is created.
     virtual void OnLayout() {}
 
-    /// Lays the dialog out anew and puts it there.
+    /// Lays out the dialog for a DPI and moves it to `topLeft` (screen coordinates).
     void ApplyLayout(UINT newDpi, POINT topLeft);
 
-    /// The size of its window at a DPI, in pixels.
-    SIZE OuterSizeAt(UINT someDpi) const { return OuterSize(LayoutAt(someDpi), someDpi); }
+    /// Returns the size of the dialog's window at a DPI, in pixels.
+    SIZE OuterSizeAt(UINT anyDpi) const { return OuterSize(LayoutAt(anyDpi), anyDpi); }
 
-    /// Lets the controls of a page, a dialog within this one, follow as well.
+    /// Adds the controls of a page to the layout. A page is a child dialog.
     void AddPage(HWND page) { design->AddControlsOf(page); }
 
-    /// One of the dialog's controls or its pages'.
+    /// Returns a control of the dialog or its pages.
     HWND Control(int id) const { return design->FindControl(id); }
 
     HWND window = nullptr;
@@ -53,11 +52,11 @@ protected:
 private:
     static INT_PTR CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
     INT_PTR Handle(UINT message, WPARAM wParam, LPARAM lParam);
-    DialogLayout LayoutAt(UINT someDpi) const;
-    SIZE OuterSize(const DialogLayout& layout, UINT someDpi) const;
+    DialogLayout LayoutAt(UINT anyDpi) const;
+    SIZE OuterSize(const DialogLayout& layout, UINT anyDpi) const;
 
     std::optional<DialogDesign> design;
-    UniqueFont font; // none of ours before the first layout
+    UniqueFont font; // null until ApplyLayout; the dialog manager owns the first font
 };
 
 } // namespace obrin

@@ -16,26 +16,26 @@ SIZE MeasureCharacter(HDC context) {
     GetTextExtentPoint32A(context, letters.data(), letters.size(), &extent);
     TEXTMETRICA metrics{};
     GetTextMetricsA(context, &metrics);
-    // The average width, rounded as the dialog manager does.
+    // The dialog manager rounds the average width in the same way.
     return {(extent.cx / 26 + 1) / 2, metrics.tmHeight};
 }
 
 // A font's average character is four dialog units wide and eight high.
 constexpr SIZE unitsOfCharacter{4, 8};
 
-// From one measure of a character to another: place and size each for itself, as the dialog manager does.
-// From pixels to units this is exact, since a unit is larger than a pixel.
-RECT Convert(const RECT& place, SIZE from, SIZE to) {
-    const int left = MulDiv(place.left, to.cx, from.cx);
-    const int top = MulDiv(place.top, to.cy, from.cy);
-    return {left, top, left + MulDiv(place.right - place.left, to.cx, from.cx),
-            top + MulDiv(place.bottom - place.top, to.cy, from.cy)};
+// Converts between pixels and dialog units. `from` and `to` are the size of a character in each unit.
+// Position and size are converted separately, as the dialog manager does.
+RECT Convert(const RECT& bounds, SIZE from, SIZE to) {
+    const int left = MulDiv(bounds.left, to.cx, from.cx);
+    const int top = MulDiv(bounds.top, to.cy, from.cy);
+    return {left, top, left + MulDiv(bounds.right - bounds.left, to.cx, from.cx),
+            top + MulDiv(bounds.bottom - bounds.top, to.cy, from.cy)};
 }
 
 } // namespace
 
 RECT& DialogLayout::BoundsOf(HWND control) {
-    return std::ranges::find(places, control, &Place::control)->place;
+    return std::ranges::find(controls, control, &ControlBounds::control)->bounds;
 }
 
 DialogDesign::DialogDesign(HWND dialog) {
@@ -53,27 +53,27 @@ DialogDesign::DialogDesign(HWND dialog) {
 void DialogDesign::AddControlsOf(HWND parent) {
     for (const HWND control : ListDescendants(parent)) {
         if (GetAncestor(control, GA_PARENT) != parent)
-            continue; // a part of a control
-        RECT place;
-        // A combo box is as high as it is with its list.
-        if (SendMessageA(control, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&place)) == 0)
-            GetWindowRect(control, &place);
-        MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&place), 2);
-        places.push_back({control, Convert(place, character, unitsOfCharacter)});
+            continue; // for example the edit box inside a combo box
+        RECT bounds;
+        // The height of a combo box includes its open list.
+        if (SendMessageA(control, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&bounds)) == 0)
+            GetWindowRect(control, &bounds);
+        MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&bounds), 2);
+        controls.push_back({control, Convert(bounds, character, unitsOfCharacter)});
     }
 }
 
 HWND DialogDesign::FindControl(int id) const {
     const auto found =
-        std::ranges::find(places, id, [](const auto& place) { return GetDlgCtrlID(place.control); });
-    return found == places.end() ? nullptr : found->control;
+        std::ranges::find(controls, id, [](const auto& entry) { return GetDlgCtrlID(entry.control); });
+    return found == controls.end() ? nullptr : found->control;
 }
 
-DialogLayout DialogDesign::At(UINT dpi) const {
+DialogLayout DialogDesign::LayoutAt(UINT dpi) const {
     LOGFONTA scaled = font;
     scaled.lfHeight = -MulDiv(points, static_cast<int>(dpi), pointsPerInch);
     scaled.lfWidth = 0;
-    DialogLayout layout{.font = UniqueFont(CreateFontIndirectA(&scaled)), .inner = {}, .places = places};
+    DialogLayout layout{.font = UniqueFont(CreateFontIndirectA(&scaled)), .inner = {}, .controls = controls};
 
     const UniqueDc context(CreateCompatibleDC(nullptr));
     const HGDIOBJ old = SelectObject(context.get(), layout.font.get());
@@ -82,8 +82,8 @@ DialogLayout DialogDesign::At(UINT dpi) const {
 
     const RECT area = Convert({0, 0, inner.cx, inner.cy}, unitsOfCharacter, pixels);
     layout.inner = {area.right, area.bottom};
-    for (auto& [control, place] : layout.places)
-        place = Convert(place, unitsOfCharacter, pixels);
+    for (auto& [control, bounds] : layout.controls)
+        bounds = Convert(bounds, unitsOfCharacter, pixels);
     return layout;
 }
 

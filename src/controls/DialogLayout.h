@@ -1,5 +1,5 @@
-// Where the controls of a dialog stand at any DPI: computed each time from the dialog units of its template,
-// so that a window that comes back from another screen looks as it did.
+// Computes the layout of a dialog at any DPI. It always starts from the dialog units of the template: scaling
+// the current positions again and again would add up rounding errors.
 #pragma once
 
 #include "platform/Handle.h"
@@ -8,42 +8,41 @@
 
 namespace obrin {
 
-/// A dialog at one DPI, in pixels.
+/// The layout of a dialog at one DPI, in pixels.
 struct DialogLayout {
-    struct Place {
+    struct ControlBounds {
         HWND control;
-        RECT place; ///< in the control's parent
+        RECT bounds; ///< relative to the parent of the control
     };
 
-    UniqueFont font; ///< of the dialog
-    SIZE inner;      ///< of the dialog, without its frame
-    std::vector<Place> places;
+    UniqueFont font;
+    SIZE inner; ///< size without the frame
+    std::vector<ControlBounds> controls;
 
-    /// Of one of the dialog's own controls.
+    /// Returns the bounds of a control, which must be part of the layout.
     RECT& BoundsOf(HWND control);
 };
 
-/// What the template of a dialog says.
+/// The layout of a dialog in dialog units, as its template defines it.
 class DialogDesign {
 public:
-    /// Reads it from a dialog that has just been made, before anything in it is moved.
+    /// Reads the design from a new dialog, before anything in it is moved.
     explicit DialogDesign(HWND dialog);
 
-    /// Reads the controls of a dialog within it, which has the same font.
+    /// Adds the controls of a child dialog, which must use the same font.
     void AddControlsOf(HWND parent);
 
-    /// The control of this id, those of dialogs within counted; 0 without one. To ask the platform for each
-    /// would take longer.
+    /// Returns the control with this id in the dialog or its child dialogs, or null.
     HWND FindControl(int id) const;
 
-    DialogLayout At(UINT dpi) const;
+    DialogLayout LayoutAt(UINT dpi) const;
 
 private:
-    SIZE character; // average one of the font as the dialog was made, in pixels
+    SIZE character; // average character of the font when the dialog was created, in pixels
     LOGFONTA font{};
-    int points;                              // the font's size
-    SIZE inner;                              // in units
-    std::vector<DialogLayout::Place> places; // in units
+    int points;                                        // font size
+    SIZE inner;                                        // in dialog units
+    std::vector<DialogLayout::ControlBounds> controls; // in dialog units
 };
 
 } // namespace obrin

@@ -23,7 +23,6 @@ void SetFont(HWND control, HFONT font) {
 
 namespace {
 
-// As a label draws it.
 SIZE Measure(HFONT font, const std::string& text, int wrapWidth, UINT format) {
     const HDC context = GetDC(nullptr);
     const HGDIOBJ old = SelectObject(context, font);
@@ -42,10 +41,9 @@ SIZE MeasureText(HFONT font, const std::string& text, int wrapWidth) {
 }
 
 SIZE MeasureText(HWND label, const std::string& text, int wrapWidth) {
-    // "&" marks an access key unless the label is told otherwise.
-    const bool marks = (GetWindowLongA(label, GWL_STYLE) & SS_NOPREFIX) == 0;
+    const bool hasAccessKey = (GetWindowLongA(label, GWL_STYLE) & SS_NOPREFIX) == 0;
     return Measure(reinterpret_cast<HFONT>(SendMessageA(label, WM_GETFONT, 0, 0)), text, wrapWidth,
-                   marks ? 0 : DT_NOPREFIX);
+                   hasAccessKey ? 0 : DT_NOPREFIX);
 }
 
 } // namespace obrin

@@ -1,4 +1,4 @@
-// Fonts of a DPI, and texts measured in them.
+// Creates fonts and measures texts.
 #pragma once
 
 #include "platform/Handle.h"
@@ -7,7 +7,8 @@
 
 namespace obrin {
 
-/// A family of fonts and what stands in for it where it is missing: a script, a serif face or one without.
+/// A typeface. If it is not installed, Windows chooses another one of the same family: FF_SCRIPT
+/// (handwriting), FF_ROMAN (with serifs) or FF_SWISS (without serifs).
 struct Face {
     const char* name;
     BYTE family;
@@ -22,16 +23,16 @@ struct FontStyle {
     bool underlined = false;
 };
 
-/// A font of the given size in points, smoothed as the user has chosen.
+/// Creates a font; its size is in points.
 UniqueFont MakeFont(const Face& face, int points, UINT dpi, FontStyle style = {});
 
-/// The font of the platform's own messages, which the standard controls use.
+/// Creates the font that Windows uses in message boxes.
 UniqueFont MakeMessageFont(UINT dpi);
 
 void SetFont(HWND control, HFONT font);
 
-/// The size in pixels that a label needs for its text, with SS_NOPREFIX in a font or as this one is: as wide
-/// as its longest line, or wrapped at `wrapWidth`.
+/// Returns the size in pixels that a label needs for a text. Wraps the text at `wrapWidth` unless that is 0.
+/// With a font, "&" is an ordinary character; with a label, its style decides.
 SIZE MeasureText(HFONT font, const std::string& text, int wrapWidth = 0);
 SIZE MeasureText(HWND label, const std::string& text, int wrapWidth = 0);
 

@@ -7,25 +7,24 @@ namespace obrin {
 
 namespace {
 
-void Fill(HWND box, HDC target) {
+void FillBackground(HWND box, HDC target) {
     RECT inner;
     GetClientRect(box, &inner);
     FillRect(target, &inner, GetSysColorBrush(COLOR_BTNFACE));
 }
 
 LRESULT CallOriginal(HWND box, UINT message, WPARAM wParam, LPARAM lParam) {
-    const auto ownProcedure = reinterpret_cast<WNDPROC>(GetWindowLongPtrA(box, GWLP_USERDATA));
-    return CallWindowProcW(ownProcedure, box, message, wParam, lParam);
+    const auto original = reinterpret_cast<WNDPROC>(GetWindowLongPtrA(box, GWLP_USERDATA));
+    return CallWindowProcW(original, box, message, wParam, lParam);
 }
 
-// The inside, then caption and border on it.
-LRESULT Print(HWND box, HDC target, LPARAM what) {
-    Fill(box, target);
-    return CallOriginal(box, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(target), what);
+// Draws the background, then the stock group box with its caption and border.
+LRESULT Print(HWND box, HDC target, LPARAM flags) {
+    FillBackground(box, target);
+    return CallOriginal(box, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(target), flags);
 }
 
-// Inside and border reach the screen at once: erased first, the border would flicker while the window is
-// resized.
+// Paints background and border in one step, so that the border does not flicker during a resize.
 void Paint(HWND box) {
     PAINTSTRUCT paint;
     const HDC screen = BeginPaint(box, &paint);
@@ -44,10 +43,9 @@ LRESULT CALLBACK Procedure(HWND box, UINT message, WPARAM wParam, LPARAM lParam)
     case WM_CTLCOLORSTATIC:
         return SendMessageA(GetParent(box), message, wParam, lParam);
     case WM_ERASEBKGND:
-        // Left to the paint that follows on the box's own screen. A themed button asks for its background in
-        // its own, which nothing follows.
+        // WM_PAINT fills the box. A themed button passes its own device context and gets its background here.
         if (WindowFromDC(target) != box)
-            Fill(box, target);
+            FillBackground(box, target);
         return TRUE;
     case WM_PRINTCLIENT:
         return Print(box, target, lParam);

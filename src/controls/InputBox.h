@@ -1,4 +1,4 @@
-// A box with a question and one line to answer in.
+// A dialog that asks for one line of text.
 #pragma once
 
 #include "platform/WindowsApi.h"
@@ -7,8 +7,7 @@
 
 namespace obrin {
 
-/// Shows the box modally and returns the answer, or an empty text when it was cancelled or closed. Throws
-/// RunTimeError.
+/// Shows the dialog modally and returns the answer; empty if the user cancels. Throws RunTimeError.
 std::string InputBox(HWND owner, const std::string& prompt, const char* title);
 
 } // namespace obrin

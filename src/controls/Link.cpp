@@ -14,7 +14,7 @@ void Click(HWND label) {
                  reinterpret_cast<LPARAM>(label));
 }
 
-// Hidden, as everywhere, until the keyboard is used.
+// Windows hides focus rectangles until the user presses a key.
 void DrawFocus(HWND label) {
     if (GetFocus() != label || (SendMessageA(label, WM_QUERYUISTATE, 0, 0) & UISF_HIDEFOCUS) != 0)
         return;
@@ -28,13 +28,13 @@ void DrawFocus(HWND label) {
 LRESULT OnMessage(HWND label, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_GETDLGCODE: {
-        // Enter is the link's own key here, not the default button's.
+        // The link itself handles Enter, not the default button.
         const auto* key = reinterpret_cast<const MSG*>(lParam);
         return key != nullptr && key->wParam == VK_RETURN ? DLGC_WANTMESSAGE : DLGC_STATIC;
     }
     case WM_KEYDOWN:
         if ((wParam == VK_RETURN || wParam == VK_SPACE) && (HIWORD(lParam) & KF_REPEAT) == 0)
-            Click(label); // once, also when the key is held
+            Click(label);
         return 0;
     case WM_SETFOCUS:
     case WM_KILLFOCUS:
@@ -44,7 +44,7 @@ LRESULT OnMessage(HWND label, UINT message, WPARAM wParam, LPARAM lParam) {
         return result;
     }
     case WM_PAINT: {
-        // All of it: the mark of the focus, drawn twice on what was not painted anew, is gone.
+        // Repaints the whole label: a focus rectangle that is drawn twice in the same place disappears.
         InvalidateRect(label, nullptr, TRUE);
         const LRESULT result = DefSubclassProc(label, message, wParam, lParam);
         DrawFocus(label);
@@ -60,7 +60,7 @@ LRESULT CALLBACK Procedure(HWND label, UINT message, WPARAM wParam, LPARAM lPara
     return RunOrEndProgram([=] { return OnMessage(label, message, wParam, lParam); });
 }
 
-// Gives the label the role of a link for screen readers. A platform without this service leaves it a label.
+// Tells screen readers that the label is a link. Without this service of Windows it remains a label.
 void AnnounceAsLink(HWND label) {
     void* created = nullptr;
     if (FAILED(CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER, IID_IAccPropServices,

@@ -1,15 +1,15 @@
-// A stock label that is a link for the keyboard and for screen readers too.
+// Makes a stock label a link that also works with the keyboard and with screen readers.
 #pragma once
 
 #include "platform/WindowsApi.h"
 
 namespace obrin {
 
-/// Makes a link of a label with SS_NOTIFY and WS_TABSTOP: Enter and Space click it, it shows that it has the
-/// keyboard, and it is announced as a link. A click reaches the parent as STN_CLICKED, as it does anyway.
+/// Turns a label with SS_NOTIFY and WS_TABSTOP into a link: Enter and Space click it, it shows the focus, and
+/// screen readers announce it as a link. A click notifies the parent with STN_CLICKED.
 void MakeLink(HWND label);
 
-/// The parent's answer to WM_CTLCOLORSTATIC for the label.
+/// Sets the colours of the link. The parent calls it for WM_CTLCOLORSTATIC and returns its result.
 LRESULT UseLinkColours(HDC context);
 
 } // namespace obrin

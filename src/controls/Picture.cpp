@@ -19,7 +19,7 @@ UniqueBitmap LoadPicture(const std::string& path) {
         return picture;
     if (GetLastError() != 0)
         ThrowLastError(action);
-    throw RunTimeError(PlatformError::InvalidData, action); // the call itself is silent about bad contents
+    throw RunTimeError(PlatformError::InvalidData, action); // LoadImage sets no error for a damaged file
 }
 
 UniqueBitmap ScalePicture(HBITMAP picture, UINT dpi) {
@@ -63,14 +63,14 @@ void PictureBox::Scale(UINT dpi) {
 }
 
 void PictureBox::Show(HBITMAP original, UINT dpi) {
-    // The control must have let go of the old picture before it is deleted. Of some pictures it makes a copy,
-    // which it then hands over as the old one.
-    UniqueBitmap copy = ScalePicture(original, dpi);
+    // STM_SETIMAGE returns the bitmap that the control used before. That is either `scaled` or a copy made by
+    // the control, which we must delete too.
+    UniqueBitmap newScaled = ScalePicture(original, dpi);
     UniqueBitmap old(reinterpret_cast<HBITMAP>(
-        SendMessageA(window, STM_SETIMAGE, IMAGE_BITMAP, reinterpret_cast<LPARAM>(copy.get()))));
+        SendMessageA(window, STM_SETIMAGE, IMAGE_BITMAP, reinterpret_cast<LPARAM>(newScaled.get()))));
     if (old == scaled)
-        (void)old.release(); // one and the same
-    scaled = std::move(copy);
+        (void)old.release(); // the assignment below deletes it
+    scaled = std::move(newScaled);
 }
 
 } // namespace obrin

@@ -1,4 +1,4 @@
-// Pictures from BMP files, and the control that shows one.
+// Loads and scales pictures from BMP files, and shows them in a control.
 #pragma once
 
 #include "platform/Handle.h"
@@ -7,25 +7,25 @@
 
 namespace obrin {
 
-/// Loads a BMP file. Throws RunTimeError when it cannot be read or holds no picture.
+/// Loads a BMP file. Throws RunTimeError if it cannot be read or is not a valid BMP file.
 UniqueBitmap LoadPicture(const std::string& path);
 
-/// A copy of the picture for a screen of the given DPI; the original is meant for 96.
+/// Returns a copy of a picture, scaled from 96 DPI to `dpi`. Throws RunTimeError.
 UniqueBitmap ScalePicture(HBITMAP picture, UINT dpi);
 
-/// Width and height in pixels; zeros without a picture.
+/// Returns width and height in pixels; zeros for a null picture.
 SIZE PictureSize(HBITMAP picture);
 
-/// A stock picture control (SS_BITMAP) that keeps its size to that of the picture.
+/// Shows a picture in a stock picture control (SS_BITMAP). The control takes the size of the picture.
 class PictureBox {
 public:
-    /// Takes over an existing control; its window is owned by its parent.
+    /// Uses an existing control. The parent of the control destroys it.
     void Attach(HWND control) { window = control; }
     HWND Window() const { return window; }
 
-    /// Shows the picture of a file at a DPI. Throws RunTimeError and keeps the picture it has.
+    /// Shows the picture of a file, scaled to a DPI. Throws RunTimeError and then keeps the old picture.
     void Load(const std::string& path, UINT dpi);
-    /// Shows its picture, if it has one, at another DPI.
+    /// Scales the picture to another DPI. Does nothing without a picture.
     void Scale(UINT dpi);
 
 private:

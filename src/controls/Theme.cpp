@@ -6,7 +6,7 @@ namespace obrin {
 
 namespace {
 
-// The routines are null without the library.
+// The functions are null if the library cannot be loaded.
 struct UxTheme {
     UniqueLibrary library = LoadLibraryFrom("UxTheme.dll", LOAD_LIBRARY_SEARCH_SYSTEM32);
     decltype(&BeginBufferedPaint) begin = FindRoutine<decltype(begin)>(library, "BeginBufferedPaint");
@@ -14,14 +14,14 @@ struct UxTheme {
     decltype(&EnableThemeDialogTexture) enableTexture =
         FindRoutine<decltype(enableTexture)>(library, "EnableThemeDialogTexture");
 
-    // Once for the thread that paints; its buffers are kept from one painting to the next.
+    // BufferedPaintInit keeps the buffers between paints.
     UxTheme() {
         if (const auto init = FindRoutine<decltype(&BufferedPaintInit)>(library, "BufferedPaintInit"))
             init();
     }
 };
 
-const UxTheme& Loaded() {
+const UxTheme& GetUxTheme() {
     static const UxTheme theme;
     return theme;
 }
@@ -29,7 +29,7 @@ const UxTheme& Loaded() {
 } // namespace
 
 void PaintBuffered(HDC screen, const RECT& area, const std::function<void(HDC)>& paint) {
-    const UxTheme& theme = Loaded();
+    const UxTheme& theme = GetUxTheme();
     HDC buffer = nullptr;
     const HPAINTBUFFER painting = theme.begin != nullptr && theme.end != nullptr
                                       ? theme.begin(screen, &area, BPBF_COMPATIBLEBITMAP, nullptr, &buffer)
@@ -40,8 +40,8 @@ void PaintBuffered(HDC screen, const RECT& area, const std::function<void(HDC)>&
 }
 
 void UseTabBackground(HWND dialog) {
-    if (Loaded().enableTexture != nullptr)
-        Loaded().enableTexture(dialog, ETDT_ENABLETAB);
+    if (const auto enable = GetUxTheme().enableTexture)
+        enable(dialog, ETDT_ENABLETAB);
 }
 
 } // namespace obrin

@@ -1,6 +1,5 @@
-// What the menu takes from the platform's visual styles. Their library is loaded from the system's folder
-// when first needed: one that the program names as its own would be taken from the folder of the program,
-// into which every operator may write.
+// Visual styles of Windows. UxTheme.dll is loaded from the system folder on first use: Windows would look for
+// a linked DLL in the program's folder first, and every operator may write there.
 #pragma once
 
 #include "platform/WindowsApi.h"
@@ -9,11 +8,11 @@
 
 namespace obrin {
 
-/// Calls `paint` with a buffer of the area, which then reaches the screen at once; without visual styles with
-/// the screen itself.
+/// Calls `paint` with an off-screen buffer and copies the result to the screen. Without visual styles, calls
+/// `paint` with the screen itself.
 void PaintBuffered(HDC screen, const RECT& area, const std::function<void(HDC)>& paint);
 
-/// Gives a dialog and its controls the background of the tab strip that it lies upon.
+/// Gives a dialog on a tab strip the background of the tab strip.
 void UseTabBackground(HWND dialog);
 
 } // namespace obrin

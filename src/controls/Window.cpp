@@ -25,7 +25,8 @@ namespace {
 
 LRESULT CALLBACK HeldEnterProcedure(HWND button, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
                                     DWORD_PTR) noexcept {
-    // The dialog manager asks for each key. What is wanted reaches the button, to which Enter means nothing.
+    // The dialog manager asks the button which keys it wants. It sends those keys to the button, which
+    // ignores Enter, instead of clicking the default button.
     const auto* key = reinterpret_cast<const MSG*>(lParam);
     if (message == WM_GETDLGCODE && key != nullptr && key->message == WM_KEYDOWN &&
         key->wParam == VK_RETURN && (HIWORD(key->lParam) & KF_REPEAT) != 0)
@@ -52,8 +53,8 @@ void CentreOnScreen(HWND window, SIZE outer) {
 
 namespace {
 
-BOOL CALLBACK Add(HWND within, LPARAM list) {
-    reinterpret_cast<std::vector<HWND>*>(list)->push_back(within);
+BOOL CALLBACK AddToList(HWND descendant, LPARAM list) {
+    reinterpret_cast<std::vector<HWND>*>(list)->push_back(descendant);
     return TRUE;
 }
 
@@ -61,7 +62,7 @@ BOOL CALLBACK Add(HWND within, LPARAM list) {
 
 std::vector<HWND> ListDescendants(HWND window) {
     std::vector<HWND> windows;
-    EnumChildWindows(window, Add, reinterpret_cast<LPARAM>(&windows));
+    EnumChildWindows(window, AddToList, reinterpret_cast<LPARAM>(&windows));
     return windows;
 }
 

@@ -7,22 +7,22 @@
 
 namespace obrin {
 
-/// A visible control without a size. Throws RunTimeError.
+/// Creates a visible control of size 0. Throws RunTimeError.
 HWND CreateControl(HWND parent, const char* controlClass, int id, DWORD style, const char* text = "",
                    DWORD extendedStyle = 0);
 
-/// Subclasses a stock control and returns its own procedure, for CallWindowProcW: the control stays the
-/// Unicode window that it is. SetWindowSubclass costs a tree of thousands of nodes several times as long.
+/// Subclasses a stock control and returns its original procedure. Call that with CallWindowProcW: stock
+/// controls are Unicode windows. SetWindowSubclass would make filling a large tree several times slower.
 WNDPROC ReplaceWindowProcedure(HWND control, WNDPROC procedure);
 
-/// Lets a button of a dialog take no notice of the repeated keys of Enter held down.
+/// Makes a dialog button ignore the repeated key messages while Enter is held down.
 void IgnoreHeldEnter(HWND button);
 
-/// Sizes a window, in pixels with its frame, and centres it on its screen. A screen without room makes it
-/// smaller.
+/// Centres a window on its screen and resizes it. `outer` is in pixels and includes the frame. The window
+/// becomes smaller if the screen has too little room.
 void CentreOnScreen(HWND window, SIZE outer);
 
-/// All descendants of a window.
+/// Returns all descendants of a window.
 std::vector<HWND> ListDescendants(HWND window);
 
 } // namespace obrin

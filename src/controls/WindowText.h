@@ -1,4 +1,4 @@
-// The text of a window as a string.
+// Reads the text of a window.
 #pragma once
 
 #include "platform/WindowsApi.h"
@@ -7,7 +7,7 @@
 
 namespace obrin {
 
-/// The text of a window or control.
+/// Returns the text of a window or control.
 std::string WindowText(HWND window);
 
 } // namespace obrin

@@ -27,7 +27,7 @@ INT_PTR frmAbout::OnMessage(UINT message, WPARAM wParam, LPARAM) {
 }
 
 void frmAbout::OnCommand(int id) {
-    if (id == IDOK || id == IDCANCEL) // the latter from the close box and the Esc key
+    if (id == IDOK || id == IDCANCEL) // IDCANCEL comes from the close box and the Esc key
         cmdOK_Click();
     else if (id == IDC_CMD_SYS_INFO)
         cmdSysInfo_Click();
@@ -44,7 +44,7 @@ void frmAbout::Form_Load() {
     SetWindowTextA(lblDescription, descriptionText);
     SetWindowTextA(lblDisclaimer, disclaimerText);
 
-    // Higher or lower than the template says, evenly up and down.
+    // AdjustLayout changes the height of the box. Its centre stays where it is.
     RECT box;
     GetWindowRect(window, &box);
     ApplyLayout(dpi, {box.left, (box.top + box.bottom - OuterSizeAt(dpi).cy) / 2});
@@ -58,36 +58,35 @@ void frmAbout::cmdSysInfo_Click() {
     LaunchSystemInfo(window);
 }
 
-// The description keeps its width and gets the height of its text; what is below it moves with its lower
-// edge. A disclaimer that needs more than its room gets that too, and the buttons beside it stay at the
-// bottom.
+// Makes the description as high as its text and moves the controls below it. Makes the disclaimer higher if
+// its text does not fit, and moves the buttons beside it down.
 void frmAbout::AdjustLayout(DialogLayout& layout) const {
-    const auto missing = [&](const RECT& place, const char* text) {
-        return MeasureText(layout.font.get(), text, place.right - place.left).cy - (place.bottom - place.top);
+    const auto missingHeight = [&](const RECT& bounds, const char* text) {
+        return MeasureText(layout.font.get(), text, bounds.right - bounds.left).cy -
+               (bounds.bottom - bounds.top);
     };
     RECT& description = layout.BoundsOf(lblDescription);
-    const LONG below = description.bottom;
-    const LONG growth = missing(description, descriptionText);
+    const LONG oldBottom = description.bottom;
+    const LONG growth = missingHeight(description, descriptionText);
     description.bottom += growth;
-    for (auto& [control, place] : layout.places)
-        OffsetRect(&place, 0, place.top >= below ? growth : 0);
+    for (auto& [control, bounds] : layout.controls)
+        OffsetRect(&bounds, 0, bounds.top >= oldBottom ? growth : 0);
 
     RECT& disclaimer = layout.BoundsOf(lblDisclaimer);
-    const LONG more = std::max(0L, missing(disclaimer, disclaimerText));
-    disclaimer.bottom += more;
+    const LONG disclaimerGrowth = std::max(0L, missingHeight(disclaimer, disclaimerText));
+    disclaimer.bottom += disclaimerGrowth;
     for (const int button : {IDOK, IDC_CMD_SYS_INFO})
-        OffsetRect(&layout.BoundsOf(Control(button)), 0, more);
-    layout.inner.cy += growth + more;
+        OffsetRect(&layout.BoundsOf(Control(button)), 0, disclaimerGrowth);
+    layout.inner.cy += growth + disclaimerGrowth;
 }
 
-// The picture and the large font.
 void frmAbout::OnLayout() {
     constexpr int iconSize = 32; // at 96 DPI
     const int pixels = MulDiv(iconSize, static_cast<int>(dpi), USER_DEFAULT_SCREEN_DPI);
     UniqueIcon newIcon(static_cast<HICON>(
         LoadImageA(Instance(), MAKEINTRESOURCEA(IDI_OBRIN), IMAGE_ICON, pixels, pixels, LR_DEFAULTCOLOR)));
     SendMessageA(picIcon, STM_SETICON, reinterpret_cast<WPARAM>(newIcon.get()), 0);
-    icon = std::move(newIcon); // only now may the old one go
+    icon = std::move(newIcon); // deletes the old icon, which picIcon no longer uses
 
     UniqueFont newFont = MakeFont(shellDialog, 13, dpi, {.bold = true});
     SetFont(lblTitle, newFont.get());
