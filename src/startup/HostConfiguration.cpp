@@ -9,7 +9,7 @@ namespace {
 constexpr std::string_view lineEnd = "\r\n";
 
 bool IsDriveLine(std::string_view line, UpperCaser upperCase) {
-    // Five letters only: "Drivers" is taken for a drive line too.
+    // A line that begins with "Drivers" also counts.
     return upperCase(std::string(line.substr(0, 5))) == "DRIVE";
 }
 
@@ -18,7 +18,7 @@ bool IsDriveLine(std::string_view line, UpperCaser upperCase) {
 std::string BlankDriveLines(std::string_view configuration, UpperCaser upperCase) {
     std::string blanked;
     blanked.reserve(configuration.size());
-    LineReader lines(configuration, LoneLf::EndsLine); // some editors end lines so
+    LineReader lines(configuration, LoneLf::EndsLine); // some editors write lone LFs
     while (const auto line = lines.Next()) {
         if (!IsDriveLine(*line, upperCase))
             blanked += *line;

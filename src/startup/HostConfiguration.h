@@ -1,4 +1,4 @@
-// The two passes that give the host's configuration file this workstation's drive line, as texts.
+// Puts this workstation's drive line into the text of the host's configuration, in two passes.
 #pragma once
 
 #include "common/Text.h"
@@ -8,12 +8,11 @@
 
 namespace obrin {
 
-/// Pass 1: every line kept, but emptied when its first five letters are "Drive" in any case. Each line of
-/// the result ends in CR LF, also where a lone LF ended it.
+/// Pass 1: empties every line that begins with "Drive" in any case. All lines of the result end with CR LF.
 std::string BlankDriveLines(std::string_view configuration, UpperCaser upperCase);
 
-/// Pass 2: the drive line of the folder first, then every line of pass 1's result that is not blank.
-/// `shortFolder` may be empty: the line is written all the same.
+/// Pass 2: writes the drive line of `shortFolder`, which may be empty, and then the lines of the result of
+/// pass 1 without the blank ones.
 std::string AddDriveLine(std::string_view shortFolder, std::string_view blankedConfiguration);
 
 } // namespace obrin

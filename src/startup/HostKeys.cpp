@@ -5,7 +5,7 @@
 namespace obrin {
 
 std::vector<std::uint8_t> HostKeyCodes(std::string command, UpperCaser upperCase, LeadByteTest isLeadByte) {
-    // Upper-cased before the backslashes are replaced: on some code pages 220 is a lower-case letter.
+    // The upper-casing comes first: in some code pages 220 is a lower-case letter.
     std::string text = upperCase(std::move(command));
     auto backslash = FindCharacter(text, '\\', isLeadByte);
     while (backslash != std::string::npos) {

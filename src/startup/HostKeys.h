@@ -1,4 +1,4 @@
-// What is typed into the host: command texts as key codes, and the texts of start argument and caption.
+// The commands that the menu types into the host, and the host's start arguments and caption.
 #pragma once
 
 #include "common/Text.h"
@@ -10,21 +10,20 @@
 
 namespace obrin {
 
-/// The key codes of a command, in order. A "\" is the key 220, CR LF is one Enter key (13) like a lone CR,
-/// every other character is its own upper-case ANSI code, 0 to 255; one of two bytes is two codes, as windows
-/// are told of it.
+/// Returns the key codes of a command. "\" becomes key 220; CR LF and a lone CR become one Enter key (13).
+/// Every other byte becomes its upper-case ANSI code, so a two-byte character becomes two keys.
 std::vector<std::uint8_t> HostKeyCodes(std::string command, UpperCaser upperCase, LeadByteTest isLeadByte);
 
-/// The lines that load a program of the host and run it.
+/// Returns the command that loads and runs a program of the host.
 std::string LoadAndRunCommand(std::string_view program);
 
-/// The lines that start a system: its code is asked for by the start program that they run.
+/// Returns the command that starts a system. It runs the host's start program, which then reads the code.
 std::string StartSystemCommand(std::string_view systemCode);
 
-/// "run core\start -5": plain number.
+/// Returns the host's start arguments: "run core\start -5" for workstation 5.
 std::string HostStartArguments(int wsid);
 
-/// "Obrin-05": at least two digits.
+/// Returns the caption of the host's window: "Obrin-05" for workstation 5.
 std::string StationCaption(int wsid);
 
 } // namespace obrin

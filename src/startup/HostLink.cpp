@@ -14,7 +14,7 @@ HWND FirstChild(HWND station) {
     return station == nullptr ? nullptr : FindWindowExA(station, nullptr, nullptr, nullptr);
 }
 
-// Tells Windows why the end of the session has to wait. Its callers may be nested: the outermost one ends it.
+// Tells Windows why the end of the session must wait.
 class ShutdownBlock {
 public:
     explicit ShutdownBlock(HWND aWindow)
@@ -33,56 +33,57 @@ private:
 
 void HostLink::StartHost(HWND menuWindow, std::int16_t wsid, const std::function<void()>& duringStart) {
     menu = menuWindow;
-    // Waited for all the same when the start is refused: somebody may start it by hand.
-    const DWORD refusal = Open(menu, hostProgram, HostStartArguments(wsid).c_str());
+    // After a failed start the menu waits too: the operator may start the host by hand.
+    const DWORD startError = Open(menu, hostProgram, HostStartArguments(wsid).c_str());
     if (!IsWindow(menu))
-        return; // closed while Windows asked whether the host may be started
+        return; // closed while Windows asked whether it may start the host
     duringStart();
     const std::string caption = StationCaption(wsid);
-    notice.emplace(menu, caption, refusal);
-    // Any window of the host will do first, one of another instance too; the caption behind it is this one's.
-    // The children of that first window tell nothing that is needed, so they are not looked up.
-    if (!WaitUntil(menu,
-                   [&] { return FindWindowA(hostWindowClass, nullptr) != nullptr || ShowNoticeWhenDue(); }))
+    notice.emplace(menu, caption, startError);
+    // The first wait accepts a window of any host, the second one only the window of this workstation.
+    if (!WaitWithNotice([] { return FindWindowA(hostWindowClass, nullptr) != nullptr; }))
         return;
-    // Both: a station window may get its child a moment later.
+    // The station window may get its first child a moment later.
     HWND station = nullptr;
-    if (!WaitUntil(menu, [&] {
+    if (!WaitWithNotice([&] {
             station = FindWindowA(nullptr, caption.c_str());
             hostCommandWindow = FirstChild(station);
-            return hostCommandWindow != nullptr || ShowNoticeWhenDue();
+            return hostCommandWindow != nullptr;
         }))
         return;
-    // A station that is found before its first showing would stay on the screen.
-    constexpr ULONGLONG patience = 2000; // milliseconds
-    const ULONGLONG found = GetTickCount64();
-    WaitUntil(menu, [&] { return IsWindowVisible(station) || GetTickCount64() - found >= patience; });
+    // Waits until the host shows the window: a window that is hidden earlier would appear after all.
+    constexpr ULONGLONG timeLimit = 2000; // milliseconds
+    const ULONGLONG start = GetTickCount64();
+    WaitUntil(menu, [&] { return IsWindowVisible(station) || GetTickCount64() - start >= timeLimit; });
     ShowWindow(station, SW_HIDE);
 }
 
-// Tells the operator what is waited for. Returns false: the wait goes on.
-bool HostLink::ShowNoticeWhenDue() {
-    notice->ShowWhenDue();
-    return false;
+bool HostLink::WaitWithNotice(const std::function<bool()>& condition) {
+    return WaitUntil(menu, [&] {
+        if (condition())
+            return true;
+        notice->ShowWhenDue();
+        return false;
+    });
 }
 
 void HostLink::SendHostCommand(std::string command) {
     const ShutdownBlock block(menu);
-    // The programs that it starts come to the front; Windows lets only those that the operator's own program
-    // names.
+    // Lets the host bring the windows of its programs to the front. Windows allows that only with the
+    // permission of the program that the operator is using.
     DWORD host = 0;
     if (GetWindowThreadProcessId(hostCommandWindow, &host) != 0)
         AllowSetForegroundWindow(host);
     for (const WPARAM code : HostKeyCodes(std::move(command), UpperCase, CodePageLeadByteTest())) {
-        pending.push_back({WM_KEYDOWN, code});
-        pending.push_back({WM_KEYUP, code});
+        pendingKeys.push_back({WM_KEYDOWN, code});
+        pendingKeys.push_back({WM_KEYUP, code});
     }
-    // While the host handles a key, what is sent to our windows directly is processed in here, such as the
-    // end of the Windows session, whose exit command must not land in the middle of a line: the inner call
-    // sends the rest of the outer one's keys first.
-    while (!pending.empty()) {
-        const auto [message, code] = pending.front();
-        pending.pop_front();
+    // SendMessage can call this function again: while the host handles a key, Windows may tell our window
+    // that the session ends, and the menu sends the exit command. The inner call first sends the remaining
+    // keys of the outer call, so that the two commands do not mix.
+    while (!pendingKeys.empty()) {
+        const auto [message, code] = pendingKeys.front();
+        pendingKeys.pop_front();
         SendMessageA(hostCommandWindow, message, code, 0);
     }
 }

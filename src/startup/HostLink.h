@@ -1,4 +1,4 @@
-// The link to the workstation's host instance: starting it, finding its windows, typing into it.
+// Starts the workstation's host, finds its windows and types commands into it.
 #pragma once
 
 #include "platform/WindowsApi.h"
@@ -12,7 +12,7 @@
 
 namespace obrin {
 
-/// Every top-level window of the host has this class.
+/// The class of every top-level window of the host.
 constexpr const char* hostWindowClass = "ZafWindow";
 
 class HostLink {
@@ -20,16 +20,15 @@ public:
     explicit HostLink(HWND commandWindow = nullptr)
         : hostCommandWindow(commandWindow) {}
 
-    /// Starts the host for this workstation, does `duringStart`, waits for the host's windows without a time
-    /// limit while the events of the menu window are processed, and hides it. The link stands when it
-    /// returns, unless the menu was closed duringStart. Throws RunTimeError.
+    /// Starts the host, calls `duringStart`, waits without a time limit for the host's window and hides it.
+    /// Processes events while it waits. Returns early if the menu window is closed. Throws RunTimeError.
     void StartHost(HWND menuWindow, std::int16_t wsid, const std::function<void()>& duringStart);
 
-    /// Closes the notice that a wait of more than a moment has shown.
+    /// Closes the notice that StartHost shows during a long wait.
     void CloseNotice() { notice.reset(); }
 
-    /// Types a command into the host's command window, key by key; each key has been handled by the host when
-    /// the next is sent. Without a host the keys are lost, without a message.
+    /// Types a command into the host's command window, key by key, and waits until the host has handled each
+    /// key. Does nothing if the host has ended.
     void SendHostCommand(std::string command);
 
 private:
@@ -38,12 +37,12 @@ private:
         WPARAM code;
     };
 
-    bool ShowNoticeWhenDue();
+    bool WaitWithNotice(const std::function<bool()>& condition);
 
     HWND menu = nullptr;
     HWND hostCommandWindow;
     std::optional<HostNotice> notice;
-    std::deque<Key> pending; // key messages still to be sent
+    std::deque<Key> pendingKeys;
 };
 
 } // namespace obrin

@@ -9,15 +9,15 @@ namespace obrin {
 
 namespace {
 
-constexpr ULONGLONG patience = 2000; // milliseconds, in which most hosts come
+constexpr ULONGLONG delay = 2000; // milliseconds; most hosts need less
 
 } // namespace
 
-HostNotice::HostNotice(HWND menuWindow, const std::string& stationCaption, DWORD refusal)
+HostNotice::HostNotice(HWND menuWindow, const std::string& stationCaption, DWORD hostStartError)
     : menu(menuWindow)
     , caption(stationCaption)
-    , refused(refusal)
-    , due(GetTickCount64() + (refusal != 0 ? 0 : patience)) {}
+    , startError(hostStartError)
+    , dueTime(GetTickCount64() + (startError != 0 ? 0 : delay)) {}
 
 HostNotice::~HostNotice() {
     if (window != nullptr)
@@ -25,7 +25,7 @@ HostNotice::~HostNotice() {
 }
 
 void HostNotice::ShowWhenDue() {
-    if (shown || GetTickCount64() < due)
+    if (shown || GetTickCount64() < dueTime)
         return;
     shown = true;
     ShowModeless(menu, IDD_HOST_NOTICE);
@@ -35,9 +35,9 @@ INT_PTR HostNotice::OnMessage(UINT message, WPARAM wParam, LPARAM) {
     switch (message) {
     case WM_INITDIALOG:
         Form_Load();
-        return FALSE; // the keyboard stays where it is
+        return FALSE; // leaves the focus where it is
     case WM_COMMAND:
-        // The button, Esc and the close box. The menu ends as if it had been closed, and this window with it.
+        // From the button, Esc or the close box. Closing the menu also closes this window.
         if (LOWORD(wParam) == IDCANCEL)
             PostMessageA(menu, WM_CLOSE, 0, 0);
         return TRUE;
@@ -54,10 +54,10 @@ void HostNotice::Form_Load() {
     SetWindowTextA(Control(IDC_WAITED_FOR),
                    ("The menu opens as soon as " + program + " shows its window " + caption + ".").c_str());
     SetWindowTextA(Control(IDC_FOLDER), CurrentFolder().c_str());
-    if (refused != 0)
+    if (startError != 0)
         SetWindowTextA(Control(IDC_REASON),
-                       (program + " could not be started: " + PlatformText(refused, program)).c_str());
-    constexpr LPARAM step = 500; // milliseconds; a livelier bar would cost more than the wait itself
+                       (program + " could not be started: " + PlatformText(startError, program)).c_str());
+    constexpr LPARAM step = 500; // milliseconds; faster progress would use more processor time than the wait
     SendMessageA(Control(IDC_PROGRESS), PBM_SETMARQUEE, TRUE, step);
 }
 

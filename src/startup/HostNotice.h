@@ -1,4 +1,4 @@
-// The small window that tells the operator what is waited for when the host does not come at once.
+// The small window that tells the operator that the menu is waiting for the host.
 #pragma once
 
 #include "controls/Dialog.h"
@@ -9,14 +9,14 @@ namespace obrin {
 
 class HostNotice final : public Dialog {
 public:
-    /// Nothing is shown yet. `refusal` is the platform's code when the host could not be started, or 0.
-    HostNotice(HWND menuWindow, const std::string& stationCaption, DWORD refusal);
+    /// Shows nothing yet. `hostStartError` is the Windows error code if the host could not be started, or 0.
+    HostNotice(HWND menuWindow, const std::string& stationCaption, DWORD hostStartError);
     HostNotice(const HostNotice&) = delete;
     HostNotice& operator=(const HostNotice&) = delete;
     ~HostNotice();
 
-    /// Shows the notice once, after two seconds of waiting or, when the start was refused, at once. Throws
-    /// RunTimeError.
+    /// Shows the notice if two seconds are over or the host could not be started. Shows it only once, so it
+    /// can be called again and again. Throws RunTimeError.
     void ShowWhenDue();
 
 private:
@@ -25,8 +25,8 @@ private:
 
     HWND menu;
     std::string caption;
-    DWORD refused;
-    ULONGLONG due; // milliseconds of GetTickCount64
+    DWORD startError;
+    ULONGLONG dueTime; // by GetTickCount64
     bool shown = false;
 };
 

@@ -19,13 +19,11 @@ namespace {
 void RewriteHostConfiguration(std::string current) {
     const std::string blanked = BlankDriveLines(current, UpperCase);
     WriteFileBytes(temporaryConfigurationFile, blanked);
-    // Not read back from the temporary file: a workstation that starts at the same instant empties it. And
-    // the configuration keeps its old lines until the new ones are safely on disk.
+    // Does not read the temporary file back, because another workstation may truncate it at this moment.
     ReplaceFileBytes(hostConfigurationFile, AddDriveLine(ShortPath(CurrentFolder()), blanked),
                      std::move(current));
 }
 
-// Under any caption: the class alone counts.
 HWND FindOpenHost() {
     return FindWindowA(hostWindowClass, nullptr);
 }
@@ -38,32 +36,31 @@ void OfferToShowHost() {
                     "Error Opening Obrin System", style) != IDYES)
         return;
     const HWND host = FindOpenHost();
-    ShowWindowAsync(host, SW_SHOWNORMAL); // not waited for: it may hang
+    ShowWindowAsync(host, SW_SHOWNORMAL); // does not wait, because the host may hang
     SetForegroundWindow(host);
     SetActiveWindow(host);
 }
 
 void ShowOtherMenu(HWND menu) {
-    ShowWindowAsync(menu, SW_SHOWNORMAL); // not waited for: it may hang
+    ShowWindowAsync(menu, SW_SHOWNORMAL); // does not wait, because the menu may hang
     SetForegroundWindow(menu);
 }
 
-BOOL CALLBACK FindFirstUsableWindow(HWND window, LPARAM kept) {
-    // What a box in front has disabled is not what waits for the operator.
+BOOL CALLBACK FindFirstUsableWindow(HWND window, LPARAM result) {
+    // A disabled window has a modal dialog in front of it.
     if (!IsWindowVisible(window) || !IsWindowEnabled(window))
         return TRUE;
-    *reinterpret_cast<HWND*>(kept) = window;
+    *reinterpret_cast<HWND*>(result) = window;
     return FALSE;
 }
 
-// Of a menu that is still loading: the question for its number, that it waits for the host, an error. It may
-// show nothing yet, and then nothing comes to the front.
+// While a menu loads, it can show a dialog: the question for its number, the notice of the wait, an error.
 void ActivateLoadingMenu(HWND menu) {
-    HWND shown = nullptr;
+    HWND dialog = nullptr;
     EnumThreadWindows(GetWindowThreadProcessId(menu, nullptr), FindFirstUsableWindow,
-                      reinterpret_cast<LPARAM>(&shown));
-    if (shown != nullptr)
-        SetForegroundWindow(shown);
+                      reinterpret_cast<LPARAM>(&dialog));
+    if (dialog != nullptr)
+        SetForegroundWindow(dialog);
 }
 
 } // namespace
@@ -74,14 +71,14 @@ void Main(const MenuWindow& menu) {
         MessageBoxA(nullptr, "Config File Not found!", "Error!", MB_OK);
         return;
     }
-    // Before the test for an open host: the drive line is right from now on, whatever the test says.
+    // Comes before the test for an open host: the drive line must be right in any case.
     RewriteHostConfiguration(std::move(*current));
     if (FindOpenHost() != nullptr)
         OfferToShowHost();
     else if (const HWND other = FindWindowA(nullptr, menu.caption))
         ShowOtherMenu(other);
     else if (const HWND loading = FindWindowA(menu.windowClass, nullptr))
-        ActivateLoadingMenu(loading); // a second one would type into the same host
+        ActivateLoadingMenu(loading); // a second menu would type into the same host
     else
         menu.show();
 }

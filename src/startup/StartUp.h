@@ -1,21 +1,19 @@
-// The entry routine: prepares the host's configuration, refuses to run beside an open host, keeps the menu
-// a single instance.
+// The entry routine of the menu.
 #pragma once
 
 #include <functional>
 
 namespace obrin {
 
-/// The menu window as the entry routine knows it.
+/// What the entry routine needs to know about the menu window.
 struct MenuWindow {
     const char* windowClass;
-    const char* caption;        ///< from the first shown system on
-    std::function<void()> show; ///< creates and shows it
+    const char* caption;        ///< the window has it only once a system is shown
+    std::function<void()> show; ///< creates and shows the window
 };
 
-/// Runs from the current directory, the host installation folder. Shows the menu window when it may be shown;
-/// otherwise returns without having shown a window of its own. Throws RunTimeError when configuration or
-/// temporary file cannot be read or written.
+/// Rewrites the host's configuration in the current directory and shows the menu window. If a host is open,
+/// offers to show that one instead; if another menu is open, activates that one. Throws RunTimeError.
 void Main(const MenuWindow& menu);
 
 } // namespace obrin

@@ -11,10 +11,10 @@ namespace obrin {
 namespace {
 
 constexpr std::size_t nameBytes = 100;
-constexpr std::size_t recordBytes = nameBytes + 2; // the rest of a slot is filler, which the last may lack
+constexpr std::size_t recordBytes = nameBytes + 2; // filler follows; the last slot may end without it
 
-unsigned Byte(std::string_view bytes, std::size_t at) {
-    return static_cast<unsigned char>(bytes[at]);
+unsigned ByteAt(std::string_view bytes, std::size_t position) {
+    return static_cast<unsigned char>(bytes[position]);
 }
 
 } // namespace
@@ -24,7 +24,7 @@ std::vector<UserRecord> ReadUserRecords(std::string_view file) {
     while (file.size() >= recordBytes) {
         records.push_back(
             {.name = TrimBlanks(file.substr(0, nameBytes)),
-             .wsid = static_cast<std::int16_t>(Byte(file, nameBytes) | Byte(file, nameBytes + 1) << 8)});
+             .wsid = static_cast<std::int16_t>(ByteAt(file, nameBytes) | ByteAt(file, nameBytes + 1) << 8)});
         file.remove_prefix(std::min(userRecordSlot, file.size()));
     }
     return records;
@@ -34,7 +34,7 @@ UserScan ScanUserRecords(std::string_view file, std::string_view loginName) {
     const auto wanted = TrimBlanks(loginName);
     const auto records = ReadUserRecords(file);
     UserScan scan{.wsid = 0, .recordsRead = records.size()};
-    // No stop at a match: of several records of a user the last one counts.
+    // Does not stop at a match: if a user has several records, the last one counts.
     for (const auto& [name, wsid] : records) {
         if (name == wanted)
             scan.wsid = wsid;

@@ -1,5 +1,4 @@
-// The workstation number as values: the records of "UserWSID.sys", the answers to the question for it, its
-// marker file.
+// The workstation number in the records of "UserWSID.sys", in answers of the user and in file names.
 #pragma once
 
 #include <cstddef>
@@ -11,33 +10,32 @@
 
 namespace obrin {
 
-/// Bytes of a record slot. Records written by earlier installations are found only at multiples of 202.
+/// Bytes of a record slot. Earlier installations have written records at multiples of 202.
 constexpr std::size_t userRecordSlot = 202;
 
 struct UserRecord {
-    std::string_view name; ///< without blanks at its ends; part of the file
+    std::string_view name; ///< trimmed; points into the bytes of the file
     std::int16_t wsid;
 };
 
-/// The records of the whole file; a fragment at its end is none.
+/// Reads all records from the bytes of the file. Ignores an incomplete record at the end.
 std::vector<UserRecord> ReadUserRecords(std::string_view file);
 
-/// What a scan of the whole file found.
 struct UserScan {
-    std::int16_t wsid = 0;       ///< of the user's last record; 0 when there is none
-    std::size_t recordsRead = 0; ///< a new record goes into the slot behind these
+    std::int16_t wsid = 0;       ///< from the last record of the user; 0 if there is none
+    std::size_t recordsRead = 0; ///< the index of the slot for a new record
 };
 
-/// Scans the file's bytes for the user. Names are compared without blanks at both ends, case matters.
+/// Looks for the records of a user in the bytes of the file. Compares trimmed names, case-sensitively.
 UserScan ScanUserRecords(std::string_view file, std::string_view loginName);
 
-/// A whole slot: the name without blanks at both ends, cut or padded to 100 bytes, the number, zeros.
+/// Returns the bytes of a slot: the trimmed name in 100 bytes, the number in two bytes, zeros.
 std::string UserWsidRecord(std::string_view loginName, std::int16_t wsid);
 
-/// The workstation number that an answer names: a whole value from 1 to 99, nothing otherwise.
+/// Returns the number that an answer contains if it is whole and from 1 to 99; nothing for other answers.
 std::optional<std::int16_t> ParseWsidAnswer(std::string_view answer);
 
-/// The workstation's marker file, "Menu 5.txt": the blank of the number's sign position is part of the name.
+/// Returns the name of the marker file: "Menu 5.txt" for workstation 5.
 std::string MarkerFileName(int wsid);
 
 } // namespace obrin

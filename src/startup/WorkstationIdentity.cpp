@@ -35,12 +35,11 @@ std::int16_t EstablishIdentity(HWND menu, const std::string& loginName) {
             users.Flush();
             users.Close();
         } else if (IsWindow(menu)) {
-            // After an invalid answer the question comes twice and only the later answer counts.
+            // After an invalid answer the user is asked twice, and only the second answer counts.
             AskForWsid(menu, user);
         }
     }
-    // A damaged record's negative number is neither asked about nor accepted: the menu waits here until it
-    // is closed.
+    // A damaged record can hold a negative number. The menu then waits until it is closed.
     if (wsid < 0)
         WaitUntil(menu, [] { return false; });
     return wsid;

@@ -1,4 +1,4 @@
-// The workstation number of the Windows user: remembered in "UserWSID.sys", asked for on first use.
+// Finds out the workstation number of the Windows user.
 #pragma once
 
 #include "platform/WindowsApi.h"
@@ -8,12 +8,14 @@
 
 namespace obrin {
 
-/// The number of this user. Asks for one, again and again, until the answer is valid, and remembers it. When
-/// `menu` is closed meanwhile, whatever it returns is of no use. Throws RunTimeError for the file's errors.
+/// Returns the user's number from "UserWSID.sys". If there is none, asks until the answer is valid and stores
+/// it there. If the user closes `menu` first, the result has no meaning. Throws RunTimeError.
 std::int16_t EstablishIdentity(HWND menu, const std::string& loginName);
 
-/// The captions that show user and number: "User - anna", "WSID - 05".
+/// Returns a label like "User - anna".
 std::string UserCaption(const std::string& loginName);
+
+/// Returns a label like "WSID - 05".
 std::string WsidCaption(std::int16_t wsid);
 
 } // namespace obrin
