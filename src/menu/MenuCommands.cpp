@@ -26,13 +26,13 @@ constexpr std::array<Item, 8> hostPrograms{{
     {ID_PRINT_TEST, "Core\\Programs\\PrintTest"},
 }};
 
-constexpr char systemCodePlaceholder = '*'; // in a document's path; no file name can hold one
+constexpr char systemCodePlaceholder = '*'; // no file name can contain it
 
 constexpr std::array<Item, 5> documents{{
     {ID_CORE_HELP, "Help\\Index.html"},
     {ID_SYSTEM_HELP, "Help\\*\\Index.html"},
     {ID_WEBSITE, "Help\\Obrin-Web.url"},
-    {ID_USER_SITE, "Obrin-User.url"}, // beside the menu files, not in the help folder
+    {ID_USER_SITE, "Obrin-User.url"}, // in the installation folder, not in the help folder
     {IDC_LABEL5, "Help\\BetterIdea.url"},
 }};
 
@@ -53,8 +53,8 @@ std::optional<std::string> DocumentOf(int item, std::string_view menuFileName, L
     if (!document)
         return std::nullopt;
     std::string path(*document);
-    if (const auto place = path.find(systemCodePlaceholder); place != std::string::npos)
-        path.replace(place, 1, SystemCode(menuFileName, isLeadByte));
+    if (const auto position = path.find(systemCodePlaceholder); position != std::string::npos)
+        path.replace(position, 1, SystemCode(menuFileName, isLeadByte));
     return path;
 }
 

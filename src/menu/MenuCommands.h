@@ -1,4 +1,4 @@
-// What the fixed items of the menu bar do: host programs to run and documents to open.
+// The fixed items of the menu bar: which host programs they run and which documents they open.
 #pragma once
 
 #include "common/Text.h"
@@ -9,11 +9,11 @@
 
 namespace obrin {
 
-/// The host program that an item of the menu bar runs.
+/// Returns the path of the host program that an item runs, or nothing for other items.
 std::optional<std::string_view> HostProgramOf(int item);
 
-/// The document that an item opens, relative to the installation folder. Help of a system, the one of this
-/// menu file, lies below its code.
+/// Returns the path of the document that an item opens, relative to the installation folder, or nothing for
+/// other items. `menuFileName` chooses the help folder of a system.
 std::optional<std::string> DocumentOf(int item, std::string_view menuFileName, LeadByteTest isLeadByte);
 
 } // namespace obrin

@@ -46,7 +46,7 @@ public:
         while (const auto line = lines.Next()) {
             ++lineNumber;
             if (definition.entries.size() == maxEntries) {
-                AddFault(MenuFault::Kind::TooManyEntries, "more entries than a menu can count");
+                AddFault(MenuFault::Kind::TooManyEntries, "more than 32,767 entries");
                 break;
             }
             AddEntry(*line);
@@ -69,7 +69,7 @@ private:
             CheckKey(entry.key);
         } else {
             entry.text = line;
-            // Headings deeper than this one are closed.
+            // Forgets deeper headings.
             headings.resize(std::min(depth, maxEntries) + 1, missing);
             headings.back() = static_cast<std::int16_t>(definition.entries.size() + 1);
         }
@@ -88,7 +88,7 @@ private:
     void CheckKey(const std::string& key) {
         if (key.empty())
             return;
-        // Nodes are found by index or by key, so a number cannot be a key.
+        // A key that is a number could be mistaken for a tree index.
         if (IsNumber(key))
             AddFault(MenuFault::Kind::NumberAsKey, "the key " + key + " is a number");
         const auto [first, isNew] = lineOfKey.try_emplace(key, lineNumber);
@@ -102,11 +102,11 @@ private:
     }
 
     static constexpr std::int16_t noParent = 0;
-    static constexpr std::int16_t missing = 0; // no heading of this depth
+    static constexpr std::int16_t missing = 0; // there is no heading at this depth
 
     LeadByteTest isLeadByte;
     int lineNumber = 1;
-    std::vector<std::int16_t> headings = {missing}; // by depth: the tree index of the last heading
+    std::vector<std::int16_t> headings = {missing}; // tree index of the last heading at each depth
     std::unordered_map<std::string, int> lineOfKey;
     MenuDefinition definition;
 };

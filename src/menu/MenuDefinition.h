@@ -1,4 +1,4 @@
-// A menu definition file as values: its title, the entries of its tree, and what is wrong with it.
+// Parses a menu definition file into its title, the entries of its tree and its faults.
 #pragma once
 
 #include "common/Text.h"
@@ -11,8 +11,7 @@
 
 namespace obrin {
 
-/// One node of the tree. Its tree index is its position among the entries, counted from 1; it stands in the
-/// line behind that number.
+/// One node of the tree. The entry in line 2 of the file has tree index 1, the next one 2, and so on.
 struct MenuEntry {
     std::string text;
     std::string key; ///< host program path; empty for headings
@@ -21,38 +20,35 @@ struct MenuEntry {
     std::int16_t parent = 0; ///< tree index of the heading above it; 0 at top level
 };
 
-/// A reason for which the menu refuses a file.
+/// A fault in a menu file; the menu refuses to show such a file.
 struct MenuFault {
     enum class Kind { NoHeader, NoHeading, NumberAsKey, KeyTwice, TooManyEntries };
 
     Kind kind;
     int line; ///< counted from 1
     std::string text;
-    int firstLine = 0; ///< of a key that comes twice: where it came first
+    int firstLine = 0; ///< for KeyTwice, the line that used the key first
 };
 
 struct MenuDefinition {
-    std::string title; ///< blanks at its ends kept
+    std::string title; ///< not trimmed
     std::vector<MenuEntry> entries;
-    std::vector<MenuFault> faults; ///< in the order of lines
+    std::vector<MenuFault> faults; ///< sorted by line
 };
 
-/// Whether a file of this name is a menu definition: something in front of ".mnu" in lower case.
+/// Returns whether a file name ends with ".mnu" in lower case and has at least one character before that.
 bool IsMenuFileName(std::string_view name);
 
-/// The system's title in the header line, with its blanks.
+/// Returns the system's title from the header line, not trimmed.
 std::string_view HeaderTitle(std::string_view headerLine, LeadByteTest isLeadByte);
 
-/// The two characters by which host and help pages know a system.
+/// Returns the system code: the first two characters of the name of its menu file.
 std::string_view SystemCode(std::string_view menuFileName, LeadByteTest isLeadByte);
 
-/// Reads the text of a menu file. Nothing is repaired: an entry without its heading is a fault, and so are a
-/// key that comes twice or is a number, a missing header line and the 32,768th entry, behind which nothing is
-/// read.
+/// Parses the text of a menu file. Reports faults and repairs none of them. Stops at TooManyEntries.
 MenuDefinition ParseMenuDefinition(std::string_view file, LeadByteTest isLeadByte);
 
-/// Throws RunTimeError with file, line and text of the first fault, if there is one: a tree that differs from
-/// its file would start the wrong programs.
+/// Throws RunTimeError for the first fault, if there is one: a wrong tree would start wrong programs.
 void ThrowFirstFault(const MenuDefinition& definition, const std::string& fileName);
 
 } // namespace obrin

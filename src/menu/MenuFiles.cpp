@@ -18,9 +18,9 @@ std::vector<MenuFile> EnumerateMenuFiles() {
             continue;
         const std::string header = ReadFirstLine(name);
         if (files.size() == maxSystems)
-            throw RunTimeError(PlatformError::InvalidIndex, "Adding " + name +
-                                                                " to the system list as item " +
-                                                                std::to_string(maxSystems));
+            throw RunTimeError(PlatformError::InvalidIndex, "Adding " + name + ": at most " +
+                                                                std::to_string(maxSystems) +
+                                                                " menu files (*.mnu) are allowed");
         files.push_back({.name = name, .title = std::string(HeaderTitle(header, isLeadByte))});
     }
     return files;

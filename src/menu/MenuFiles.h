@@ -1,4 +1,4 @@
-// The menu definition files of the installation, one system each, and the System List made of them.
+// Finds the menu definition files, one for each system, and fills the System List from them.
 #pragma once
 
 #include "platform/WindowsApi.h"
@@ -9,16 +9,16 @@
 namespace obrin {
 
 struct MenuFile {
-    std::string name;  ///< bare file name, as the folder listing gave it
-    std::string title; ///< from the header line, with its blanks
+    std::string name;  ///< file name without a folder
+    std::string title; ///< from the header line, not trimmed
 };
 
-/// The systems in the order of the folder listing. Throws RunTimeError for a file that cannot be read and for
-/// the hundredth one: item 99 of the system list is its template.
+/// Returns the menu files of the current directory in the order of the file system. Throws RunTimeError if
+/// there are more than 99 files or a file cannot be read.
 std::vector<MenuFile> EnumerateMenuFiles();
 
-/// Makes the items mnuSystems(0), (1), ... of the first menu of a menu bar and removes their template.
-/// Without any system the menu itself leaves the bar.
+/// Adds the items mnuSystems(0), (1), ... to the first menu of a menu bar and removes the template. Without
+/// systems, removes that menu from the bar.
 void FillSystemList(HMENU bar, const std::vector<MenuFile>& systems);
 
 } // namespace obrin

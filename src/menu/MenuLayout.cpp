@@ -34,7 +34,7 @@ MenuLayout Resize(MenuLayout layout, const LayoutMargins& margins, Size outer, S
                   const OwnSizes& own) {
     Box& frame = layout.frame1;
     Box& tree = layout.treeView1;
-    // Strictly greater: a window too small for the margins leaves frame and tree as they were.
+    // If the window is too small for the margins, frame and tree keep their size.
     if (outer.height > margins.height)
         frame.height = RequireFinite(outer.height - margins.height);
     if (outer.width > margins.width)
@@ -45,7 +45,7 @@ MenuLayout Resize(MenuLayout layout, const LayoutMargins& margins, Size outer, S
         tree.height = RequireFinite(frame.height - margins.treeHeight);
     layout.command1.top = tree.top + tree.height + design::command1Gap;
 
-    // Centred by the outer width: slightly right of the true centre, as it always was.
+    // Uses the outer width, as the system always did: the result is slightly right of the true centre.
     const double right = frame.left + frame.width;
     const auto centred = [&](double width) {
         return RequireFinite(right + (outer.width - right) / 2 - width / 2);

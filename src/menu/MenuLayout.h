@@ -1,4 +1,4 @@
-// Where the controls of the menu window stand, in twips: the designed layout and the rule of every resize.
+// The layout of the menu window in twips: the design, and the rules for a resize.
 #pragma once
 
 #include <cstdint>
@@ -15,7 +15,7 @@ struct Box {
     double left, top, width, height;
 };
 
-/// The designed distances that every resize keeps.
+/// Differences between sizes that every resize keeps.
 struct LayoutMargins {
     std::int32_t height;     ///< window outer height - Frame1 height
     std::int32_t width;      ///< window outer width - Frame1 width
@@ -23,26 +23,25 @@ struct LayoutMargins {
     std::int32_t treeHeight; ///< Frame1 height - TreeView1 height
 };
 
-/// The sizes that the controls have by their texts and picture.
+/// The sizes of the controls that depend on their text or picture.
 struct OwnSizes {
     double label1, image1; ///< widths
     Size label2, label3, label4, label5;
 };
 
 struct MenuLayout {
-    Box frame1;     ///< in the window
-    Box treeView1;  ///< in Frame1
-    Point command1; ///< in Frame1, below the tree
+    Box frame1;
+    Box treeView1;  ///< relative to Frame1
+    Point command1; ///< relative to Frame1
     double label1Left = 0, label2Left = 0;
     Point label3{}, image1{}, label4{}, label5{};
 };
 
-/// The window's designed inner size and layout. The right-hand controls have these tops but where larger text
-/// above needs the room.
+/// The designed inner size and layout of the window. Large text can move label3 and image1 further down.
 namespace design {
 constexpr Size inner{11100, 7500};
 constexpr Box frame1{150, 120, 6000, 7200};
-constexpr Box treeView1{150, 420, 5700, 6060}; // below a caption in large letters, too
+constexpr Box treeView1{150, 420, 5700, 6060}; // leaves room for a caption in a large font
 constexpr double command1Gap = 120;            // between the tree and Command1
 constexpr Size command1{1800, 420};
 constexpr double label1Top = 240;
@@ -53,10 +52,10 @@ constexpr MenuLayout layout{
     frame1, treeView1, {treeView1.left, treeView1.top + treeView1.height + command1Gap}};
 } // namespace design
 
-/// Records the margins of a layout, rounded to whole twips; `outer` is the window's size with its frame.
+/// Returns the margins of a layout, rounded to whole twips. `outer` is the size of the window with its frame.
 LayoutMargins RecordMargins(Size outer, const MenuLayout& layout);
 
-/// The layout after a resize of the window. Throws RunTimeError for a position that is no finite number.
+/// Returns the layout after a resize of the window. Throws RunTimeError if a position is not a finite number.
 MenuLayout Resize(MenuLayout layout, const LayoutMargins& margins, Size outer, Size inner,
                   const OwnSizes& own);
 

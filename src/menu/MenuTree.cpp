@@ -7,13 +7,13 @@ namespace obrin {
 
 namespace {
 
-// The tree view's own macros for its messages have casts of the old style.
+// The TreeView_... macros of Windows contain C casts, which our warnings forbid.
 template <class Argument>
 LRESULT Send(HWND tree, UINT message, WPARAM wParam, Argument* argument) {
     return SendMessageA(tree, message, wParam, reinterpret_cast<LPARAM>(argument));
 }
 
-// No repaint while a tree with thousands of nodes changes: each would cost one.
+// Turns repainting off while the tree changes. Otherwise each of thousands of nodes would cause a repaint.
 class RedrawPause {
 public:
     explicit RedrawPause(HWND paused)
@@ -61,7 +61,8 @@ void MenuTree::Fill(std::vector<MenuEntry> entries) {
                 throw RunTimeError(ERROR_NOT_ENOUGH_MEMORY, "Adding " + nodes[i].text + " to the tree");
         }
     }
-    // A tree view selects its first node when it gets the keyboard; without a selection its keys do nothing.
+    // A tree view selects its first node when it gets the focus. If it has the focus already, nothing is
+    // selected, and the arrow keys would not work.
     if (!nodes.empty() && GetFocus() == window)
         Send(window, TVM_SELECTITEM, TVGN_CARET, items[1]);
 }
@@ -97,7 +98,7 @@ void MenuTree::Attach(HWND treeView, Events treeEvents) {
     window = treeView;
     events = std::move(treeEvents);
     SetWindowLongPtrA(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-    ownProcedure = ReplaceWindowProcedure(window, Procedure);
+    originalProcedure = ReplaceWindowProcedure(window, Procedure);
 }
 
 LRESULT CALLBACK MenuTree::Procedure(HWND tree, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
@@ -106,13 +107,13 @@ LRESULT CALLBACK MenuTree::Procedure(HWND tree, UINT message, WPARAM wParam, LPA
 }
 
 LRESULT MenuTree::CallOriginal(UINT message, WPARAM wParam, LPARAM lParam) {
-    return CallWindowProcW(ownProcedure, window, message, wParam, lParam);
+    return CallWindowProcW(originalProcedure, window, message, wParam, lParam);
 }
 
 LRESULT MenuTree::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_GETDLGCODE: {
-        // Enter is the tree's own key here, not the default button's.
+        // The tree itself handles Enter, not the default button.
         const auto* key = reinterpret_cast<const MSG*>(lParam);
         const LRESULT code = CallOriginal(message, wParam, lParam);
         return key != nullptr && key->wParam == VK_RETURN ? code | DLGC_WANTMESSAGE : code;
@@ -128,15 +129,15 @@ LRESULT MenuTree::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         return result;
     }
     case WM_RBUTTONDOWN:
-    case WM_RBUTTONDBLCLK: // a second right click soon after the first
+    case WM_RBUTTONDBLCLK:
         RightMouseDown();
         return 0;
     case WM_CONTEXTMENU:
         if (lParam == -1)
             OpenPopupByKeyboard();
         else if (SendMessageA(window, WM_NCHITTEST, 0, lParam) != HTCLIENT)
-            break; // a scroll bar has a menu of its own
-        return 0;  // the mouse's has been handled above
+            break; // a scroll bar has its own popup menu
+        return 0;  // RightMouseDown has handled the click
     default:
         break;
     }
@@ -147,38 +148,37 @@ void MenuTree::RightMouseDown() {
     POINT pointer;
     GetCursorPos(&pointer);
     if (rightClickLatch) {
-        // By the click's own time: it may be handled late.
         const auto age = static_cast<LONG>(static_cast<DWORD>(GetMessageTime()) - *rightClickLatch);
         if (age < 0)
-            return; // made before the latch was set: the clicks put in then are still to come
+            return; // an older click; the synthetic ones have not arrived yet
         rightClickLatch.reset();
         if (static_cast<DWORD>(age) <= GetDoubleClickTime()) {
             events.popUp(pointer.x, pointer.y);
             return;
         }
     }
-    // Clicks land where the pointer is by now, and this one may be handled late. A scroll bar is the tree's,
-    // too.
+    // The synthetic clicks go to the current position of the pointer. It may have left the tree since the
+    // operator clicked, or be over a scroll bar.
     if (WindowFromPoint(pointer) != window ||
         SendMessageA(window, WM_NCHITTEST, 0, MAKELPARAM(pointer.x, pointer.y)) != HTCLIENT)
         return;
     rightClickLatch = GetTickCount();
-    // A left click selects the node under the pointer; the right click behind it comes back here.
+    // The synthetic left click selects the node under the pointer. The right click calls this handler again.
     constexpr DWORD left = MOUSEEVENTF_LEFTDOWN | MOUSEEVENTF_LEFTUP;
     constexpr DWORD right = MOUSEEVENTF_RIGHTDOWN | MOUSEEVENTF_RIGHTUP;
-    // The flags name the buttons of the mouse, which a left-handed user has swapped.
+    // The flags mean the physical buttons. Windows can swap them for left-handed users.
     const bool swapped = GetSystemMetrics(SM_SWAPBUTTON) != 0;
     mouse_event(swapped ? right : left, 0, 0, 0, 0);
     mouse_event(swapped ? left : right, 0, 0, 0, 0);
 }
 
-// Below the text of the selected node, which is brought into sight.
+// Scrolls to the selected node and asks for the popup menu below it.
 void MenuTree::OpenPopupByKeyboard() {
     const HTREEITEM selected = Selected();
     if (selected == nullptr)
         return;
     SendMessageA(window, TVM_ENSUREVISIBLE, 0, reinterpret_cast<LPARAM>(selected));
-    // The message takes the item in the place where it leaves the rectangle.
+    // TVM_GETITEMRECT reads the item from the memory into which it writes the rectangle.
     union {
         HTREEITEM item;
         RECT text;

@@ -1,4 +1,4 @@
-// The tree of one system: a stock tree view, the keys of its nodes, and what the operator does to it.
+// Shows the tree of one system in a stock tree view and handles the operator's actions on it.
 #pragma once
 
 #include "menu/MenuDefinition.h"
@@ -14,26 +14,26 @@ namespace obrin {
 class MenuTree {
 public:
     struct Events {
-        std::function<void()> run;           ///< the selected program: Enter, or a double click
-        std::function<void(int, int)> popUp; ///< of the selected program, at a place of the screen
+        std::function<void()> run;           ///< should run the selected program
+        std::function<void(int, int)> popUp; ///< should open the popup menu at x, y (screen coordinates)
     };
 
     MenuTree() = default;
     MenuTree(const MenuTree&) = delete;
     MenuTree& operator=(const MenuTree&) = delete;
 
-    /// Takes over an existing tree view; its window is owned by its parent, and this object outlives it.
+    /// Subclasses an existing tree view. This object must live longer than the tree view.
     void Attach(HWND treeView, Events treeEvents);
     HWND Window() const { return window; }
 
-    /// Empties the tree.
+    /// Removes all nodes.
     void Clear();
-    /// Fills the empty tree, all nodes collapsed. Throws RunTimeError when the tree takes no more.
+    /// Fills the empty tree with collapsed nodes. Throws RunTimeError if a node cannot be added.
     void Fill(std::vector<MenuEntry> entries);
 
-    /// The key of the selected node; empty for a heading and without a selection.
+    /// Returns the key of the selected node. It is empty for a heading or without a selection.
     std::string_view SelectedKey() const;
-    /// True when the selected node has a text and a key.
+    /// Returns whether the selected node has a text and a key.
     bool IsProgramNode() const;
 
 private:
@@ -47,10 +47,10 @@ private:
     const MenuEntry* SelectedNode() const;
 
     HWND window = nullptr;
-    WNDPROC ownProcedure = nullptr; // the stock tree view's
+    WNDPROC originalProcedure = nullptr;
     Events events;
-    std::optional<DWORD> rightClickLatch; // set while clicks put in by the menu are to come: since when, ms
-    std::vector<MenuEntry> nodes;         // an item's lParam is its entry's position here
+    std::optional<DWORD> rightClickLatch; // when RightMouseDown sent its clicks (ms), until they arrive
+    std::vector<MenuEntry> nodes;         // the lParam of a tree item is an index into it
 };
 
 } // namespace obrin

@@ -30,8 +30,8 @@ namespace obrin {
 
 namespace {
 
-// Runs the selected program once the tree has finished with the event that asks for it: the update and the
-// host may take their time, and the window may be closed meanwhile, with the tree in it.
+// Runs the selected program. It is posted, because the tree must finish its event first: while a program
+// starts, the user can close the window and so destroy the tree.
 constexpr UINT runSelectedMessage = WM_APP;
 constexpr DWORD windowStyle = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
 
@@ -43,13 +43,12 @@ void frmMain::Show() {
     windowClass.lpfnWndProc = Procedure;
     windowClass.hInstance = Instance();
     windowClass.hIcon = LoadIconA(Instance(), MAKEINTRESOURCEA(IDI_OBRIN));
-    windowClass.hCursor = nullptr; // OnSetCursor answers for the whole window
+    windowClass.hCursor = nullptr; // see OnSetCursor
     windowClass.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
     windowClass.lpszMenuName = MAKEINTRESOURCEA(IDR_MENU_BAR);
     windowClass.lpszClassName = menuWindowClass;
     RegisterClassExA(&windowClass);
-    // Without a caption until a system is shown: a second menu that is started meanwhile must not find and
-    // show an empty window.
+    // The caption stays empty until a system is shown, so that a second menu does not show an empty window.
     if (CreateWindowExA(WS_EX_CONTROLPARENT, menuWindowClass, "", windowStyle, CW_USEDEFAULT, CW_USEDEFAULT,
                         CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr, Instance(), this) == nullptr)
         ThrowLastError("Creating the menu window");
@@ -86,15 +85,14 @@ LRESULT frmMain::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_SETTINGCHANGE:
     case WM_THEMECHANGED:
     case WM_SYSCOLORCHANGE:
-        Form_LooksChanged(message, wParam, lParam);
+        Form_AppearanceChanged(message, wParam, lParam);
         break;
     case WM_ACTIVATE:
         if (LOWORD(wParam) == WA_INACTIVE)
-            focused = GetFocus();
+            lastFocus = GetFocus();
         break;
     case WM_SETFOCUS:
-        // Back from another window: the control that had the keyboard before.
-        SetFocus(IsChild(window, focused) ? focused : TreeView1.Window());
+        SetFocus(IsChild(window, lastFocus) ? lastFocus : TreeView1.Window());
         return 0;
     case WM_SETCURSOR:
         if (OnSetCursor(reinterpret_cast<HWND>(wParam), LOWORD(lParam)))
@@ -105,7 +103,7 @@ LRESULT frmMain::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             return UseLinkColours(reinterpret_cast<HDC>(wParam));
         break;
     case runSelectedMessage:
-        // A second one may have been queued behind the one at work, whose dialog or error lets it through.
+        // The operator may have asked twice. The dialog or error box of the first call disables the window.
         if (IsWindowEnabled(window))
             RunSelectedProgram();
         return 0;
@@ -113,7 +111,7 @@ LRESULT frmMain::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         Form_Unload();
         return 0;
     case WM_ENDSESSION:
-        // The session's end is the last that a program hears: it may be ended as soon as this returns.
+        // Windows may end the process as soon as this handler returns.
         if (wParam != FALSE)
             Form_Unload();
         return 0;
@@ -133,8 +131,7 @@ void frmMain::OnCommand(int id, int notification) {
         mnuTreeView_Click(id);
     else if (id == ID_ABOUT)
         mnuAboutObrin_Click();
-    else if (id == IDC_COMMAND1 ||
-             (id == IDOK && GetFocus() == Command1)) // IDOK: Enter behind a click of the mouse
+    else if (id == IDC_COMMAND1 || (id == IDOK && GetFocus() == Command1)) // IDOK: Enter after a mouse click
         Command1_Click();
     else if (id == IDC_LABEL5 && notification != STN_CLICKED)
         return;
@@ -144,12 +141,12 @@ void frmMain::OnCommand(int id, int notification) {
         OpenIgnoringErrors(window, document->c_str());
 }
 
-// A state of the window, not of the label: once the link has turned the pointer into the crosshair, it stays
-// so over everything but the window's own background.
+// The link turns the pointer into a crosshair, and the background of the window turns it back. Other controls
+// change nothing. Returns false if Windows should choose the pointer.
 bool frmMain::OnSetCursor(HWND hit, int hitTest) {
     if (hitTest != HTCLIENT)
         return false;
-    // Labels, picture and frame let the mouse through to the window, but are not its background.
+    // Windows reports labels, picture and frame as the window itself.
     HWND under = hit;
     if (hit == window) {
         POINT pointer;
@@ -177,7 +174,7 @@ bool frmMain::Form_Load() {
     wsid = EstablishIdentity(window, loginName);
     if (!IsWindow(window))
         return false;
-    // Ahead of the host: it would stay behind, hidden, when the library is missing.
+    // Loads the library before the host starts, so that an error here leaves no hidden host.
     corvel.emplace();
     hostLink.StartHost(window, wsid, [&] {
         CreateControls();
@@ -223,53 +220,53 @@ void frmMain::Form_Resize() {
     const auto px = [this](double value) { return ToPixels(value, dpi); };
     const Box& frame = layout.frame1;
     const Box& tree = layout.treeView1;
-    constexpr UINT quiet = SWP_NOACTIVATE | SWP_NOZORDER;
+    constexpr UINT keepOrder = SWP_NOACTIVATE | SWP_NOZORDER;
     HDWP positions = BeginDeferWindowPos(7);
     const auto apply = [&] {
         if (!EndDeferWindowPos(positions))
             ThrowLastError("Laying out the menu window");
     };
     const auto move = [&](HWND control, double left, double top) {
-        positions = DeferWindowPos(positions, control, nullptr, px(left), px(top), 0, 0, quiet | SWP_NOSIZE);
+        positions =
+            DeferWindowPos(positions, control, nullptr, px(left), px(top), 0, 0, keepOrder | SWP_NOSIZE);
     };
     move(Label1, layout.label1Left, design::label1Top);
     move(Image1.Window(), layout.image1.left, layout.image1.top);
     move(Label2, layout.label2Left, design::label2Top);
     move(Label3, layout.label3.left, layout.label3.top);
-    // From the front: the link, the label beside it, the frame. Each is put behind the one before, so that an
-    // order that stands already is left alone.
-    const auto stack = [&](HWND control, HWND behind, Point place) {
-        positions = DeferWindowPos(positions, control, behind, px(place.left), px(place.top), 0, 0,
+    // The order from front to back is Label5, Label4, Frame1.
+    const auto moveBehind = [&](HWND front, HWND control, Point position) {
+        positions = DeferWindowPos(positions, control, front, px(position.left), px(position.top), 0, 0,
                                    SWP_NOACTIVATE | SWP_NOSIZE);
     };
-    stack(Label5, HWND_TOP, layout.label5);
-    stack(Label4, Label5, layout.label4);
+    moveBehind(HWND_TOP, Label5, layout.label5);
+    moveBehind(Label5, Label4, layout.label4);
     positions = DeferWindowPos(positions, Frame1, Label4, px(frame.left), px(frame.top), px(frame.width),
                                px(frame.height), SWP_NOACTIVATE);
     apply();
 
-    positions = BeginDeferWindowPos(2); // the controls of another parent
+    positions = BeginDeferWindowPos(2); // one call moves only controls with the same parent
     positions = DeferWindowPos(positions, TreeView1.Window(), nullptr, px(tree.left), px(tree.top),
-                               px(tree.width), px(tree.height), quiet);
+                               px(tree.width), px(tree.height), keepOrder);
     positions =
         DeferWindowPos(positions, Command1, nullptr, px(layout.command1.left), px(layout.command1.top),
-                       px(design::command1.width), px(design::command1.height), quiet);
+                       px(design::command1.width), px(design::command1.height), keepOrder);
     apply();
 }
 
-// The DPI is the message's: asked for, it may still be the old one.
+// Uses `newDpi`, because GetDpiForWindow may still return the old DPI.
 void frmMain::Form_DpiChanged(UINT newDpi, const RECT& suggested) {
     dpi = newDpi;
     ApplyFonts();
     Image1.Scale(dpi);
     SetWindowPos(window, nullptr, suggested.left, suggested.top, suggested.right - suggested.left,
                  suggested.bottom - suggested.top, SWP_NOZORDER | SWP_NOACTIVATE);
-    Form_Resize(); // the size in pixels may be the same
+    Form_Resize(); // Windows sends no WM_SIZE if the size in pixels stays the same
 }
 
 // The user has chosen another font, theme or colour scheme.
-void frmMain::Form_LooksChanged(UINT message, WPARAM wParam, LPARAM lParam) {
-    // Of the other two Windows tells top-level windows only.
+void frmMain::Form_AppearanceChanged(UINT message, WPARAM wParam, LPARAM lParam) {
+    // Windows sends WM_THEMECHANGED to the controls too, but the other messages only to top-level windows.
     if (message != WM_THEMECHANGED) {
         for (const HWND control : {TreeView1.Window(), Frame1, Command1})
             SendMessageA(control, message, wParam, lParam);
@@ -279,15 +276,13 @@ void frmMain::Form_LooksChanged(UINT message, WPARAM wParam, LPARAM lParam) {
     RedrawWindow(window, nullptr, nullptr, RDW_ERASE | RDW_INVALIDATE | RDW_ALLCHILDREN);
 }
 
-// Before the window closes, by its close box, at the end of the Windows session or at a program's request.
 void frmMain::Form_Unload() {
     if (IsEndingWithError())
         return;
-    // Entered again when the Windows session ends while the host handles the exit command: the inner call
-    // sends the rest of it and finishes the close, and nothing is left to do for the outer one.
+    // The Windows session can end while the host handles the exit command. Windows then calls this handler
+    // again: the inner call sends the remaining keys and completes the close.
     const bool isInner = std::exchange(unloading, true);
     hostLink.SendHostCommand(isInner ? "" : "Run Core\\Exit\r");
-    // Closed before any system was shown, there is none to remember: the earlier one stays remembered.
     if (!currentSystem.empty())
         corvel->SetRegValue(HKEY_LOCAL_MACHINE, menuRegistryKey, lastSystemValue, currentSystem);
     DeleteFileA(MarkerFileName(wsid).c_str());
@@ -320,7 +315,7 @@ void frmMain::CreateControls() {
     dpi = GetDpiForWindow(window);
     ApplyFonts();
     CentreOnScreen(window, DesignedOuterSize());
-    const SIZE outer = DesignedOuterSize(); // which a small screen may not have had room for
+    const SIZE outer = DesignedOuterSize(); // the window itself may be smaller, because of a small screen
     margins = RecordMargins({ToTwips(outer.cx, dpi), ToTwips(outer.cy, dpi)}, layout);
 }
 
@@ -330,25 +325,24 @@ SIZE frmMain::DesignedOuterSize() const {
     return {size.right - size.left, size.bottom - size.top};
 }
 
-// The old fonts go when the controls have the new ones.
 void frmMain::ApplyFonts() {
-    Fonts made{.title = MakeFont(comicSans, 18, dpi, {.bold = true}),
-               .label = MakeFont(georgia, 10, dpi),
-               .link = MakeFont(georgia, 10, dpi, {.underlined = true}),
-               .button = MakeFont(msSansSerif, 8, dpi),
-               .message = MakeMessageFont(dpi)};
-    SetFont(Label1, made.title.get());
-    SetFont(Label4, made.label.get());
-    SetFont(Label5, made.link.get());
-    SetFont(Command1, made.button.get());
+    Fonts newFonts{.title = MakeFont(comicSans, 18, dpi, {.bold = true}),
+                   .label = MakeFont(georgia, 10, dpi),
+                   .link = MakeFont(georgia, 10, dpi, {.underlined = true}),
+                   .button = MakeFont(msSansSerif, 8, dpi),
+                   .message = MakeMessageFont(dpi)};
+    SetFont(Label1, newFonts.title.get());
+    SetFont(Label4, newFonts.label.get());
+    SetFont(Label5, newFonts.link.get());
+    SetFont(Command1, newFonts.button.get());
     for (const HWND control : {Frame1, TreeView1.Window(), Label2, Label3})
-        SetFont(control, made.message.get());
+        SetFont(control, newFonts.message.get());
     for (const HWND label : {Label1, Label2, Label3, Label4, Label5})
         SetLabel(label, WindowText(label));
-    fonts = std::move(made);
+    fonts = std::move(newFonts); // deletes the old fonts, which no control uses any more
 }
 
-// A label is as large as its text. Label4, whose right edge is the link's left one, is a blank larger.
+// Resizes the label to its text. Label4 gets room for one more blank, because Label5 follows without a gap.
 void frmMain::SetLabel(HWND label, const std::string& text) {
     SetWindowTextA(label, text.c_str());
     const SIZE size = MeasureText(label, label == Label4 ? text + ' ' : text);
@@ -367,11 +361,10 @@ void frmMain::Command1_Click() {
     RunSelectedProgram();
 }
 
-// The popup of the selected program, at a place of the screen; headings have none.
 void frmMain::PopUp(int x, int y) {
     const std::string_view key = TreeView1.SelectedKey();
     if (key.empty())
-        return;
+        return; // headings have no popup menu
     propertiesKey = key;
     const UniqueMenu menu(LoadMenuA(Instance(), MAKEINTRESOURCEA(IDR_TREE_POPUP)));
     TrackPopupMenu(GetSubMenu(menu.get(), 0), TPM_LEFTALIGN | TPM_TOPALIGN, x, y, 0, window, nullptr);
@@ -401,18 +394,17 @@ void frmMain::LoadSystem(const std::string& fileName, std::string_view file) {
     const LeadByteTest isLeadByte = CodePageLeadByteTest();
     MenuDefinition definition = ParseMenuDefinition(file, isLeadByte);
     ThrowFirstFault(definition, fileName);
-    // With its folder: the platform looks for a bare name in other folders too.
+    // Uses the full path: Windows also looks for a name without a folder in other folders.
     const std::string pictureFile = EnsureTrailingBackslash(CurrentFolder(), isLeadByte) + startupPictureFile;
     if (NormalFileExists(pictureFile))
         Image1.Load(pictureFile, dpi);
     SetWindowTextA(window, menuCaption);
-    // Only the System List makes access keys of marks: here they would take Alt+letter away from the menu
-    // bar.
+    // In the System List "&" marks an access key. Here such a key would hide the same key of the menu bar.
     const std::string title = RemoveAccessKeyMarks(TrimBlanks(definition.title));
     SetWindowTextA(Frame1, DoubleAmpersands(title).c_str());
-    SetWindowTextA(TreeView1.Window(), title.c_str()); // shown nowhere: a screen reader's name for the tree
+    SetWindowTextA(TreeView1.Window(), title.c_str()); // only screen readers use this text
     SetLabel(Label1, title);
-    Form_Resize(); // title and picture are centred by their own widths
+    Form_Resize(); // centres the title and the picture
     TreeView1.Fill(std::move(definition.entries));
     hostLink.SendHostCommand(StartSystemCommand(SystemCode(fileName, isLeadByte)));
 }

@@ -1,4 +1,4 @@
-// The menu window: the tree of one system, its title and picture, the menu bar, and the link to the host.
+// The menu window: shows one system and connects the operator's actions with the host.
 #pragma once
 
 #include "controls/Picture.h"
@@ -17,7 +17,7 @@
 
 namespace obrin {
 
-/// The menu window's class, and its caption from the first shown system on. A second menu finds it by them.
+/// Class and caption of the menu window. A second menu finds it by them.
 constexpr const char* menuWindowClass = "ObrinMenu.frmMain";
 constexpr const char* menuCaption = "Obrin System Menu";
 
@@ -27,8 +27,8 @@ public:
     frmMain(const frmMain&) = delete;
     frmMain& operator=(const frmMain&) = delete;
 
-    /// Creates the window, loads it (workstation number, host, first system) and shows it. The window may
-    /// have been closed during the load; the program's events then end at once. Throws RunTimeError.
+    /// Creates the window, loads it and shows it. The user can close the window during the load; RunEvents
+    /// then returns at once. Throws RunTimeError.
     void Show();
 
     HWND Window() const { return window; }
@@ -44,10 +44,10 @@ private:
     bool OnSetCursor(HWND hit, int hitTest);
 
     // Events of the window.
-    bool Form_Load();
+    bool Form_Load(); // returns false if the user has closed the window
     void Form_Resize();
     void Form_DpiChanged(UINT newDpi, const RECT& suggested);
-    void Form_LooksChanged(UINT message, WPARAM wParam, LPARAM lParam);
+    void Form_AppearanceChanged(UINT message, WPARAM wParam, LPARAM lParam);
     void Form_Unload();
 
     // Events of controls and menu items.
@@ -67,7 +67,7 @@ private:
     void RunSelectedProgram();
     void RunHostProgram(std::string_view program);
 
-    std::optional<SupportLibrary> corvel; // from the load on
+    std::optional<SupportLibrary> corvel; // set by Form_Load
     HWND window = nullptr;
     HWND Frame1 = nullptr;
     MenuTree TreeView1;
@@ -79,19 +79,19 @@ private:
     HWND Label4 = nullptr;
     HWND Label5 = nullptr; // link
 
-    HWND focused = nullptr; // control that had the keyboard when the window was last active
+    HWND lastFocus = nullptr; // the control that had the focus when the window was last active
 
     UINT dpi = USER_DEFAULT_SCREEN_DPI;
     Fonts fonts;
-    std::optional<LayoutMargins> margins; // from the load on
+    std::optional<LayoutMargins> margins; // set by Form_Load
     MenuLayout layout = design::layout;
-    bool crosshair = false; // from the link label until the window's own background
+    bool crosshair = false; // see OnSetCursor
 
     std::int16_t wsid = 0;
     HostLink hostLink;
     std::vector<MenuFile> MnuFiles;
-    std::string currentSystem; // the tag of mnuSystems(99): the menu file shown
-    std::string propertiesKey; // the tag of TreeView1: the program last right-clicked
+    std::string currentSystem; // the tag of mnuSystems(99): name of the menu file shown
+    std::string propertiesKey; // the tag of TreeView1: key of the program last right-clicked
     bool unloading = false;
 };
 
