@@ -18,11 +18,10 @@ namespace {
 
 constexpr std::array<const char*, 3> tabCaptions{"General", "Page Settings", "Page Margins"};
 
-// As much as can be typed into a box. The platform takes half a minute to lay out the ten megabytes of a
-// damaged file.
-constexpr std::size_t longestText = 32767;
+// The most that a user can type into a box. A box needs half a minute to show ten megabytes of text.
+constexpr std::size_t maxTextBytes = 32767;
 
-// The element of a control array that an id names; out of the array's range for the id of another control.
+// Returns the index of a control in its array. For other controls the result is outside of the array.
 std::size_t IndexInArray(int id, int firstId) {
     return static_cast<std::size_t>(id - firstId);
 }
@@ -37,14 +36,14 @@ INT_PTR Form2::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_INITDIALOG:
         Form_Load();
-        return FALSE; // the keyboard has been given to the tab strip
+        return FALSE; // Form_Load has set the focus
     case WM_COMMAND:
         OnCommand(LOWORD(wParam), HIWORD(wParam));
         return TRUE;
-    case WM_HSCROLL: // of a slider, by mouse or keyboard
+    case WM_HSCROLL: // a slider sends it also when the user releases it without moving it
         if (const auto index = IndexInArray(GetDlgCtrlID(reinterpret_cast<HWND>(lParam)), IDC_SLD_MARGIN);
             index < sldMargin.size() && SliderValue(index) != shownMargin[index])
-            sldMargin_Change(index); // the slider also says so when it is only let go of
+            sldMargin_Change(index);
         return TRUE;
     case WM_NOTIFY:
         if (const auto* from = reinterpret_cast<const NMHDR*>(lParam);
@@ -88,7 +87,7 @@ void Form2::Form_Load() {
     SetFocus(TabStrip1);
 }
 
-// A page hands on what its controls say.
+// Forwards the notifications of the page's controls to the dialog.
 INT_PTR CALLBACK Form2::PageProcedure(HWND page, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_INITDIALOG:
@@ -100,7 +99,7 @@ INT_PTR CALLBACK Form2::PageProcedure(HWND page, UINT message, WPARAM wParam, LP
         return TRUE;
     case WM_DPICHANGED_BEFOREPARENT:
     case WM_DPICHANGED_AFTERPARENT:
-        return TRUE; // laid out with the dialog
+        return TRUE; // Dialog::ApplyLayout scales the pages
     default:
         return FALSE;
     }
@@ -130,8 +129,8 @@ void Form2::CreatePages() {
         SendMessageA(cmbOrientation, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item));
 }
 
-// Over the tab strip's client area, one behind the other. Those behind are visible, and, disabled, out of the
-// keyboard's reach.
+// Puts all pages into the client area of the tab strip. The pages behind the front one are visible, but they
+// are disabled and cannot get the focus.
 void Form2::PlacePages() {
     RECT inner;
     GetWindowRect(TabStrip1, &inner);
@@ -171,7 +170,7 @@ void Form2::cmbOrientation_DropDown() {
 }
 
 void Form2::cmbOrientation_Click() {
-    // The list tells what was chosen; the text beside it is still the old one.
+    // At CBN_SELCHANGE the combo box still has its old text. Only the list has the new one.
     const LRESULT chosen = SendMessageA(cmbOrientation, CB_GETCURSEL, 0, 0);
     if (chosen == CB_ERR)
         return;
@@ -188,8 +187,8 @@ void Form2::cmbOrientation_Click() {
 // --- Margins ---
 
 void Form2::PrepareSliders() {
-    constexpr int tick = 250; // a quarter of an inch; a click beside the slider's knob moves it that far too
-    constexpr int keyStep = 10; // a hundredth
+    constexpr int tick = 250;   // a quarter of an inch, also the step of a click next to the slider's thumb
+    constexpr int keyStep = 10; // a hundredth of an inch
     for (std::size_t i = 0; i < sldMargin.size(); ++i) {
         txtMargin[i] = Control(IDC_TXT_MARGIN + static_cast<int>(i));
         const HWND slider = sldMargin[i] = Control(IDC_SLD_MARGIN + static_cast<int>(i));
@@ -234,15 +233,15 @@ void Form2::WriteMarginText(std::size_t index) {
     const std::string before = WindowText(box);
     const std::string text = FormatThousandths(SliderValue(index));
     if (text == before)
-        return; // the caret stays, and what was typed can be undone
+        return; // setting the same text would clear the undo buffer of the box
     DWORD caret = 0;
     SendMessageA(box, EM_GETSEL, 0, reinterpret_cast<LPARAM>(&caret));
-    SetWindowTextA(box, text.c_str()); // sets the caret in front of it
+    SetWindowTextA(box, text.c_str()); // moves the caret to the start
     if (const std::size_t kept = CaretAfterChange(before, caret, text); kept != 0)
         SendMessageA(box, EM_SETSEL, kept, static_cast<LPARAM>(kept));
 }
 
-// Comes back here once when the slider's change writes the box; the slider has the box's value by then.
+// sldMargin_Change sets the text of the box, which calls this handler again. The slider then has that value.
 void Form2::txtMargin_Change(std::size_t index) {
     const auto margin = ParseTypedMargin(WindowText(txtMargin[index]));
     if (!margin || *margin == SliderValue(index))
@@ -266,8 +265,7 @@ void Form2::Command1_Click(int id) {
 }
 
 void Form2::Command2_Click() {
-    // With the file's own path as the name: it tells a reset file from a new one.
-    WriteDefaultSettings(IniPath, IniPath);
+    WriteDefaultSettings(IniPath, IniPath); // a reset file contains its own path instead of the program key
     LoadSettings();
 }
 
@@ -279,15 +277,15 @@ void Form2::SaveSettings() const {
 }
 
 void Form2::LoadSettings() {
-    // Not where the menu remembers its own last system: other programs of the suite may fill this key.
+    // Other programs of the suite may set this value. The menu stores its own last system under another key.
     const std::string lastSystem =
         corvel.GetRegValue(HKEY_LOCAL_MACHINE, propertiesRegistryKey, lastSystemValue);
     SetWindowTextA(Control(IDC_TXT_SYSTEM),
                    std::string(FirstCharacters(lastSystem, 2, CodePageLeadByteTest())).c_str());
-    loaded = LoadSystemSettings(IniPath);
+    loadedValues = LoadSystemSettings(IniPath);
     for (std::size_t i = 0; i < settings.size(); ++i) {
-        if (loaded[i])
-            ShowValue(i, *loaded[i]);
+        if (loadedValues[i])
+            ShowValue(i, *loadedValues[i]);
         else if (const auto margin = IndexInArray(settings[i].control, IDC_SLD_MARGIN);
                  margin < sldMargin.size())
             sldMargin_Change(margin);
@@ -298,31 +296,30 @@ void Form2::ShowValue(std::size_t setting, const std::string& value) {
     const int id = settings[setting].control;
     if (const auto margin = IndexInArray(id, IDC_SLD_MARGIN); margin < sldMargin.size()) {
         SendMessageA(sldMargin[margin], TBM_SETPOS, TRUE, ParseMargin(value));
-        // Also when the value was the same: the box may hold something else that was typed.
-        sldMargin_Change(margin);
+        sldMargin_Change(margin); // needed even for the same value: the user may have typed into the box
         return;
     }
     const HWND control = Control(id);
     if (control == cmbOrientation) {
-        // So that the arrow keys go on from the item that is shown. The text below keeps its own case.
+        // Selects the item, so that the arrow keys continue from it. SetWindowText sets the exact text below.
         const LRESULT item = SendMessageA(cmbOrientation, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
                                           reinterpret_cast<LPARAM>(value.c_str()));
         SendMessageA(cmbOrientation, CB_SETCURSEL, static_cast<WPARAM>(item), 0);
     }
-    SetWindowTextA(control, value.substr(0, longestText).c_str());
-    shown[setting] = WindowText(control);
+    SetWindowTextA(control, value.substr(0, maxTextBytes).c_str());
+    shownTexts[setting] = WindowText(control);
 }
 
 std::string Form2::ReadValue(std::size_t setting) const {
     const int control = settings[setting].control;
-    // The box can be edited, but the name in the file is always the tree's.
+    // The user can edit the box, but the file always gets the key from the tree.
     if (control == IDC_TXT_PROGRAM_NAME)
         return treeTag;
     if (const auto margin = IndexInArray(control, IDC_SLD_MARGIN); margin < sldMargin.size())
         return FormatThousandths(SliderValue(margin));
-    // A box that nobody edited may have had no room for all of its value.
+    // A box that the user has not edited may show only the start of a very long value.
     std::string text = WindowText(Control(control));
-    return loaded[setting] && text == shown[setting] ? *loaded[setting] : text;
+    return loadedValues[setting] && text == shownTexts[setting] ? *loadedValues[setting] : text;
 }
 
 } // namespace obrin

@@ -1,4 +1,4 @@
-// The Properties dialog: the settings of the program last right-clicked in the menu's tree, on three pages.
+// The Properties dialog: shows and edits the settings of one program on three pages.
 #pragma once
 
 #include "controls/Dialog.h"
@@ -13,12 +13,12 @@ namespace obrin {
 
 class Form2 final : public Dialog {
 public:
-    /// `programKey` is the tree's own: it is read when the dialog opens and again whenever it saves.
+    /// Keeps a reference to `programKey` and reads it when the dialog opens and each time it saves.
     Form2(const SupportLibrary& supportLibrary, const std::string& programKey)
         : corvel(supportLibrary)
         , treeTag(programKey) {}
 
-    /// Shows the dialog modally; returns once it is closed, or gone with the menu window.
+    /// Shows the dialog modally. Returns when it is closed, or destroyed with the menu window.
     void Show(HWND owner);
 
 private:
@@ -53,17 +53,17 @@ private:
     const SupportLibrary& corvel;
     const std::string& treeTag;
     std::string IniPath;
-    std::string rememberedOrientation; // of when the list was last opened
-    LoadedSettings loaded;             // by which the controls were set last
-    SettingValues shown;               // the boxes' texts since then
-    std::size_t shownPage = 0;         // the tag of TabStrip1
+    std::string rememberedOrientation; // the text when the list was last opened
+    LoadedSettings loadedValues;
+    SettingValues shownTexts;  // the texts of the controls after the last load
+    std::size_t shownPage = 0; // the tag of TabStrip1
 
     HWND TabStrip1 = nullptr;
     std::array<HWND, 3> Frame{};
     HWND cmbOrientation = nullptr;
     std::array<HWND, 4> txtMargin{};
     std::array<HWND, 4> sldMargin{};
-    std::array<int, 4> shownMargin{}; // slider values that boxes and tips show
+    std::array<int, 4> shownMargin{}; // slider values that the boxes show
     HWND sliderTips = nullptr;
 };
 

@@ -4,8 +4,7 @@ namespace obrin {
 
 namespace {
 
-// From the "\" at `root` on, outermost folder first. What is in front of it, a drive or a server, is neither
-// looked at nor made.
+// Walks down the path from the "\" at `root`. It does not test what is in front of that, a drive or a server.
 bool Walk(const std::string& path, std::size_t root, bool create, const FolderCalls& folders) {
     if (root == std::string::npos)
         return false;
@@ -25,7 +24,7 @@ bool Walk(const std::string& path, std::size_t root, bool create, const FolderCa
 
 bool EnsurePath(const std::string& path, bool create, const FolderCalls& folders) {
     const auto lastComponent =
-        FindLastCharacter(path, '\\', folders.isLeadByte) + 1; // 0 when there is no "\"
+        FindLastCharacter(path, '\\', folders.isLeadByte) + 1; // 0 if there is no "\": npos + 1
     const bool namesFile = path.find('.', lastComponent) != std::string::npos;
     const std::string folder =
         EnsureTrailingBackslash(namesFile ? path.substr(0, lastComponent) : path, folders.isLeadByte);

@@ -1,5 +1,4 @@
-// Paths whose folders are there: which of them are looked at and made, in which order. "\" is the only
-// separator.
+// Tests and creates the folders of a path. "\" is the only separator.
 #pragma once
 
 #include "common/Text.h"
@@ -9,21 +8,21 @@
 
 namespace obrin {
 
-/// The file system as the walk along a path needs it. The folder handed in ends in "\".
+/// The calls of the file system that EnsurePath needs. Each gets a path that ends with "\".
 struct FolderCalls {
     std::function<bool(const std::string& folder)> exists;
-    std::function<void(const std::string& folder)> create; ///< one level; throws when it cannot
-    LeadByteTest isLeadByte = nullptr;                     ///< in the names of folders
+    std::function<void(const std::string& folder)> create; ///< creates one level; throws on failure
+    LeadByteTest isLeadByte = nullptr;
 };
 
-/// Whether every folder of the path exists afterwards; missing ones are made when `create` is set. The path
-/// may name a file: a last component that holds a "." is taken for one.
+/// Returns whether all folders of the path exist. If `create` is true, creates missing ones first. Ignores a
+/// last component that contains a ".", because it names a file.
 bool EnsurePath(const std::string& path, bool create, const FolderCalls& folders);
 
-/// The walk along a path that begins with "\\", from the share on. The path ends in "\".
+/// Does the same for a path that begins with "\\" and ends with "\". Starts at the share.
 bool EnsurePathUnc(const std::string& path, bool create, const FolderCalls& folders);
 
-/// The walk along any other path, from the first folder below the drive on. The path ends in "\".
+/// Does the same for any other path that ends with "\". Starts at the first folder below the drive.
 bool EnsurePathLocal(const std::string& path, bool create, const FolderCalls& folders);
 
 } // namespace obrin

@@ -1,4 +1,4 @@
-// The layout of a line of a settings file.
+// Formats a line of a settings file.
 #pragma once
 
 #include <string>
@@ -6,8 +6,8 @@
 
 namespace obrin {
 
-/// The key in a column of 18 characters, "=", five spaces, the value. Throws RunTimeError for a key that does
-/// not fit its column.
+/// Pads the key to 18 characters and appends "=", five spaces and the value. Throws RunTimeError for a key
+/// that is longer than that.
 std::string FormatIniLine(std::string_view key, std::string_view value);
 
 } // namespace obrin

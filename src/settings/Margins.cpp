@@ -12,7 +12,7 @@ namespace {
 constexpr double perInch = 1000;
 
 int NearestMargin(double inches) {
-    // Limited before it is rounded: the number in a text can be beyond any integer.
+    // Limits the number first, because rounding a huge number would overflow.
     return static_cast<int>(std::lround(std::clamp<double>(inches * perInch, smallestMargin, largestMargin)));
 }
 
@@ -30,7 +30,7 @@ std::optional<int> ParseTypedMargin(std::string_view text) {
 }
 
 bool EqualsMargin(std::string_view text, int margin) {
-    // Both sides are the double nearest to the same decimal number, if it is the same.
+    // For equal decimal numbers both sides are the same double, because each is the nearest one.
     return LeadingNumber(text) == margin / perInch;
 }
 
@@ -38,8 +38,8 @@ std::size_t CaretAfterChange(std::string_view before, std::size_t caret, std::st
     const auto pointOf = [](std::string_view text) {
         return static_cast<std::ptrdiff_t>(std::min(text.find('.'), text.size()));
     };
-    const auto place = static_cast<std::ptrdiff_t>(caret) - pointOf(before) + pointOf(after);
-    return static_cast<std::size_t>(std::clamp<std::ptrdiff_t>(place, 0, std::ssize(after)));
+    const auto position = static_cast<std::ptrdiff_t>(caret) - pointOf(before) + pointOf(after);
+    return static_cast<std::size_t>(std::clamp<std::ptrdiff_t>(position, 0, std::ssize(after)));
 }
 
 } // namespace obrin

@@ -1,4 +1,4 @@
-// A margin as a slider's value, thousandths of an inch, and as the text of its box, inches.
+// Converts a margin between the text of its box (inches) and the value of its slider (thousandths).
 #pragma once
 
 #include <cstddef>
@@ -10,18 +10,18 @@ namespace obrin {
 constexpr int smallestMargin = 250;
 constexpr int largestMargin = 4000;
 
-/// The value for the number at the start of a text, 0 when there is none; the nearest that a slider can take.
+/// Returns the slider value for the number at the start of a text, limited to the range of the slider. A text
+/// without a number counts as 0.
 int ParseMargin(std::string_view text);
 
-/// The same for a text that is being typed: nothing below the smallest margin, as a number half typed is.
+/// Does the same while the user types. Returns nothing for numbers below the smallest margin, such as "0.".
 std::optional<int> ParseTypedMargin(std::string_view text);
 
-/// Whether the number at the start of a text is exactly that margin.
+/// Returns whether the number at the start of a text equals a slider value exactly.
 bool EqualsMargin(std::string_view text, int margin);
 
-/// Where the caret goes when a box's text is replaced under it: its place relative to the decimal point
-/// stays. A digit typed next is then where it was meant to be, in ".5" that becomes "0.5" as in "01" that
-/// becomes "1".
+/// Returns the caret's new position when the text of a box changes from `before` to `after`. Its distance to
+/// the decimal point stays, so that the user can go on typing when ".5" becomes "0.5" or "01" becomes "1".
 std::size_t CaretAfterChange(std::string_view before, std::size_t caret, std::string_view after);
 
 } // namespace obrin

@@ -34,7 +34,7 @@ std::string FormatSettings(const SettingValues& values) {
 
 LoadedSettings ParseSettings(std::string_view file, const std::string& fileName) {
     LoadedSettings loaded;
-    LineReader lines(file, LoneLf::EndsLine); // some editors end lines so
+    LineReader lines(file, LoneLf::EndsLine); // some editors write lone LFs
     for (int number = 1; const auto line = lines.Next(); ++number) {
         const auto keyEnd = line->find('=');
         if (keyEnd == std::string_view::npos)

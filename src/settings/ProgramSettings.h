@@ -1,5 +1,4 @@
-// The settings of a program: the keys of its settings file with their defaults and controls, and the file's
-// text, as values.
+// The settings of a program: the table of all settings, and the format of the settings file.
 #pragma once
 
 #include "resources/Ids.h"
@@ -13,12 +12,12 @@ namespace obrin {
 
 struct Setting {
     std::string_view key;
-    int defaultString; ///< in the string table; 0 for a default without a text of its own
-    bool appendsName;  ///< the default ends in the name that the defaults are written for
-    int control;       ///< of the Properties dialog: a box that holds the value, or a margin's slider
+    int defaultString; ///< id of the default in the string table; 0 for an empty text
+    bool appendsName;  ///< whether the name of the program follows in the default
+    int control;       ///< id in the Properties dialog; for a margin, of its slider
 };
 
-/// In the order of the file.
+/// All settings in the order of the file.
 inline constexpr std::array<Setting, 13> settings{{
     {"Program", 0, true, IDC_TXT_PROGRAM_NAME},
     {"HelpFile", IDS_HELP_FOLDER, true, IDC_TXT_HELP_FILE},
@@ -38,23 +37,23 @@ inline constexpr std::array<Setting, 13> settings{{
 /// One value for each setting, in the order of the table.
 using SettingValues = std::array<std::string, settings.size()>;
 
-/// The values that a file names; nothing for a setting that it does not name.
+/// The values from a file; nothing for a setting that the file does not contain.
 using LoadedSettings = std::array<std::optional<std::string>, settings.size()>;
 
-/// Gives the text of an id. The rules take it as an argument: only Windows reads the string table.
+/// Returns a text of the string table. It is a parameter, because only Windows can read the string table.
 using StringTable = std::string (*)(int id);
 
-/// The path of a program's settings file below the folder for temporary files of the host.
+/// Returns the path of a program's settings file. `temporaryFolder` is the value of "TesselTemp".
 std::string SettingsPath(std::string_view temporaryFolder, std::string_view programKey);
 
-/// The defaults for a program of that name.
+/// Returns the defaults for a program.
 SettingValues DefaultSettings(const std::string& name, StringTable stringTable);
 
-/// The whole file. Blanks around a value are not kept.
+/// Returns the text of the settings file. Trims the values.
 std::string FormatSettings(const SettingValues& values);
 
-/// The values of a file's text. Keys are case-sensitive, unknown ones are passed over, the last of equal ones
-/// counts, and a value ends at a second "=". Throws RunTimeError for a line without "=".
+/// Parses the text of a settings file. Keys are case-sensitive. Ignores unknown keys; if a key is used twice,
+/// the last value counts. A value ends at a second "=". Throws RunTimeError for a line without "=".
 LoadedSettings ParseSettings(std::string_view file, const std::string& fileName);
 
 } // namespace obrin

@@ -17,8 +17,7 @@ namespace obrin {
 
 namespace {
 
-// A text of the program's string table.
-std::string StringOfTable(int id) {
+std::string LoadStringFromTable(int id) {
     std::array<char, 256> text;
     const int length = LoadStringA(Instance(), static_cast<UINT>(id), text.data(), text.size());
     if (length == 0)
@@ -33,7 +32,7 @@ std::string SettingsPath(std::string_view programKey) {
 }
 
 void WriteDefaultSettings(const std::string& iniPath, const std::string& name) {
-    SaveSystemSettings(iniPath, DefaultSettings(name, StringOfTable));
+    SaveSystemSettings(iniPath, DefaultSettings(name, LoadStringFromTable));
 }
 
 void SaveSystemSettings(const std::string& iniPath, const SettingValues& values) {

@@ -1,4 +1,4 @@
-// The settings file of a program: where it lies, its defaults, saving and loading.
+// Loads and saves the settings file of a program.
 #pragma once
 
 #include "settings/ProgramSettings.h"
@@ -8,18 +8,16 @@
 
 namespace obrin {
 
-/// The path of a program's settings file, below the folder of the environment variable "TesselTemp".
+/// Returns the path of a program's settings file below the folder of the environment variable "TesselTemp".
 std::string SettingsPath(std::string_view programKey);
 
-/// Writes the whole file with the defaults for `name`; folders that are missing are made. Throws
-/// RunTimeError.
+/// Replaces the file by the defaults for `name`. Creates missing folders. Throws RunTimeError.
 void WriteDefaultSettings(const std::string& iniPath, const std::string& name);
 
-/// Writes the whole file with these values, unless it has them already; folders that are missing are made.
-/// Until the new file is complete the old one stays. Throws RunTimeError.
+/// Replaces the file, unless it has these values already. Creates missing folders. Throws RunTimeError.
 void SaveSystemSettings(const std::string& iniPath, const SettingValues& values);
 
-/// The values of the file. Throws RunTimeError.
+/// Loads the values of the file. Throws RunTimeError.
 LoadedSettings LoadSystemSettings(const std::string& iniPath);
 
 } // namespace obrin
