@@ -1,4 +1,4 @@
-// What the about box says, as values: which version is running, who made it, and under what terms.
+// The texts of the about box.
 #pragma once
 
 #include <string>
@@ -9,10 +9,10 @@ struct Version {
     int major, minor, revision;
 };
 
-/// The version of this program, which also stands in its version resource.
+/// Returns the version of this program.
 Version ProgramVersion();
 
-/// "Version 2.0.38": plain numbers, although file versions are often written with leading zeros.
+/// Returns a text like "Version 2.0.38", without leading zeros.
 std::string VersionText(const Version& version);
 
 constexpr const char* descriptionText =

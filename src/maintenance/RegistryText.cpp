@@ -13,8 +13,8 @@ constexpr std::uint32_t stringType = 1;
 constexpr std::uint32_t numberType = 4;
 constexpr std::string_view hexDigits = "0123456789ABCDEF";
 
-// The bytes' codes in hexadecimal, from the last to the first, each without leading zeros, as it always was:
-// the bytes 05 01 give 15 and not 105.
+// Writes the bytes in hexadecimal from the last to the first. Each byte loses its leading zero: the bytes 05
+// 01 give 15 and not 105. The system has always done that.
 std::string HexDigitsFromLast(std::string_view bytes) {
     std::string digits;
     std::for_each(bytes.rbegin(), bytes.rend(), [&](char byte) {
@@ -26,9 +26,8 @@ std::string HexDigitsFromLast(std::string_view bytes) {
     return digits;
 }
 
-// The value of hexadecimal digits in the "&h" notation, where a number that fits into 16 bits is a signed
-// number of 16 bits and any other one of 32: FFFF is -1, 10000 is 65536. Nothing without digits or above 32
-// bits.
+// Returns the value of hexadecimal digits behind "&h". Up to four digits mean a signed 16-bit number, more
+// digits a signed 32-bit number: FFFF is -1, 10000 is 65536. Returns nothing if there is no such number.
 std::optional<int> SignedValue(std::string_view digits) {
     if (digits.empty())
         return std::nullopt;
@@ -43,7 +42,7 @@ std::optional<int> SignedValue(std::string_view digits) {
     return static_cast<std::int32_t>(value);
 }
 
-// The general formatting leaves a text that is no number as it is.
+// Returns "&h" and the digits if they are not a number.
 std::string NumberText(std::string_view bytes) {
     const std::string digits = HexDigitsFromLast(bytes);
     const auto value = SignedValue(digits);

@@ -1,4 +1,4 @@
-// A registry value's bytes as text.
+// Converts the bytes of a registry value to text.
 #pragma once
 
 #include <cstdint>
@@ -7,8 +7,8 @@
 
 namespace obrin {
 
-/// The text of a value of the platform's type number: of a string (1) its characters, of a 32-bit number (4)
-/// a decimal number, of any other type nothing. One NUL at the end of the bytes is no part of the value.
+/// Returns the text of a string (type 1) or a 32-bit number (type 4), or an empty text for other types.
+/// Ignores one NUL at the end of the bytes.
 std::string RegistryText(std::uint32_t type, std::string_view bytes);
 
 } // namespace obrin

@@ -11,7 +11,7 @@ namespace obrin {
 
 namespace {
 
-// Closed on every path, the failed open included; nobody asks how that went.
+// Opens a registry key. Closes it also after a failed open, and ignores errors of the close.
 class RegistryKey {
 public:
     RegistryKey(HKEY root, const char* name) {
@@ -30,8 +30,7 @@ private:
     bool opened;
 };
 
-// In a normal window with the focus. The path is the program's alone: nothing is cut off it at a blank or
-// looked for along the search path.
+// Starts a program in a normal window. The path may contain blanks. Windows searches no other folders.
 bool StartProgram(const std::string& path) {
     STARTUPINFOA window{};
     window.cb = sizeof window;
@@ -49,7 +48,7 @@ bool StartProgram(const std::string& path) {
 bool StartTool() try {
     std::string path;
     if (QueryRegistryString(HKEY_LOCAL_MACHINE, "SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", "PATH", path))
-        return StartProgram(path); // and if it cannot be started, the other place is not asked
+        return StartProgram(path); // does not try the second key if this fails
     if (!QueryRegistryString(HKEY_LOCAL_MACHINE, "SOFTWARE\\Microsoft\\Shared Tools Location", "MSINFO",
                              path))
         return false;

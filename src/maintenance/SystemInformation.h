@@ -1,4 +1,4 @@
-// The operating system's system-information tool: where the registry says it is, and its start.
+// Finds the system-information tool of Windows in the registry and starts it.
 #pragma once
 
 #include "platform/WindowsApi.h"
@@ -7,11 +7,11 @@
 
 namespace obrin {
 
-/// Reads a registry value as text. Returns false, with an empty text, when the key cannot be opened for full
-/// access, as a standard user may not under HKEY_LOCAL_MACHINE, or when the value cannot be read.
+/// Reads a registry value as text. Opens the key with full access, which a standard user does not have under
+/// HKEY_LOCAL_MACHINE. On failure returns false and sets `value` to an empty text.
 bool QueryRegistryString(HKEY root, const char* keyName, const char* valueName, std::string& value);
 
-/// Starts the tool, or tells the user that there is none.
+/// Starts the tool. Shows a message if there is none.
 void LaunchSystemInfo(HWND owner);
 
 } // namespace obrin

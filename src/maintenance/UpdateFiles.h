@@ -1,4 +1,4 @@
-// The executables that the update copies to a workstation.
+// The list of executables that the update copies to a workstation.
 #pragma once
 
 #include <array>
@@ -6,11 +6,11 @@
 namespace obrin {
 
 struct UpdateFile {
-    const char* source;      ///< below the shared installation
-    const char* destination; ///< in the workstation's local host folder
+    const char* source;      ///< relative to the installation folder
+    const char* destination; ///< relative to the workstation's local host folder
 };
 
-/// In the order of copying.
+/// All files in the order of copying.
 inline constexpr std::array<UpdateFile, 5> updateFiles{{
     {"Tessel\\Exe\\Tessel.Exe", "Tessel.exe"},
     {"Tessel\\Exe\\Sweeper.Exe", "Sweeper.exe"},

@@ -5,7 +5,7 @@
 namespace obrin {
 
 std::string UpdateKey(int wsid) {
-    // A damaged user record can hold a number of more digits than a key.
+    // A damaged user record can contain a number with more than three digits.
     return PaddedDecimal(wsid, static_cast<int>(updateKeyBytes)).substr(0, updateKeyBytes);
 }
 

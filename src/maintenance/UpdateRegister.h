@@ -1,4 +1,4 @@
-// The register of updated workstations, "Updated.txt": three-byte keys without separators, as values.
+// The format of "Updated.txt", the register of updated workstations: three-byte keys without separators.
 #pragma once
 
 #include <cstddef>
@@ -9,16 +9,15 @@ namespace obrin {
 
 constexpr std::size_t updateKeyBytes = 3;
 
-/// The key of a workstation, always three bytes: 5 is "005".
+/// Returns the key of a workstation: 5 is "005".
 std::string UpdateKey(int wsid);
 
 struct UpdateSearch {
-    bool updated;       ///< the key is in the register
-    std::size_t record; ///< counted from 1: the one that holds the key, or the one to write it as
+    bool updated;       ///< whether the key is in the register
+    std::size_t record; ///< number of the record with the key, or of the record to write; the first is 1
 };
 
-/// Looks for the key in the register's bytes. A partial record at the end is read by nobody: a new key
-/// overwrites it.
+/// Looks for the key in the bytes of the register. A new key overwrites an incomplete record at the end.
 UpdateSearch FindUpdateKey(std::string_view registerBytes, std::string_view key);
 
 } // namespace obrin

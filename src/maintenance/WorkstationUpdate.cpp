@@ -15,7 +15,7 @@ void CheckWorkstationUpdate(HWND owner, int wsid) {
         return;
     frmUpdate().Show(owner);
     if (!IsWindow(owner))
-        return; // the program ends: the workstation is updated at its next start
+        return; // the program ends; the next start repeats the update
     updated.Seek((found.record - 1) * updateKeyBytes);
     updated.Write(key);
     updated.Flush();

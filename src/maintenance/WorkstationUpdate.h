@@ -1,13 +1,12 @@
-// The one-time update of a workstation's executables: whether it is due, and its entry in the register.
+// Updates the executables of a workstation once.
 #pragma once
 
 #include "platform/WindowsApi.h"
 
 namespace obrin {
 
-/// Once per workstation: shows the update window for a workstation that "Updated.txt" does not name, then
-/// enters it there. Not entered when `owner`, the menu window, is gone by then. Throws RunTimeError for the
-/// register's errors.
+/// Shows the update window if "Updated.txt" does not contain the workstation, and then adds the workstation
+/// there. Adds nothing if `owner`, the menu window, has been closed. Throws RunTimeError.
 void CheckWorkstationUpdate(HWND owner, int wsid);
 
 } // namespace obrin

@@ -1,4 +1,4 @@
-// The about box: which version is running, who made it, and a way to the system-information tool.
+// The about box. It also starts the system-information tool of Windows.
 #pragma once
 
 #include "controls/Dialog.h"
@@ -8,7 +8,7 @@ namespace obrin {
 
 class frmAbout final : public Dialog {
 public:
-    /// Shows the box over the menu window, modally; returns once the user has closed it.
+    /// Shows the box modally. Returns when the user has closed it.
     void Show(HWND owner);
 
 private:

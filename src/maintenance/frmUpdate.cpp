@@ -15,13 +15,11 @@ namespace obrin {
 
 namespace {
 
-// The first resize notification, which starts the first copy. The dialog manager's own comes at another
-// moment on each platform, on some before the window can be seen.
+// Starts the first copy. On some platforms the first WM_SIZE arrives too early, before the window is visible.
 constexpr UINT firstShown = WM_APP;
 
 constexpr UINT neverSent = WM_APP + 1;
 
-// A file that cannot be copied is passed over: the next one is tried, and nobody is told.
 void CopyIgnoringErrors(const char* source, const std::string& destination) {
     CopyFileA(source, destination.c_str(), FALSE);
 }
@@ -47,7 +45,7 @@ INT_PTR frmUpdate::OnMessage(UINT message, WPARAM wParam, LPARAM) {
             Form_Resize();
         return TRUE;
     case WM_COMMAND:
-        // Enter stands for the button also while it is hidden. The close box may be clicked at any time.
+        // Enter sends IDOK even while the button is hidden. IDCANCEL comes from the close box.
         if ((LOWORD(wParam) == IDOK && IsWindowVisible(Command1)) || LOWORD(wParam) == IDCANCEL)
             Command1_Click();
         return TRUE;
@@ -60,10 +58,10 @@ void frmUpdate::Form_Load() {
     Label1 = Control(IDC_LABEL1);
     Label2 = Control(IDC_LABEL2);
     Command1 = Control(IDOK);
-    IgnoreHeldEnter(Command1); // held since the program was run, it would close the window at once
+    IgnoreHeldEnter(Command1); // Enter that started the program may still be down and would close the window
     OnLayout();
 
-    // A quarter of its own height below the menu window's top and half its own width right of its left edge.
+    // The offsets from the menu window are a quarter of this window's height and half of its width.
     RECT menu;
     RECT own;
     GetWindowRect(GetWindow(window, GW_OWNER), &menu);
@@ -81,11 +79,10 @@ void frmUpdate::OnLayout() {
     PlaceLabel();
 }
 
-// Closed while files are copied, the window stays until they are: the register will say that the workstation
-// has them all, and the menu must not be used meanwhile.
+// The window stays open until all files are copied: the register must not name the workstation earlier.
 void frmUpdate::Command1_Click() {
     closing = true;
-    if (copiesDue == 0)
+    if (pendingCopies == 0)
         EndDialog(window, 0);
 }
 
@@ -100,11 +97,10 @@ void frmUpdate::PlaceLabel() {
 
 void frmUpdate::Form_Resize() {
     PlaceLabel();
-    // A resize can arrive while files are copied, from the events processed between two of them. Its copy
-    // sequence then follows the one at work.
-    if (++copiesDue > 1)
+    // CopyFiles processes events, so a resize can arrive while it runs. Its copy sequence then comes next.
+    if (++pendingCopies > 1)
         return;
-    for (; copiesDue > 0; --copiesDue)
+    for (; pendingCopies > 0; --pendingCopies)
         CopyFiles();
     if (closing)
         EndDialog(window, 0);
@@ -113,16 +109,15 @@ void frmUpdate::Form_Resize() {
 void frmUpdate::CopyFiles() {
     const auto show = [this](const char* what) {
         SetWindowTextA(Label1, (std::string("Updating:\r\n") + what).c_str());
-        // Now: a copy can take minutes, and nothing is painted meanwhile.
+        // Paints now, because a copy can take minutes.
         RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
-        // Some platforms bring it to the screen only when the thread looks for a message: for one that never
-        // comes.
+        // Some platforms update the screen only when the thread looks for a message.
         MSG none;
         PeekMessageA(&none, window, neverSent, neverSent, PM_NOREMOVE);
     };
     const LeadByteTest isLeadByte = CodePageLeadByteTest();
     for (const auto& [source, destination] : updateFiles) {
-        // Gone at the end of the Windows session, in the events below: the update is made at the next start.
+        // The end of the Windows session can destroy the window in ProcessPendingEvents.
         if (!IsWindow(window))
             return;
         show(destination);

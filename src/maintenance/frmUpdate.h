@@ -1,4 +1,4 @@
-// The update window: copies the shared executables to the workstation while it shows their names.
+// The update window: copies the executables to the workstation and shows their names.
 #pragma once
 
 #include "controls/Dialog.h"
@@ -8,7 +8,7 @@ namespace obrin {
 
 class frmUpdate final : public Dialog {
 public:
-    /// Shows the window beside `owner`, the menu window, modally; returns once the user has closed it.
+    /// Shows the window modally. Returns when the user has closed it and all files are copied.
     void Show(HWND owner);
 
 private:
@@ -21,12 +21,12 @@ private:
     void CopyFiles();
 
     HWND Label1 = nullptr;   // progress
-    HWND Label2 = nullptr;   // what is going on
+    HWND Label2 = nullptr;   // explanation
     HWND Command1 = nullptr; // "O&kay"
     UniqueFont labelFont;
     bool shown = false;
-    int copiesDue = 0;    // resize notifications whose copy sequence has not ended
-    bool closing = false; // the user has closed the window while files were copied
+    int pendingCopies = 0; // resize notifications whose copy sequence has not ended
+    bool closing = false;  // the user has asked to close the window
 };
 
 } // namespace obrin
