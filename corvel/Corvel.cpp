@@ -1,5 +1,5 @@
-// Corvel.dll, the suite's support library: registry texts as strings of bytes in the ANSI code page.
-// Both routines are exported undecorated and __stdcall in either bitness, as the suite's programs call them.
+// Corvel.dll, the suite's support library: reads and writes texts in the registry. A BSTR holds bytes of the
+// ANSI code page here. Both builds export the routines as __stdcall with undecorated names.
 
 #include "platform/WindowsApi.h"
 
@@ -9,13 +9,13 @@
 
 #define EXPORTED extern "C" __declspec(dllexport)
 
-/// The text of a REG_SZ or REG_EXPAND_SZ value (unexpanded) as a string of bytes that the caller frees with
-/// SysFreeString; an empty string when the key or the value is missing or is no text.
+/// Returns the text of a REG_SZ or REG_EXPAND_SZ value, not expanded; an empty text if there is none. The
+/// caller frees it with SysFreeString.
 EXPORTED BSTR __stdcall GetRegValue(HKEY root, const char* keyPath, const char* valueName) {
     constexpr DWORD flags = RRF_RT_REG_SZ | RRF_RT_REG_EXPAND_SZ | RRF_NOEXPAND;
-    DWORD size = 0; // bytes, the ending NUL counted
+    DWORD size = 0; // in bytes, with the final NUL
     LONG result = RegGetValueA(root, keyPath, valueName, flags, nullptr, nullptr, &size);
-    // Again when another program has stored a longer text between two calls.
+    // Retries if another program has stored a longer text between the two calls.
     while (result == ERROR_SUCCESS || result == ERROR_MORE_DATA) {
         const BSTR buffer = SysAllocStringByteLen(nullptr, size);
         if (buffer == nullptr)
@@ -32,7 +32,7 @@ EXPORTED BSTR __stdcall GetRegValue(HKEY root, const char* keyPath, const char* 
     return SysAllocStringByteLen("", 0);
 }
 
-/// Stores a text as REG_SZ, creating the key when it is missing. Returns the platform's error code.
+/// Stores a text as REG_SZ. Creates the key if it is missing. Returns the Windows error code.
 EXPORTED LONG __stdcall SetRegValue(HKEY root, const char* keyPath, const char* valueName, const char* text) {
     return RegSetKeyValueA(root, keyPath, valueName, REG_SZ, text, static_cast<DWORD>(std::strlen(text) + 1));
 }

@@ -1,4 +1,4 @@
-// Puts the pieces together and nothing else.
+// The entry point of the menu.
 
 #include "menu/frmMain.h"
 #include "platform/Events.h"
@@ -8,19 +8,17 @@
 #include <objbase.h>
 
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
-    // Whatever is loaded from here on comes from the system's folder: this one is open to every operator. The
-    // suite's own library is asked for by its place.
+    // From now on, Windows loads DLLs only from the system folder, because every operator may write into the
+    // program's folder. SupportLibrary names the folders for Corvel.dll itself.
     SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
-    // No "(Not Responding)" over a menu that waits for its host, and no question for a disk in an empty
-    // drive.
-    DisableProcessWindowsGhosting();
-    SetErrorMode(SEM_FAILCRITICALERRORS);
-    // Ahead of the host, which has the default of 0x280: it is still there for the exit command when the
-    // session ends.
+    DisableProcessWindowsGhosting();      // no "(Not Responding)" while the menu waits for the host
+    SetErrorMode(SEM_FAILCRITICALERRORS); // no question for a disk if a drive is empty
+    // At the end of the session, Windows must close the menu before the host (level 0x280), because the menu
+    // sends the exit command to the host.
     SetProcessShutdownParameters(0x300, 0);
-    obrin::frmMain menu; // outlives the box of an error, which lets its window's events through
+    obrin::frmMain menu; // not in the lambda: an error box still processes the window's events
     return obrin::RunOrEndProgram([&] {
-        // The shell opens documents and shortcuts through components that need it.
+        // The shell needs COM to open documents and shortcuts.
         CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE);
         const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_WIN95_CLASSES};
         InitCommonControlsEx(&controls);

@@ -1,4 +1,4 @@
-// Numbers of the resources, controls and menu items; read by the resource compiler too.
+// Ids of resources, controls and menu items. The resource compiler reads this file too.
 #pragma once
 
 #define IDI_OBRIN 1
@@ -17,7 +17,7 @@
 #define IDD_PAGE_SETTINGS 32
 #define IDD_PAGE_MARGINS 33
 
-// Controls; each dialog has its own.
+// Controls.
 #define IDC_PROMPT 100
 #define IDC_ANSWER 101
 
@@ -57,7 +57,7 @@
 #define IDC_TXT_COLUMNS 230
 #define IDC_TXT_FONT_SIZE 231
 #define IDC_TXT_SAVE_TO_AS_START 232
-// One for each margin: top, bottom, left, right.
+// The first of four ids each, for the top, bottom, left and right margin.
 #define IDC_TXT_MARGIN 240
 #define IDC_SLD_MARGIN 250
 
@@ -80,12 +80,12 @@
 #define ID_TREE_PROPERTIES 321
 #define ID_TREE_HELP 322
 
-// mnuSystems(i) is ID_SYSTEMS + i; mnuSystems(99) is the template, so that there is room for 99 systems.
+// mnuSystems(i) is ID_SYSTEMS + i. mnuSystems(99) is the template.
 #define SYSTEMS_TEMPLATE 99
 #define ID_SYSTEMS 400
 #define ID_SYSTEMS_TEMPLATE (ID_SYSTEMS + SYSTEMS_TEMPLATE)
 
-// The defaults of a program's settings.
+// Texts of the string table: the defaults of a program's settings.
 #define IDS_HELP_FOLDER 102
 #define IDS_ORIENTATION 104
 #define IDS_HEIGHT 105

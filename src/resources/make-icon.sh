@@ -1,11 +1,11 @@
 #!/bin/bash
-# Draws menu.ico anew: a small menu tree on a tile, for each size in whole pixels of its own. Needs ImageMagick.
+# Draws menu.ico: a menu tree on a tile, with its own pixel coordinates for each size. Needs ImageMagick.
 set -euo pipefail
 cd "$(dirname "$0")"
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
-# Box COLOUR X0 Y0 X1 Y1 RADIUS: the last pixels belong to it.
+# box COLOUR X0 Y0 X1 Y1 RADIUS prints a drawing command. X1 and Y1 are the last pixels of the box.
 box() {
   if (($6 == 0)); then
     printf 'fill %s rectangle %d,%d %d,%d\n' "${@:1:5}"
@@ -14,8 +14,9 @@ box() {
   fi
 }
 
-# draw SIZE, then where the first pixels and the last ones are: tile with its radius, the root of the tree, its two
-# nodes with the radius of all three, the trunk from left to right and the two branches from top to bottom.
+# draw SIZE TILE TILE_END TILE_RADIUS RADIUS TRUNK TRUNK_END BRANCH1 BRANCH2 ROOT... NODE1... NODE2...
+# TILE and TILE_END are the first and last pixel of the tile in both directions. The root and the two nodes
+# are X0 Y0 X1 Y1 each, with RADIUS. The trunk is between two columns; BRANCH1 and BRANCH2 are top rows.
 draw() {
   local size=$1 tile=$2 tile_end=$3 tile_radius=$4 radius=$5 trunk=$6 trunk_end=$7 branch1=$8 branch2=$9
   local thick=$((trunk_end - trunk))
@@ -54,7 +55,7 @@ for factor in 2 4; do
   draw $((64 * factor)) "${scaled[@]}"
 done
 
-# little_endian BYTES NUMBER...
+# little_endian BYTES NUMBER... writes each number in so many bytes.
 little_endian() {
   local bytes=$1 number i
   shift
@@ -65,7 +66,7 @@ little_endian() {
   done
 }
 
-# The small ones, which every window loads, as bitmaps; the others, as PNG, take a tenth of the room.
+# Every window loads the small sizes, so they are bitmaps. The large ones are PNG files, a tenth of the size.
 sizes=(16 20 24 32 40 48 64 128 256)
 for size in "${sizes[@]}"; do
   if ((size <= 32)); then
