@@ -9,7 +9,7 @@ namespace fenn {
 namespace {
 
 std::string Variable(const char* name) {
-    const DWORD size = GetEnvironmentVariableA(name, nullptr, 0); // counts the closing NUL
+    const DWORD size = GetEnvironmentVariableA(name, nullptr, 0); // includes the final NUL
     if (size == 0)
         return {};
     std::string value(size, '\0');
@@ -17,7 +17,7 @@ std::string Variable(const char* name) {
     return value;
 }
 
-/// Milliseconds; a text that is no number leaves the default.
+/// Returns milliseconds; the default if the text is not a number.
 unsigned Duration(const char* name, unsigned byDefault) {
     const std::string text = Variable(name);
     unsigned value = byDefault;
@@ -31,7 +31,7 @@ Behaviour Behaviour::FromEnvironment() {
     Behaviour behaviour;
     behaviour.logFile = Variable("FENN_LOG");
     behaviour.windowDelay = Duration("FENN_WINDOW_DELAY_MS", behaviour.windowDelay);
-    behaviour.startDelay = Duration("FENN_START_DELAY_MS", behaviour.startDelay);
+    behaviour.captionDelay = Duration("FENN_START_DELAY_MS", behaviour.captionDelay);
     const std::string never = Variable("FENN_NEVER");
     behaviour.neverShowsWindow = never == "window";
     behaviour.neverSetsCaption = never == "caption";

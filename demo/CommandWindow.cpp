@@ -10,7 +10,7 @@ namespace {
 
 constexpr char className[] = "FennCommand";
 constexpr WORD clearId = 100;
-constexpr UINT_PTR leaveTimer = 1;
+constexpr UINT_PTR exitTimer = 1;
 constexpr COLORREF paper = RGB(255, 255, 255);
 constexpr COLORREF ink = RGB(32, 32, 32);
 constexpr COLORREF faintInk = RGB(96, 96, 96);
@@ -22,14 +22,14 @@ bool IsModifier(WPARAM key) {
 } // namespace
 
 std::string EscapeControlCharacters(const std::string& line) {
-    std::string legible;
+    std::string escaped;
     for (const char c : line) {
         if (const auto code = static_cast<unsigned char>(c); code < ' ')
-            legible.append("<").append(std::to_string(code)).append(">");
+            escaped.append("<").append(std::to_string(code)).append(">");
         else
-            legible += c;
+            escaped += c;
     }
-    return legible;
+    return escaped;
 }
 
 CommandWindow::CommandWindow(const Behaviour& hostBehaviour, Log& hostLog, CommandListener& hostListener,
@@ -87,7 +87,7 @@ LRESULT CommandWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         KeyUp(wParam);
         return 0;
     case WM_TIMER:
-        if (wParam == leaveTimer)
+        if (wParam == exitTimer)
             listener.ExitCommanded();
         return 0;
     case WM_LBUTTONDOWN:
@@ -109,12 +109,12 @@ LRESULT CommandWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     }
 }
 
-void CommandWindow::LogKey(const char* event, WPARAM key, LPARAM second) {
+void CommandWindow::LogKey(const char* event, WPARAM key, LPARAM lParam) {
     std::string details = std::to_string(key);
     if (!InSendMessage())
         details += " posted";
-    if (second != 0)
-        details += ' ' + std::to_string(second);
+    if (lParam != 0)
+        details += ' ' + std::to_string(lParam);
     log.Write(event, details);
 }
 
@@ -133,8 +133,8 @@ void CommandWindow::KeyDown(WPARAM key) {
 }
 
 void CommandWindow::KeyUp(WPARAM key) {
-    // Not at the key's going down: the sender has still to let it go, and would find no window any more.
-    if (leaving && key == VK_RETURN)
+    // Exits at key-up: after an exit at key-down the sender would find no window for its key-up.
+    if (isExiting && key == VK_RETURN)
         listener.ExitCommanded();
 }
 
@@ -160,9 +160,8 @@ void CommandWindow::CompleteLine() {
         log.Write("system", EscapeControlCharacters(interpreter.System()));
         break;
     case Interpreter::Action::Exit:
-        leaving = true;
-        // For a sender that never lets the key go.
-        SetTimer(window, leaveTimer, 1000, nullptr);
+        isExiting = true;
+        SetTimer(window, exitTimer, 1000, nullptr); // in case the sender never sends the key-up
         break;
     case Interpreter::Action::NotUnderstood:
         log.Write("unknown", EscapeControlCharacters(line));

@@ -1,4 +1,4 @@
-// The host's command window: receives the keys, assembles lines and shows the one being typed.
+// The host's command window: receives keys, joins them to lines and shows the current line.
 #pragma once
 
 #include "Behaviour.h"
@@ -11,8 +11,7 @@
 
 namespace fenn {
 
-/// What the command window reports to the window around it. Called while the key's sender waits, so nothing
-/// here may take long or show a window.
+/// The command window calls these functions while the sender of a key waits: they must not show a window.
 class CommandListener {
 public:
     virtual void LineTyped(const std::string& line) = 0;
@@ -31,16 +30,16 @@ public:
     CommandWindow(const CommandWindow&) = delete;
     CommandWindow& operator=(const CommandWindow&) = delete;
 
-    /// Makes the window as a child of `parent`; it lives as long as its parent.
+    /// Creates the window as a child of `parent`, which destroys it.
     HWND Create(HWND parent, HINSTANCE instance);
 
-    /// Height it wants.
+    /// Returns the height for the layout, in pixels.
     static int Height();
 
 private:
     static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
-    void LogKey(const char* event, WPARAM key, LPARAM second);
+    void LogKey(const char* event, WPARAM key, LPARAM lParam);
     void KeyDown(WPARAM key);
     void KeyUp(WPARAM key);
     void CompleteLine();
@@ -55,10 +54,10 @@ private:
     HWND window = nullptr;
     HWND clearButton = nullptr;
     std::string typed;
-    bool leaving = false;
+    bool isExiting = false;
 };
 
-/// A line with its control characters made visible, for the log and the screen.
+/// Makes the control characters of a line visible, for the log and the screen.
 std::string EscapeControlCharacters(const std::string& line);
 
 } // namespace fenn

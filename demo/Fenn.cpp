@@ -1,6 +1,6 @@
-// A stand-in for the host application, for demonstrations and tests: one instance a workstation, started as
-// "Fenn.exe run core\start -5". It opens its window at once, gives it the caption Obrin-05 when core\start
-// has run, and takes commands typed into the window's first child.
+// A stand-in for the host application, for demonstrations and tests. The menu starts it as "Fenn.exe run
+// core\start -5". It opens its window, sets the caption Obrin-05 a moment later, and reads commands typed
+// into the first child of the window.
 #include "Behaviour.h"
 #include "HostWindow.h"
 #include "Log.h"
@@ -13,7 +13,7 @@
 
 namespace {
 
-/// The number behind the last "-"; without one it is workstation 1.
+/// Returns the number after the last "-", or 1 if there is none.
 int StationNumber(std::string_view arguments) {
     int station = 1;
     if (const std::size_t dash = arguments.rfind('-'); dash != std::string_view::npos)

@@ -10,9 +10,9 @@ namespace fenn {
 namespace {
 
 constexpr char className[] = "ZafWindow";
-constexpr UINT showStartedMessage = WM_APP;
-constexpr UINT_PTR startTimer = 1;
-constexpr LRESULT mostLines = 1000;
+constexpr UINT showProgramMessage = WM_APP;
+constexpr UINT_PTR captionTimer = 1;
+constexpr LRESULT maxLines = 1000;
 
 } // namespace
 
@@ -40,7 +40,7 @@ bool HostWindow::Open(HINSTANCE programInstance) {
     ShowWindow(window, SW_SHOWNORMAL);
     log.Write("window");
     if (!behaviour.neverSetsCaption)
-        SetTimer(window, startTimer, behaviour.startDelay, nullptr);
+        SetTimer(window, captionTimer, behaviour.captionDelay, nullptr);
     return true;
 }
 
@@ -66,17 +66,17 @@ LRESULT HostWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
         SetFocus(commandHandle);
         return 0;
     case WM_TIMER:
-        if (wParam == startTimer) {
-            KillTimer(window, startTimer);
+        if (wParam == captionTimer) {
+            KillTimer(window, captionTimer);
             std::array<char, 24> caption{};
             wsprintfA(caption.data(), "Obrin-%02d", station);
-            // The log first: whoever waits for the caption may read the log at once.
+            // Writes the log first, because a test that waits for the caption reads the log next.
             log.Write("caption", caption.data());
             SetWindowTextA(window, caption.data());
         }
         return 0;
-    case showStartedMessage:
-        ShowStarted();
+    case showProgramMessage:
+        ShowProgramWindow();
         return 0;
     case WM_NCDESTROY:
         SetWindowLongPtrA(window, GWLP_USERDATA, 0);
@@ -94,7 +94,7 @@ void HostWindow::CreateChildren() {
                                 LBS_NOSEL,
                             0, 0, 0, 0, window, nullptr, instance, nullptr);
     SendMessageA(lines, WM_SETFONT, reinterpret_cast<WPARAM>(TextFont()), FALSE);
-    // Whoever types into this window looks for its first child.
+    // The command window must be the first child: the menu looks for that one.
     SetWindowPos(commandHandle, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
@@ -107,7 +107,7 @@ void HostWindow::LayOut() {
 }
 
 void HostWindow::LineTyped(const std::string& line) {
-    if (SendMessageA(lines, LB_GETCOUNT, 0, 0) >= mostLines)
+    if (SendMessageA(lines, LB_GETCOUNT, 0, 0) >= maxLines)
         SendMessageA(lines, LB_DELETESTRING, 0, 0);
     const LRESULT index = SendMessageA(lines, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(line.c_str()));
     if (index >= 0)
@@ -115,16 +115,16 @@ void HostWindow::LineTyped(const std::string& line) {
 }
 
 void HostWindow::ProgramStarted(const std::string& program, const std::string& system) {
-    // Posted: showing a window now would take the activation from the sender in the middle of its typing.
-    starts.push_back({.program = program, .system = system});
-    PostMessageA(window, showStartedMessage, 0, 0);
+    // Posts a message: a window that opens now would take the focus from the sender of the keys.
+    pendingStarts.push_back({.program = program, .system = system});
+    PostMessageA(window, showProgramMessage, 0, 0);
 }
 
-void HostWindow::ShowStarted() {
-    if (starts.empty())
+void HostWindow::ShowProgramWindow() {
+    if (pendingStarts.empty())
         return;
-    const Start start = starts.front();
-    starts.pop_front();
+    const Start start = pendingStarts.front();
+    pendingStarts.pop_front();
     OpenProgramWindow(instance, start.program, start.system, station);
 }
 

@@ -1,4 +1,4 @@
-// The host's own window: its caption tells that the station has started; it shows the lines typed into it.
+// The host's main window: shows the typed lines. Its caption shows that the station has started.
 #pragma once
 
 #include "Behaviour.h"
@@ -18,7 +18,7 @@ public:
     HostWindow(const HostWindow&) = delete;
     HostWindow& operator=(const HostWindow&) = delete;
 
-    /// False if Windows made no window. Closing the window posts the quit message.
+    /// Creates and shows the window; closing it ends the program. Returns false if it cannot be created.
     bool Open(HINSTANCE programInstance);
 
 private:
@@ -31,7 +31,7 @@ private:
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
     void CreateChildren();
     void LayOut();
-    void ShowStarted();
+    void ShowProgramWindow();
 
     void LineTyped(const std::string& line) override;
     void ProgramStarted(const std::string& program, const std::string& system) override;
@@ -46,7 +46,7 @@ private:
     HWND window = nullptr;
     HWND commandHandle = nullptr;
     HWND lines = nullptr;
-    std::deque<Start> starts; ///< programs that still have to show their window
+    std::deque<Start> pendingStarts;
 };
 
 } // namespace fenn

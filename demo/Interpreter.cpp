@@ -3,8 +3,8 @@
 namespace fenn {
 
 Interpreter::Action Interpreter::Interpret(std::string_view line) {
-    if (systemCodeComesNext) {
-        systemCodeComesNext = false;
+    if (expectsSystemCode) {
+        expectsSystemCode = false;
         if (line.size() != 2)
             return Action::NotUnderstood;
         system = line;
@@ -34,7 +34,7 @@ Interpreter::Action Interpreter::RunLoaded() {
     if (program == "CORE\\EXIT")
         return Action::Exit;
     if (program == "CORE\\STARTSYS") {
-        systemCodeComesNext = true;
+        expectsSystemCode = true;
         return Action::Nothing;
     }
     return Action::OpenProgram;

@@ -1,4 +1,4 @@
-// What typed lines mean to the host.
+// Interprets the lines that are typed into the host.
 #pragma once
 
 #include <string>
@@ -6,18 +6,17 @@
 
 namespace fenn {
 
-/// Understands LOAD program, RUN (the loaded program), RUN program, and the system code that the program
-/// CORE\STARTSYS reads from the next line. Capitals only, because the keys of letters are their capitals: a
-/// small letter's code is another key.
+/// Knows the commands LOAD program, RUN and RUN program. RUN without a program runs the loaded one. The
+/// program CORE\STARTSYS reads a system code from the next line. Commands must be in capitals.
 class Interpreter {
 public:
     enum class Action { Nothing, OpenProgram, StartSystem, Exit, NotUnderstood };
 
     Action Interpret(std::string_view line);
 
-    /// The loaded program's path; empty before the first.
+    /// Returns the path of the loaded program; empty if there is none.
     [[nodiscard]] const std::string& Program() const { return program; }
-    /// The current system's code; empty before the first.
+    /// Returns the code of the current system; empty if there is none.
     [[nodiscard]] const std::string& System() const { return system; }
 
 private:
@@ -25,7 +24,7 @@ private:
 
     std::string program;
     std::string system;
-    bool systemCodeComesNext = false;
+    bool expectsSystemCode = false;
 };
 
 } // namespace fenn

@@ -20,7 +20,7 @@ void Log::Write(std::string_view event, std::string_view details) {
     if (!details.empty())
         line.append(" ").append(details);
     line.append("\r\n");
-    // One call a line: two processes with one log do not mix within a line.
+    // Writes each line in one call, so that two processes can share a log.
     DWORD written = 0;
     WriteFile(file, line.data(), static_cast<DWORD>(line.size()), &written, nullptr);
 }

@@ -1,17 +1,17 @@
-// The record of what reached this process, for whoever checks what was typed into it.
+// Logs what this process receives. Tests read the log.
 //
-// One event a line, ended by CR LF:
-//   start run core\start -5     the start arguments as they came
-//   process 312                 the process's number
-//   window                      the host's window stands
-//   caption Obrin-05            its caption is the station's
-//   down 76  /  up 76           a key message; " posted" follows if it was not sent by another thread's
-//                               SendMessage, and its second parameter if that is not 0
+// Each event is a line that ends with CR LF:
+//   start run core\start -5     the start arguments
+//   process 312                 the process id
+//   window                      the host's window is open
+//   caption Obrin-05            the host sets this caption
+//   down 76  /  up 76           a key message; then " posted" if another thread has not sent it by
+//                               SendMessage; then lParam if it is not 0
 //   line LOAD CORE\START        a completed line
-//   hang LINE                   stops answering now
+//   hang LINE                   the host hangs now
 //   run CORE\PROGRAMS\X         the line before opened this program
 //   system UB                   the line before started this system
-//   unknown LINE                the line before means nothing here
+//   unknown LINE                the line before is not a command
 //   exit                        the process ends
 #pragma once
 
@@ -24,13 +24,13 @@ namespace fenn {
 
 class Log {
 public:
-    /// Appends to the file; an empty name, or one that cannot be opened, means no log.
+    /// Appends to the file. Writes no log if the name is empty or the file cannot be opened.
     explicit Log(const std::string& fileName);
     ~Log();
     Log(const Log&) = delete;
     Log& operator=(const Log&) = delete;
 
-    /// On return the line is in the file, so that it can be read at any time, even if this process hangs.
+    /// Writes a line. A test can read it at once, even if this process hangs afterwards.
     void Write(std::string_view event, std::string_view details = {});
 
 private:

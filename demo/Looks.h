@@ -1,17 +1,17 @@
-// Fonts and measures that the windows share.
+// Fonts and lengths that the windows share.
 #pragma once
 
 #include <windows.h>
 
 namespace fenn {
 
-/// A length given for a screen of 96 pixels an inch, in pixels of this screen.
+/// Converts a length in pixels at 96 DPI to pixels of this screen.
 int Scaled(int length);
 
-/// The desktop's message font in per cent of its size; lives as long as the process.
+/// Creates the message font of Windows in another size and weight. Nobody deletes it.
 HFONT MakeFont(int percent, LONG weight);
 
-/// The desktop's message font as it is.
+/// Returns the message font of Windows.
 HFONT TextFont();
 
 } // namespace fenn

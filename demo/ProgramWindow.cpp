@@ -50,12 +50,12 @@ void AddControls(HWND window, const std::string& program, const std::string& sys
     AddControl(window, "STATIC", name.c_str(), plain, line(16, 48), titleId, TitleFont());
     AddControl(window, "STATIC", program.c_str(), plain, line(54, 74), -1, TextFont());
     AddControl(window, "STATIC", origin.c_str(), plain, line(76, 96), -1, TextFont());
-    AddControl(window, "STATIC", "This stands for the program itself, which would run here.", plain,
-               line(112, 132), -1, TextFont());
+    AddControl(window, "STATIC", "The real program would run here.", plain, line(112, 132), -1, TextFont());
 
     const int top = height - footerHeight + 11;
-    const RECT closePlace{Scaled(width - margin - 88), Scaled(top), Scaled(width - margin), Scaled(top + 26)};
-    HWND close = AddControl(window, "BUTTON", "&Close", WS_TABSTOP | BS_DEFPUSHBUTTON, closePlace, IDCANCEL,
+    const RECT closeBounds{Scaled(width - margin - 88), Scaled(top), Scaled(width - margin),
+                           Scaled(top + 26)};
+    HWND close = AddControl(window, "BUTTON", "&Close", WS_TABSTOP | BS_DEFPUSHBUTTON, closeBounds, IDCANCEL,
                             TextFont());
     SetFocus(close);
 }
@@ -91,7 +91,6 @@ LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lPar
     }
 }
 
-/// Registered once.
 ATOM ProgramClass(HINSTANCE instance) {
     static const ATOM atom = [instance] {
         WNDCLASSEXA windowClass{};
@@ -118,7 +117,7 @@ void OpenProgramWindow(HINSTANCE instance, const std::string& program, const std
     const int frameWidth = frame.right - frame.left;
     const int frameHeight = frame.bottom - frame.top;
 
-    // In the middle of the screen, each a step aside from the one before.
+    // Each new window opens a step further to the lower right.
     static int opened = 0;
     const int step = Scaled(28) * (opened++ % 8);
     RECT screen{};
@@ -132,8 +131,8 @@ void OpenProgramWindow(HINSTANCE instance, const std::string& program, const std
         return;
     AddControls(window, program, system, station);
     ShowWindow(window, SW_SHOWNORMAL);
-    // Windows refuses the foreground to a process the operator is not working in; a moment as a topmost
-    // window brings it in front of the menu all the same.
+    // Windows may refuse to activate the window of a process that the operator is not using. A window that is
+    // topmost for a moment still comes in front of the menu.
     constexpr UINT inPlace = SWP_NOMOVE | SWP_NOSIZE;
     SetWindowPos(window, HWND_TOPMOST, 0, 0, 0, 0, inPlace);
     SetWindowPos(window, HWND_NOTOPMOST, 0, 0, 0, 0, inPlace);

@@ -1,4 +1,4 @@
-// The window of a running business program: names it until the operator closes it.
+// A window that represents a running business program.
 #pragma once
 
 #include <windows.h>
@@ -7,12 +7,12 @@
 
 namespace fenn {
 
-/// Opens the window in front of all others. It is of class "FennProgram" and its caption is the program's
-/// path. It owns itself and is nobody's child, so it stays in sight while the host's window is hidden.
+/// Opens a window in front of all others. Its class is "FennProgram" and its caption is the path of the
+/// program. It has no owner, because it must be visible while the host's window is hidden.
 void OpenProgramWindow(HINSTANCE instance, const std::string& program, const std::string& system,
                        int station);
 
-/// Gives a program window its dialog keys (Enter and Esc close it); true if the message was one of them.
+/// Handles the keys of a program window: Enter and Esc close it. Returns true if the message was such a key.
 bool IsProgramWindowKey(MSG& message);
 
 } // namespace fenn
