@@ -1,9 +1,9 @@
-// The floor of starts and memory: the least program that starts the host, waits for its windows as the
-// launcher does, and then shows a window with the launcher's menu bar and a tree of the same nodes.
+// The smallest program that does what the menu does at its start. It starts the host, waits for its windows,
+// and shows a window with the same menu bar and the same tree. The menu is measured against it.
 //
-//   bare.exe UB.mnu      in an installation
-//   bare.exe UB.mnu all  also makes the launcher's other calls once the host is there: marker file, registry,
-//                        picture, captions, and the start of the system in the host
+//   bare.exe UB.mnu      needs an installation in the current directory
+//   bare.exe UB.mnu all  also makes the menu's other calls: marker file, registry, picture, captions, and the
+//                        command that starts the system in the host
 
 #include "resources/Ids.h"
 
@@ -52,7 +52,7 @@ char* NextLine(char* line) {
     return std::strchr(line, '\n') + 1;
 }
 
-// Trusts the file: at most three levels, less than 64 KB, a CR LF behind every line.
+// The file must have at most three levels, less than 64 KB, and CR LF after every line.
 void FillTree(HWND tree, const char* fileName) {
     static char text[0x10000];
     DWORD size = 0;
@@ -66,7 +66,7 @@ void FillTree(HWND tree, const char* fileName) {
     insertion.hInsertAfter = TVI_LAST;
     insertion.item.mask = TVIF_TEXT;
     SendMessageA(tree, WM_SETREDRAW, FALSE, 0);
-    char* line = NextLine(text); // behind the header line
+    char* line = NextLine(text); // skips the header line
     while (*line != '\0') {
         char* const next = NextLine(line);
         const std::size_t depth = std::strspn(line, ">");

@@ -28,25 +28,25 @@ double Median(std::vector<double> values) {
     return values.size() % 2 == 1 ? values[middle] : (values[middle - 1] + values[middle]) / 2;
 }
 
-Medians MeasureAlternately(int runs, const std::function<double()>& product,
-                           const std::function<double()>& floor) {
-    std::vector<double> products;
-    std::vector<double> floors;
+Medians MeasureAlternately(int runs, const std::function<double()>& menu,
+                           const std::function<double()>& bare) {
+    std::vector<double> menus;
+    std::vector<double> bares;
     std::vector<double> ratios;
-    product();
-    floor();
+    menu();
+    bare();
     for (int run = 0; run < runs; ++run) {
-        // The second of two runs may find memory and processes in another state, so they change places.
+        // The first of two runs may change memory and processes for the second, so the order changes.
         if (run % 2 == 0) {
-            products.push_back(product());
-            floors.push_back(floor());
+            menus.push_back(menu());
+            bares.push_back(bare());
         } else {
-            floors.push_back(floor());
-            products.push_back(product());
+            bares.push_back(bare());
+            menus.push_back(menu());
         }
-        ratios.push_back(products.back() / floors.back());
+        ratios.push_back(menus.back() / bares.back());
     }
-    return {Median(products), Median(floors), Median(ratios)};
+    return {Median(menus), Median(bares), Median(ratios)};
 }
 
 } // namespace obrin::bench

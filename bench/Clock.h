@@ -1,5 +1,4 @@
-// Time, and medians of runs that alternate between the product and the bare calls: what disturbs the machine
-// then hits both.
+// Measures times and compares the menu with bare calls of Windows.
 #pragma once
 
 #include "platform/WindowsApi.h"
@@ -9,24 +8,24 @@
 
 namespace obrin::bench {
 
-/// Ticks of the performance counter, which all processes share.
+/// Returns the ticks of the performance counter, which are the same in all processes.
 LONGLONG Now();
 
 double Milliseconds(LONGLONG ticks);
 
-/// How long the work takes, in milliseconds.
+/// Returns how long the work takes, in milliseconds.
 double MeasureTime(const std::function<void()>& work);
 
 double Median(std::vector<double> values);
 
 struct Medians {
-    double product, floor;
-    double ratio; ///< of neighbouring runs: the machine's speed changes from moment to moment
+    double menu, bare;
+    double ratio; ///< median of the ratios of two runs in a row
 };
 
-/// Calls both alternately, `runs` times each after one call that does not count. Each returns what it
-/// measured.
-Medians MeasureAlternately(int runs, const std::function<double()>& product,
-                           const std::function<double()>& floor);
+/// Calls two measurements `runs` times in turn, so that other work of the machine disturbs both alike. Each
+/// returns its result. The first call of each does not count.
+Medians MeasureAlternately(int runs, const std::function<double()>& menu,
+                           const std::function<double()>& bare);
 
 } // namespace obrin::bench

@@ -44,10 +44,10 @@ void WaitForEnd(const UniqueHandle& process) {
 } // namespace
 
 void WaitFor(const std::string& what, const std::function<bool()>& condition) {
-    constexpr double longest = 30'000; // milliseconds
+    constexpr double timeLimit = 30'000; // milliseconds
     for (const LONGLONG start = Now(); !condition(); Sleep(1)) {
-        if (Milliseconds(Now() - start) > longest)
-            throw std::runtime_error("waited in vain for " + what);
+        if (Milliseconds(Now() - start) > timeLimit)
+            throw std::runtime_error(what + " did not come within 30 seconds");
     }
 }
 
@@ -95,7 +95,7 @@ Installation::Installation(const char* host) {
     for (const char* program : {"ObrinMenu.exe", "Corvel.dll", "bare.exe"})
         std::filesystem::copy_file(OwnFolder() + program, program);
     std::filesystem::copy_file(OwnFolder() + host, "Fenn.exe");
-    SetEnvironmentVariableA("FENN_START_DELAY_MS", "0"); // of the demonstration's host
+    SetEnvironmentVariableA("FENN_START_DELAY_MS", "0"); // for the demonstration host
 }
 
 // --- RunningMenu ---
@@ -103,8 +103,8 @@ Installation::Installation(const char* host) {
 RunningMenu::RunningMenu(const MenuProgram& program)
     : windowClass(program.windowClass) {
     if (FindWindowA(hostWindowClass, nullptr) != nullptr)
-        throw std::runtime_error("a host is open on this desktop");
-    // With the folder's name: without it, Windows first looks beside this program.
+        throw std::runtime_error("a host is already open: close it and start again");
+    // The ".\" is necessary: for a bare name Windows searches this program's folder first.
     std::string commandLine = std::string(".\\") + program.commandLine;
     STARTUPINFOA start{};
     start.cb = sizeof start;
@@ -118,14 +118,14 @@ RunningMenu::RunningMenu(const MenuProgram& program)
 }
 
 RunningMenu::~RunningMenu() {
-    TerminateProcess(process.get(), 1); // without effect on a process that has ended
+    TerminateProcess(process.get(), 1); // does nothing if the process has ended
 }
 
 void RunningMenu::WaitUntilShown() const {
     WaitFor("the menu's window", [this] { return IsWindowVisible(Window()) != FALSE; });
 }
 
-// Thread by thread, because Wine does not report the CPU time of another process.
+// Adds up the threads, because Wine does not report the CPU time of another process.
 double RunningMenu::CpuTime() const {
     const UniqueHandle threads(CreateToolhelp32Snapshot(TH32CS_SNAPTHREAD, 0));
     THREADENTRY32 thread{};
@@ -157,7 +157,7 @@ void RunningMenu::Close() const {
         ThrowLastError("opening the host's process");
     PostMessageA(Window(), WM_CLOSE, 0, 0);
     WaitForEnd(process);
-    // A menu that shows its window has typed the host's exit command; other hosts are still open.
+    // The late host ignores the exit command, and a menu that still waits for its host sends none.
     PostMessageA(host, WM_CLOSE, 0, 0);
     WaitForEnd(hostProcess);
 }

@@ -1,4 +1,4 @@
-// A host installation in a scratch folder, and the menus that a measurement starts in it.
+// Creates a host installation in a scratch folder and runs menus in it.
 #pragma once
 
 #include "menu/frmMain.h"
@@ -13,17 +13,17 @@ namespace obrin::bench {
 
 struct Entry {
     int depth;  ///< 0 at top level
-    int parent; ///< position of the heading above it; without meaning at top level
+    int parent; ///< index of the heading above it; not used at top level
     std::string text;
 };
 
-/// The first entries of a tree whose branches hold ten headings each, with nine programs below each heading.
+/// Returns the first `count` entries of a tree. Each branch has ten headings with nine programs each.
 std::vector<Entry> MakeEntries(int count);
 
 std::string MenuFileText(const char* title, const std::vector<Entry>& entries);
 
-/// The current folder becomes an installation: three systems, a picture, and the workstation number 5 for the
-/// user who runs this. `host`, a program beside this one, becomes its host.
+/// An installation in the current folder: three systems, a picture and workstation number 5 for this user.
+/// `host` is the file name of a program in this program's folder; it becomes the host.
 class Installation {
 public:
     explicit Installation(const char* host);
@@ -33,7 +33,7 @@ private:
 };
 
 constexpr const char* demoHost = "Fenn.exe";
-constexpr const char* lateHost = "latehost.exe"; ///< sets its caption late and tells when: see LateHost.h
+constexpr const char* lateHost = "latehost.exe"; ///< sets its caption late: see LateHost.h
 
 /// A program that shows a menu.
 struct MenuProgram {
@@ -41,25 +41,25 @@ struct MenuProgram {
     const char* windowClass;
 };
 
-constexpr MenuProgram product{"ObrinMenu.exe", menuWindowClass};
-constexpr MenuProgram bare{"bare.exe UB.mnu", "ObrinBench.Bare"};
-constexpr MenuProgram bareWithAllCalls{"bare.exe UB.mnu all", "ObrinBench.Bare"};
+constexpr MenuProgram obrinMenu{"ObrinMenu.exe", menuWindowClass};
+constexpr MenuProgram bareMenu{"bare.exe UB.mnu", "ObrinBench.Bare"}; ///< see Bare.cpp
+constexpr MenuProgram bareMenuWithAllCalls{"bare.exe UB.mnu all", "ObrinBench.Bare"};
 
-/// A menu that runs in the current installation. Its process ends with this object at the latest.
+/// A menu that runs in the current installation. The destructor ends its process.
 class RunningMenu {
 public:
-    /// Starts the program. Throws an exception if a host is open: it is not ours to end.
+    /// Starts the program. Throws an exception if a host is already open.
     explicit RunningMenu(const MenuProgram& program);
     RunningMenu(const RunningMenu&) = delete;
     RunningMenu& operator=(const RunningMenu&) = delete;
     ~RunningMenu();
 
     void WaitUntilShown() const;
-    /// CPU time of all threads that still run, in milliseconds.
+    /// Returns the CPU time of all running threads in milliseconds.
     double CpuTime() const;
-    /// The most private memory up to the end of the first painting, in MB.
+    /// Waits until the window is painted and returns the peak private memory in MB.
     double PeakMemory() const;
-    /// Closes the menu and its host, and waits until both processes have ended.
+    /// Closes the menu and its host and waits until both processes have ended.
     void Close() const;
 
 private:
@@ -70,8 +70,7 @@ private:
     DWORD processId = 0;
 };
 
-/// Tries about every millisecond until `condition` holds. Throws after half a minute and names what it waited
-/// for.
+/// Tests a condition about every millisecond until it is true. Throws an error with `what` after 30 seconds.
 void WaitFor(const std::string& what, const std::function<bool()>& condition);
 
 } // namespace obrin::bench

@@ -1,5 +1,5 @@
-// A host for workstation 5 that sets its caption at a moment that the menu cannot foresee, and remembers that
-// moment and the one at which it is hidden. It takes keys and does nothing with them.
+// A host for workstation 5 that sets its caption after a random delay. It remembers when it has set the
+// caption and when the menu has hidden it. It ignores keys.
 
 #include "LateHost.h"
 
@@ -11,7 +11,7 @@ using namespace obrin::bench;
 
 constexpr UINT_PTR captionTimer = 1;
 
-LONGLONG captionSet, hidden; // ticks; 0 before
+LONGLONG captionSet, hidden; // ticks; 0 if it has not happened yet
 
 LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
@@ -25,7 +25,7 @@ LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lPar
             hidden = Now();
         return 0;
     case askCaptionTime:
-        return static_cast<LRESULT>(captionSet); // fits in the 64-bit build, and only that one is run
+        return static_cast<LRESULT>(captionSet); // needs a 64-bit build, the only one that is run
     case askHidingTime:
         return static_cast<LRESULT>(hidden);
     case WM_KEYDOWN:
@@ -51,7 +51,7 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int) {
                                       nullptr, nullptr, instance, nullptr);
     CreateWindowA(WC_STATICA, "", WS_CHILD, 0, 0, 10, 10, window, nullptr, nullptr, nullptr);
     ShowWindow(window, SW_SHOWNOACTIVATE);
-    // The delay varies, so that the caption comes at any moment between two looks of the menu.
+    // A random delay, so that the caption comes at any moment between two tests of the menu.
     const auto delay = 30 + static_cast<UINT>(Now() / 10) % 20; // milliseconds
     SetTimer(window, captionTimer, delay, nullptr);
     MSG message;

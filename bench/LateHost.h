@@ -1,10 +1,10 @@
-// What a measurement asks the late host (LateHost.cpp).
+// The messages that a measurement sends to the late host (LateHost.cpp).
 #pragma once
 
 namespace obrin::bench {
 
-/// Messages to its window. The answer is a time in ticks of the performance counter, 0 before it.
-constexpr unsigned askCaptionTime = 0x8000; ///< when it set its caption; the first message of a program's own
-constexpr unsigned askHidingTime = askCaptionTime + 1; ///< when it was hidden after that
+/// The result of each message is a time in ticks of the performance counter; 0 if it has not happened yet.
+constexpr unsigned askCaptionTime = 0x8000;            ///< WM_APP: when the host set its caption
+constexpr unsigned askHidingTime = askCaptionTime + 1; ///< when the menu hid the host after that
 
 } // namespace obrin::bench

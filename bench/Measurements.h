@@ -1,5 +1,5 @@
-// Every measurement of the benchmark. Each prints its rows, and throws when it cannot measure. The comment at
-// the top of its file says what it compares.
+// All measurements of the benchmark. Each prints its rows, or throws an exception if it cannot measure. The
+// comment at the top of its .cpp file says what it compares.
 #pragma once
 
 namespace obrin::bench {

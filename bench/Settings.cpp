@@ -1,6 +1,5 @@
-// Saving and loading a settings file, beside bare calls that write and read the same bytes as safely; and
-// opening the Properties dialog, beside the same dialog and pages from the same resource with nothing behind
-// them.
+// Compares saving and loading a settings file with bare calls that are as safe. Compares opening the
+// Properties dialog with the same dialog resources without any code.
 
 #include "Installation.h"
 #include "Measurements.h"
@@ -41,7 +40,7 @@ void SaveBare(const std::string& path, const std::string& bytes) {
     WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &count, nullptr);
     FlushFileBuffers(file);
     CloseHandle(file);
-    // Keeps the attributes and rights of the file, as the product does.
+    // Keeps the attributes and rights of the file, as the menu does.
     if (!ReplaceFileA(path.c_str(), temporary.c_str(), nullptr, 0, nullptr, nullptr))
         throw std::runtime_error("the settings file cannot be replaced");
 }
@@ -50,7 +49,6 @@ INT_PTR CALLBACK PageProcedure(HWND, UINT, WPARAM, LPARAM) {
     return FALSE;
 }
 
-// Three pages over the tab strip.
 INT_PTR CALLBACK DialogProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
     if (message == WM_COMMAND && LOWORD(wParam) == IDCANCEL)
         EndDialog(dialog, 0);
@@ -63,9 +61,9 @@ INT_PTR CALLBACK DialogProcedure(HWND dialog, UINT message, WPARAM wParam, LPARA
     return TRUE;
 }
 
-LONGLONG shown; // when the dialog had nothing more to do; 0 before
+LONGLONG shown; // ticks; 0 if the dialog is not shown yet
 
-// A modal dialog notifies its owner when it has handled all its messages: it is shown and painted then.
+// A modal dialog sends WM_ENTERIDLE to its owner when it is shown, painted and has no more messages.
 LRESULT CALLBACK OwnerProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message != WM_ENTERIDLE || shown != 0)
         return DefWindowProcA(window, message, wParam, lParam);
@@ -92,7 +90,7 @@ void MeasureSave() {
     SettingValues values;
     values.fill("1440");
     std::string bytes = FormatSettings(values);
-    // Another value each time, because the product does not write what the file holds already.
+    // Changes the value each time, because the menu does not save what the file already contains.
     const auto change = [](std::string& text) { text.back() ^= 1; };
     PrintRatio("saving a settings file", "ms",
                MeasureAlternately(

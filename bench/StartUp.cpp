@@ -1,6 +1,5 @@
-// Starts of the menu, beside starts of a bare program that awaits the same host and shows the same tree
-// (Bare.cpp): the time to the shown menu, the memory, and the files that are opened. The size of the image is
-// here too, because a start loads it from a share.
+// Compares a start of the menu with a start of the bare program (Bare.cpp): time and memory. Counts the files
+// that a start opens, and measures the size of the program file, because a start loads it from a share.
 
 #include "Installation.h"
 #include "Measurements.h"
@@ -41,9 +40,9 @@ double PeakMemory(const MenuProgram& program) {
 void MeasureStart() {
     const Installation installation(demoHost);
     constexpr int runs = 25;
-    PrintRatio("start to the shown menu, host there at once", "ms",
+    PrintRatio("start to the shown menu, with a fast host", "ms",
                MeasureAlternately(
-                   runs, [] { return StartTime(product); }, [] { return StartTime(bare); }),
+                   runs, [] { return StartTime(obrinMenu); }, [] { return StartTime(bareMenu); }),
                1.10);
 }
 
@@ -52,44 +51,44 @@ void MeasureMemory() {
     constexpr int runs = 5;
     PrintRatio("peak private memory", "MB",
                MeasureAlternately(
-                   runs, [] { return PeakMemory(product); }, [] { return PeakMemory(bare); }),
+                   runs, [] { return PeakMemory(obrinMenu); }, [] { return PeakMemory(bareMenu); }),
                1.20);
 }
 
-// Counts in Wine's own trace, which bench.sh leads into a file: each time that the menu's thread opens, lists
-// or looks for something in the installation. The shell's look for the host's program does not count.
+// Counts how often the menu's thread opens, lists or looks for files of the installation. Reads Wine's trace,
+// which bench.sh writes to a file. Does not count when the shell looks for the host's program.
 void MeasureOpens() {
     constexpr int menuFiles = 98;
     constexpr int others = 10;
     const Installation installation(demoHost); // with three menu files
     for (int i = 3; i < menuFiles; ++i)
         WriteFileBytes("S" + std::to_string(i) + ".mnu", "Title of a system^\r\n");
-    StartTime(product); // corrects the host's configuration
+    StartTime(obrinMenu); // rewrites the host's configuration, which the next start finds correct
     SetEnvironmentVariableA("WINEDEBUG", "+file");
-    StartTime(product);
+    StartTime(obrinMenu);
     SetEnvironmentVariableA("WINEDEBUG", "-all");
 
-    const std::regex look(
+    const std::regex call(
         R"((\w+):trace:file:(?:CreateFileW|GetFileAttributesW|FindFirstFileExW) L"([^"]*))");
     const std::string folder = std::filesystem::current_path().filename().string() + R"(\\)";
-    std::map<std::string, int> looks; // by thread
+    std::map<std::string, int> calls; // by thread
     std::string menuThread;
     std::ifstream trace(EnvironmentVariable("OBRIN_TRACE"));
     for (std::string line; std::getline(trace, line);) {
         std::smatch parts;
-        if (!std::regex_search(line, parts, look))
+        if (!std::regex_search(line, parts, call))
             continue;
         const std::string thread = parts[1];
-        const std::string name = parts[2]; // with two backslashes for each
+        const std::string name = parts[2]; // the trace doubles each backslash
         const bool isRelative = name.find(':') == std::string::npos;
         if ((isRelative || name.find(folder) != std::string::npos) && !name.ends_with("Fenn.exe"))
-            ++looks[thread];
+            ++calls[thread];
         if (name == "UserWSID.sys")
             menuThread = thread;
     }
     if (menuThread.empty())
-        throw std::runtime_error("no trace of the menu's files: run bench.sh");
-    PrintValue("opens and look-ups of a start with 98 menu files", "times", looks[menuThread],
+        throw std::runtime_error("the trace of the menu's files is missing: run bench.sh");
+    PrintValue("opens and look-ups of a start with 98 menu files", "times", calls[menuThread],
                menuFiles + others);
 }
 

@@ -7,11 +7,10 @@ namespace obrin::bench {
 
 void PrintHead();
 
-/// Prints a row whose target limits the ratio of the product to the bare calls. A row over its target is
-/// marked.
+/// Prints a row with the ratio of the menu to the bare calls. Marks the ratio if it is over `target`.
 void PrintRatio(const char* what, const char* unit, const Medians& medians, double target);
 
-/// Prints a row whose target limits the product's own value.
+/// Prints a row with a value of the menu. Marks the value if it is over `target`.
 void PrintValue(const char* what, const char* unit, double value, double target);
 
 } // namespace obrin::bench

@@ -1,5 +1,5 @@
-// Typing a command into the host, beside the same key messages sent by a bare loop. The late host takes the
-// keys in another process and does nothing with them, so that all that the launcher adds is seen.
+// Compares typing a command into the host with sending the same key messages in a loop. Uses the late host,
+// which ignores keys, so that only the work of the menu counts.
 
 #include "Installation.h"
 #include "Measurements.h"
@@ -14,7 +14,7 @@ namespace obrin::bench {
 void MeasureTyping() {
     constexpr int runs = 201;
     const Installation installation(lateHost);
-    const RunningMenu menu(bare); // starts the host
+    const RunningMenu menu(bareMenu); // starts the host
     menu.WaitUntilShown();
     const HWND host = FindWindowA(hostWindowClass, nullptr);
 

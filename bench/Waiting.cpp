@@ -1,5 +1,5 @@
-// The wait for the host: its share of a core, how late it notices the host's caption, and the time from the
-// caption to the shown menu beside a bare program that makes the same calls.
+// Measures the wait for the host: its CPU time and how late it notices the host's caption. Compares the time
+// from the caption to the shown menu with a bare program that makes the same calls.
 
 #include "Installation.h"
 #include "LateHost.h"
@@ -14,20 +14,19 @@ namespace obrin::bench {
 
 namespace {
 
-// Per cent of a core while the host's window is there and never gets its caption.
+// Returns the CPU time of the wait in per cent of one core, for a host that never sets its caption.
 double WaitingShare() {
-    const RunningMenu menu(product);
+    const RunningMenu menu(obrinMenu);
     WaitFor("the host's window", [] { return FindWindowA(hostWindowClass, nullptr) != nullptr; });
-    Sleep(3000); // the rest of the start, and the opening of the notice, are no waiting
+    Sleep(3000); // the rest of the start and the opening of the notice do not count
     const double before = menu.CpuTime();
-    const double watched =
-        MeasureTime([] { Sleep(10'000); }); // CPU time is counted in steps of 10 milliseconds
+    const double watched = MeasureTime([] { Sleep(10'000); }); // long, because CPU time has steps of 10 ms
     const double share = 100 * (menu.CpuTime() - before) / watched;
     menu.Close();
     return share;
 }
 
-// From the host's caption, in milliseconds.
+// Times since the host has set its caption, in milliseconds.
 struct Delays {
     double untilHidden;
     double untilShown;
@@ -60,18 +59,18 @@ void MeasureWait() {
 
     const Installation installation(lateHost);
     std::vector<double> delays(lateStarts);
-    std::ranges::generate(delays, [] { return StartWithLateHost(product).untilHidden; });
+    std::ranges::generate(delays, [] { return StartWithLateHost(obrinMenu).untilHidden; });
     std::ranges::sort(delays);
-    // The longest does not count: now and then other work of the machine delays a start.
-    PrintValue("from the host's caption to its hiding, longest but one", "ms", delays[lateStarts - 2], 35);
+    // Ignores the longest, because other work of the machine sometimes delays a start.
+    PrintValue("from the host's caption to its hiding, second longest", "ms", delays[lateStarts - 2], 35);
 }
 
 void MeasureCaption() {
     const Installation installation(lateHost);
     PrintRatio("from the host's caption to the shown menu", "ms",
                MeasureAlternately(
-                   lateStarts, [] { return StartWithLateHost(product).untilShown; },
-                   [] { return StartWithLateHost(bareWithAllCalls).untilShown; }),
+                   lateStarts, [] { return StartWithLateHost(obrinMenu).untilShown; },
+                   [] { return StartWithLateHost(bareMenuWithAllCalls).untilShown; }),
                1.25);
 }
 

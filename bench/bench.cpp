@@ -1,10 +1,10 @@
-// Measures the launcher against bare Windows calls that do the same work, and prints one table.
+// Compares the menu with bare calls of Windows that do the same work, and prints a table.
 //
-//   bench.exe              everything
-//   bench.exe typing size  these measurements only
+//   bench.exe              makes all measurements
+//   bench.exe typing size  makes only these measurements
 //
-// Ends with 0 even when a row is over its target: other programs of the machine disturb the figures. Ends
-// with 1 when something could not be measured.
+// Returns 0 even if a row is over its target, because other work of the machine disturbs the figures. Returns
+// 1 if a measurement failed.
 
 #include "Measurements.h"
 #include "Table.h"
