@@ -6,7 +6,7 @@
 #include <algorithm>
 
 static std::string Rewrite(std::string_view configuration) {
-    return obrin::WithDriveLine("C:\\HOST", obrin::BlankDriveLines(configuration, UpperCase));
+    return obrin::AddDriveLine("C:\\HOST", obrin::BlankDriveLines(configuration, UpperCase));
 }
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -17,7 +17,7 @@ static void RequireToSurviveSaving(std::string_view file) {
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const auto text = Text(data, size);
-    const int margin = obrin::MarginOf(text);
+    const int margin = obrin::ParseMargin(text);
     Require(margin >= obrin::smallestMargin);
     Require(margin <= obrin::largestMargin);
     try {

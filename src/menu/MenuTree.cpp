@@ -56,7 +56,8 @@ void MenuTree::Fill(std::vector<MenuEntry> entries) {
             insertion.hParent = items[static_cast<std::size_t>(nodes[i].parent)];
             insertion.item.pszText = nodes[i].text.data();
             insertion.item.lParam = static_cast<LPARAM>(i);
-            items[i + 1] = reinterpret_cast<HTREEITEM>(OwnAnswer(TVM_INSERTITEMA, 0, reinterpret_cast<LPARAM>(&insertion)));
+            items[i + 1] = reinterpret_cast<HTREEITEM>(
+                CallOriginal(TVM_INSERTITEMA, 0, reinterpret_cast<LPARAM>(&insertion)));
             if (items[i + 1] == nullptr)
                 throw RunTimeError(ERROR_NOT_ENOUGH_MEMORY, "Adding " + nodes[i].text + " to the tree");
         }

@@ -25,12 +25,12 @@ TEST(PaddedDecimal, HasAtLeastThatManyDigits) {
     EXPECT_EQ(PaddedDecimal(std::numeric_limits<int>::min(), 2), "-2147483648");
 }
 
-TEST(ShortestThousandths, HasNoUnneededZeros) {
-    EXPECT_EQ(ShortestThousandths(500), "0.5");
-    EXPECT_EQ(ShortestThousandths(1250), "1.25");
-    EXPECT_EQ(ShortestThousandths(1005), "1.005");
-    EXPECT_EQ(ShortestThousandths(10'000), "10");
-    EXPECT_EQ(ShortestThousandths(0), "0");
+TEST(FormatThousandths, HasNoUnneededZeros) {
+    EXPECT_EQ(FormatThousandths(500), "0.5");
+    EXPECT_EQ(FormatThousandths(1250), "1.25");
+    EXPECT_EQ(FormatThousandths(1005), "1.005");
+    EXPECT_EQ(FormatThousandths(10'000), "10");
+    EXPECT_EQ(FormatThousandths(0), "0");
 }
 
 TEST(ParseNumber, ReadsADecimalNumberWithBlanksAroundIt) {

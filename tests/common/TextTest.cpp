@@ -57,13 +57,13 @@ TEST(TrimBlanks, KeepsOtherWhiteSpace) {
     EXPECT_EQ(TrimBlanks("\ta\r\n"), "\ta\r\n");
 }
 
-TEST(WithoutAccessKeyMarks, IsTheCaptionAsItIsShown) {
-    EXPECT_EQ(WithoutAccessKeyMarks("A&bout Obrin"), "About Obrin");
-    EXPECT_EQ(WithoutAccessKeyMarks("Billing && Payroll&"), "Billing & Payroll");
+TEST(RemoveAccessKeyMarks, IsTheCaptionAsItIsShown) {
+    EXPECT_EQ(RemoveAccessKeyMarks("A&bout Obrin"), "About Obrin");
+    EXPECT_EQ(RemoveAccessKeyMarks("Billing && Payroll&"), "Billing & Payroll");
 }
 
-TEST(WithAmpersandsDoubled, IsShownWithoutAccessKeys) {
-    EXPECT_EQ(WithAmpersandsDoubled("&Billing & Payroll"), "&&Billing && Payroll");
+TEST(DoubleAmpersands, IsShownWithoutAccessKeys) {
+    EXPECT_EQ(DoubleAmpersands("&Billing & Payroll"), "&&Billing && Payroll");
 }
 
 TEST(EnsureTrailingBackslash, AppendsAMissingBackslash) {

@@ -141,9 +141,9 @@ TEST(MenuDefinition, FileWithoutAHeaderIsAFault) {
     EXPECT_EQ(FaultsOf(""), (Faults{{1, Kind::NoHeader}}));
 }
 
-TEST(RefuseFaults, ThrowsTheFirstFaultWithFileNameAndLine) {
+TEST(ThrowFirstFault, ThrowsTheFirstFaultWithFileNameAndLine) {
     try {
-        RefuseFaults(ParseMenuDefinition("T\r\n>A^K\r\n>B^K\r\n", IsLeadByte), "UB.mnu");
+        ThrowFirstFault(ParseMenuDefinition("T\r\n>A^K\r\n>B^K\r\n", IsLeadByte), "UB.mnu");
         FAIL() << "nothing was thrown";
     } catch (const RunTimeError& error) {
         EXPECT_EQ(error.Code(), static_cast<std::uint32_t>(PlatformError::InvalidData));
@@ -151,8 +151,8 @@ TEST(RefuseFaults, ThrowsTheFirstFaultWithFileNameAndLine) {
     }
 }
 
-TEST(RefuseFaults, AcceptsAFileWithoutFaults) {
-    EXPECT_NO_THROW(RefuseFaults(ParseMenuDefinition("T\r\nA^K\r\n", IsLeadByte), "UB.mnu"));
+TEST(ThrowFirstFault, AcceptsAFileWithoutFaults) {
+    EXPECT_NO_THROW(ThrowFirstFault(ParseMenuDefinition("T\r\nA^K\r\n", IsLeadByte), "UB.mnu"));
 }
 
 } // namespace

@@ -28,13 +28,13 @@ TEST(BlankDriveLines, EndsEveryLineInCrLf) {
     EXPECT_EQ(Blanked("a\nb\rc"), "a\r\nb\r\nc\r\n");
 }
 
-TEST(WithDriveLine, PutsTheDriveLineFirst) {
-    EXPECT_EQ(WithDriveLine("C:\\APPS\\HOST", "Files 1\r\n"), "Drive S,C:\\APPS\\HOST,X,\\\r\nFiles 1\r\n");
-    EXPECT_EQ(WithDriveLine("", ""), "Drive S,,X,\\\r\n") << "also of an unknown folder";
+TEST(AddDriveLine, PutsTheDriveLineFirst) {
+    EXPECT_EQ(AddDriveLine("C:\\APPS\\HOST", "Files 1\r\n"), "Drive S,C:\\APPS\\HOST,X,\\\r\nFiles 1\r\n");
+    EXPECT_EQ(AddDriveLine("", ""), "Drive S,,X,\\\r\n") << "also of an unknown folder";
 }
 
-TEST(WithDriveLine, DropsOnlyBlankLines) {
-    EXPECT_EQ(WithDriveLine("C:\\HOST", "\r\n a \r\n  \r\n\t\r\n\r\n"),
+TEST(AddDriveLine, DropsOnlyBlankLines) {
+    EXPECT_EQ(AddDriveLine("C:\\HOST", "\r\n a \r\n  \r\n\t\r\n\r\n"),
               "Drive S,C:\\HOST,X,\\\r\n a \r\n\t\r\n");
 }
 

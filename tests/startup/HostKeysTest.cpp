@@ -43,12 +43,12 @@ TEST(HostKeyCodes, LoneLfIsItsOwnCode) {
     EXPECT_EQ(CodesOf("\na\nb"), (Codes{10, 'A', 10, 'B'}));
 }
 
-TEST(LoadAndRun, IsTwoLines) {
-    EXPECT_EQ(LoadAndRun("Core\\Programs\\CSBackup"), "Load Core\\Programs\\CSBackup\rRun\r");
+TEST(LoadAndRunCommand, IsTwoLines) {
+    EXPECT_EQ(LoadAndRunCommand("Core\\Programs\\CSBackup"), "Load Core\\Programs\\CSBackup\rRun\r");
 }
 
-TEST(StartSystem, AnswersTheStartProgramWithTheSystemCode) {
-    EXPECT_EQ(StartSystem("UB"), "Load Core\\StartSys\rRun\rUB\r");
+TEST(StartSystemCommand, AnswersTheStartProgramWithTheSystemCode) {
+    EXPECT_EQ(StartSystemCommand("UB"), "Load Core\\StartSys\rRun\rUB\r");
 }
 
 TEST(HostStartArguments, HaveThePlainNumber) {
