@@ -71,7 +71,7 @@ progress_in() {
     -e 's|^ *([0-9]+)/([0-9]+) Test +#.*|\1 of \2|p' \
     -e 's|^dlstatus:[^:]*:([0-9]+).*|\1 % downloaded|p' \
     -e 's|^pmstatus:[^:]*:([0-9]+).*|\1 % installed|p' "$1" | tail -n 1)
-  failures=$(grep -c -E '^ *[0-9]+/[0-9]+ Test +#.*\*\*\*' "$1")
+  failures=$(grep -c -E '^ *[0-9]+/[0-9]+ Test +#.*[*]{3}(Failed|Timeout|Exception|Not Run)' "$1")
   ((failures == 0)) || progress+=", $failures failed"
   echo "$progress"
 }
