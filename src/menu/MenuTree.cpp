@@ -46,8 +46,7 @@ void MenuTree::Fill(std::vector<MenuEntry> entries) {
     TVINSERTSTRUCTA insertion{};
     insertion.hInsertAfter = TVI_LAST;
     insertion.item.mask = TVIF_TEXT | TVIF_PARAM;
-    // Level by level: some versions of the tree view look for a parent in the order in which their nodes
-    // came, and take twice as long for thousands of nodes in the order of the file.
+    // Inserts level by level: some tree views need twice as long to insert in the order of the file.
     for (std::size_t depth = 0, inserted = 0; inserted < nodes.size(); ++depth) {
         for (std::size_t i = 0; i < nodes.size(); ++i) {
             if (nodes[i].depth != depth)
