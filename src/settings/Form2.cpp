@@ -237,8 +237,8 @@ void Form2::WriteMarginText(std::size_t index) {
     DWORD caret = 0;
     SendMessageA(box, EM_GETSEL, 0, reinterpret_cast<LPARAM>(&caret));
     SetWindowTextA(box, text.c_str()); // moves the caret to the start
-    if (const std::size_t kept = CaretAfterChange(before, caret, text); kept != 0)
-        SendMessageA(box, EM_SETSEL, kept, static_cast<LPARAM>(kept));
+    if (const std::size_t position = CaretAfterChange(before, caret, text); position != 0)
+        SendMessageA(box, EM_SETSEL, position, static_cast<LPARAM>(position));
 }
 
 // sldMargin_Change sets the text of the box, which calls this handler again. The slider then has that value.
@@ -288,7 +288,7 @@ void Form2::LoadSettings() {
             ShowValue(i, *loadedValues[i]);
         else if (const auto margin = IndexInArray(settings[i].control, IDC_SLD_MARGIN);
                  margin < sldMargin.size())
-            sldMargin_Change(margin);
+            sldMargin_Change(margin); // the file has no such margin: the box shows the slider's value
     }
 }
 

@@ -51,7 +51,7 @@ private:
     void WriteMarginText(std::size_t index);
 
     const SupportLibrary& corvel;
-    const std::string& treeTag;
+    const std::string& treeTag; // the program key in the tag of TreeView1
     std::string IniPath;
     std::string rememberedOrientation; // the text when the list was last opened
     LoadedSettings loadedValues;

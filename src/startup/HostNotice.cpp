@@ -57,7 +57,7 @@ void HostNotice::Form_Load() {
     if (startError != 0)
         SetWindowTextA(Control(IDC_REASON),
                        (program + " could not be started: " + PlatformText(startError, program)).c_str());
-    constexpr LPARAM step = 500; // milliseconds; faster progress would use more processor time than the wait
+    constexpr LPARAM step = 500; // milliseconds; a faster bar would use more processor time than the wait
     SendMessageA(Control(IDC_PROGRESS), PBM_SETMARQUEE, TRUE, step);
 }
 
