@@ -28,8 +28,7 @@ void LoadBare(const std::string& path) {
     CloseHandle(file);
 }
 
-// Looks for the folders and reads the file first, as the product does: it creates missing folders, and writes
-// nothing when the file holds these bytes already.
+// Looks for the folders and reads the file first, as the menu does.
 void SaveBare(const std::string& path, const std::string& bytes) {
     for (const char* folder : {"Ini", "Ini\\Core", "Ini\\Core\\Programs"})
         GetFileAttributesA(folder);
