@@ -283,6 +283,8 @@ void frmMain::Form_Unload() {
     // again: the inner call sends the remaining keys and completes the close.
     const bool isInner = std::exchange(unloading, true);
     hostLink.SendHostCommand(isInner ? "" : "Run Core\\Exit\r");
+    if (!IsWindow(window))
+        return; // the inner call has done the rest
     if (!currentSystem.empty())
         corvel->SetRegValue(HKEY_LOCAL_MACHINE, menuRegistryKey, lastSystemValue, currentSystem);
     DeleteFileA(MarkerFileName(wsid).c_str());

@@ -139,10 +139,11 @@ std::string ReadFileBytes(const std::string& path) {
 std::optional<std::string> ReadFileIfThere(const std::string& path) {
     try {
         return ReadFileBytes(path);
-    } catch (const RunTimeError&) {
-        if (FileExists(path))
-            throw;
-        return std::nullopt;
+    } catch (const RunTimeError& error) {
+        // A file that was missing may be there by now.
+        if (error.Code() == ERROR_FILE_NOT_FOUND || !FileExists(path))
+            return std::nullopt;
+        throw;
     }
 }
 

@@ -68,7 +68,9 @@ void WriteInPlace(const std::string& path, std::string_view bytes, const std::op
         File file(path, File::Use::Write);
         WriteAndFlush(file, bytes);
     } catch (const RunTimeError& error) {
-        const bool isUnchanged = TryReadFile(path) == current; // for example, the user may not write
+        // For example, when the user may not write.
+        const bool isUnchanged = current ? TryReadFile(path) == current
+                                         : GetFileAttributesA(path.c_str()) == INVALID_FILE_ATTRIBUTES;
         if (isUnchanged || temporary.empty())
             DeleteFileA(temporary.c_str());
         else

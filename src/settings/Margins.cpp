@@ -31,7 +31,8 @@ std::optional<int> ParseTypedMargin(std::string_view text) {
 
 bool EqualsMargin(std::string_view text, int margin) {
     // For equal decimal numbers both sides are the same double, because each is the nearest one.
-    return LeadingNumber(text) == margin / perInch;
+    const double inches = std::min(LeadingNumber(text), largestMargin / perInch);
+    return inches == margin / perInch;
 }
 
 std::size_t CaretAfterChange(std::string_view before, std::size_t caret, std::string_view after) {

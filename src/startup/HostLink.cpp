@@ -14,7 +14,7 @@ HWND FirstChild(HWND station) {
     return station == nullptr ? nullptr : FindWindowExA(station, nullptr, nullptr, nullptr);
 }
 
-// Tells Windows why the end of the session must wait.
+// Tells Windows why the end of the session must wait. A nested command ends this early: nothing follows it.
 class ShutdownBlock {
 public:
     explicit ShutdownBlock(HWND aWindow)
@@ -56,6 +56,8 @@ void HostLink::StartHost(HWND menuWindow, std::int16_t wsid, const std::function
     const ULONGLONG start = GetTickCount64();
     WaitUntil(menu, [&] { return IsWindowVisible(station) || GetTickCount64() - start >= timeLimit; });
     ShowWindow(station, SW_HIDE);
+    if (const HWND child = FirstChild(station)) // the host may have put another child in front by now
+        hostCommandWindow = child;
 }
 
 bool HostLink::WaitWithNotice(const std::function<bool()>& condition) {

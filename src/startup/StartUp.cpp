@@ -16,6 +16,18 @@ namespace obrin {
 
 namespace {
 
+// Looks again for a moment: while another workstation replaces the file, no file has its name.
+std::optional<std::string> ReadHostConfiguration() {
+    constexpr int mostTries = 5;
+    constexpr DWORD pause = 25; // milliseconds
+    std::optional<std::string> current = ReadFileIfThere(hostConfigurationFile);
+    for (int tries = 1; !current && tries < mostTries; ++tries) {
+        Sleep(pause);
+        current = ReadFileIfThere(hostConfigurationFile);
+    }
+    return current;
+}
+
 void RewriteHostConfiguration(std::string current) {
     const std::string blanked = BlankDriveLines(current, UpperCase);
     WriteFileBytes(temporaryConfigurationFile, blanked);
@@ -66,7 +78,7 @@ void ActivateLoadingMenu(HWND menu) {
 } // namespace
 
 void Main(const MenuWindow& menu) {
-    std::optional<std::string> current = ReadFileIfThere(hostConfigurationFile);
+    std::optional<std::string> current = ReadHostConfiguration();
     if (!current) {
         MessageBoxA(nullptr, "Config File Not found!", "Error!", MB_OK);
         return;

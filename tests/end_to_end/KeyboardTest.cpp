@@ -17,6 +17,13 @@ protected:
         EXPECT_TRUE(KeepsForeground(launcher.Menu()));
     }
 
+    static bool HasFocus(HWND control) {
+        GUITHREADINFO thread{};
+        thread.cbSize = sizeof thread;
+        GetGUIThreadInfo(GetWindowThreadProcessId(control, nullptr), &thread);
+        return thread.hwndFocus == control;
+    }
+
     void ExpectBackupRun() {
         typed.insert(typed.end(), {"LOAD CORE\\PROGRAMS\\CSBACKUP", "RUN"});
         EXPECT_TRUE(installation.HostTypes(typed));
@@ -77,6 +84,7 @@ TEST_F(Keyboard, EnterHeldInTheTreeRunsOnce) {
 
 TEST_F(Keyboard, EnterHeldOnTheButtonRunsOnce) {
     PressKey(VK_TAB);
+    EXPECT_TRUE(Eventually([&] { return HasFocus(button); }));
     HoldKey(button, VK_RETURN, 3);
     ExpectBackupRun();
     ExpectNothingRun();

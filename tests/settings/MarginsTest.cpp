@@ -42,6 +42,11 @@ TEST(EqualsMargin, IsTrueForEveryWayOfWritingTheMargin) {
         EXPECT_TRUE(EqualsMargin(text, 350)) << text;
 }
 
+TEST(EqualsMargin, TakesANumberBeyondTheLargestMarginForThatOne) {
+    EXPECT_TRUE(EqualsMargin("5", largestMargin));
+    EXPECT_FALSE(EqualsMargin("5", 3990));
+}
+
 TEST(EqualsMargin, IsFalseForANumberThatIsOnlyNear) {
     EXPECT_FALSE(EqualsMargin("2.0501", 2050));
 }
