@@ -1,11 +1,11 @@
 #include "Fuzz.h"
 
-#include "checker/FileChecks.h"
+#include "checker/OtherFileRules.h"
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const auto file = Text(data, size);
-    obrin::CheckUserRecords(file, IsLeadByte);
-    obrin::CheckUpdateRegister(file);
-    obrin::CheckSupportLibrary(file, file);
+    obrin::CheckUserRecords("", file, "anna", IsLeadByte);
+    obrin::CheckUpdateRegister("", file);
+    obrin::ImageMachine(file);
     return 0;
 }

@@ -1,7 +1,7 @@
 // Proves that every menu file gives a tree, and that menu and checker refuse the same files.
 #include "Fuzz.h"
 
-#include "checker/MenuCheck.h"
+#include "checker/MenuFileRules.h"
 #include "menu/MenuDefinition.h"
 
 #include <algorithm>
@@ -16,11 +16,14 @@ static void RequireTree(const std::vector<obrin::MenuEntry>& entries) {
 }
 
 static void RequireSameVerdict(std::string_view file, const obrin::MenuDefinition& definition) {
-    const auto check = obrin::CheckMenuFile(file, {.isLeadByte = IsLeadByte}, {.keys = true, .tree = true});
-    Require(definition.faults.empty() != obrin::HasErrors(check.findings));
-    // One line for each finding, whatever the file holds.
-    const std::string report = obrin::Report(check.findings);
-    Require(static_cast<std::size_t>(std::ranges::count(report, '\n')) == check.findings.size());
+    const auto findings = obrin::CheckMenuFile("F", file, definition, {.isLeadByte = IsLeadByte});
+    Require(definition.faults.empty() != obrin::HasErrors(findings));
+    // One line for each finding and each entry, whatever the file holds.
+    const auto lines = [](const std::string& text) {
+        return static_cast<std::size_t>(std::ranges::count(text, '\n'));
+    };
+    Require(lines(obrin::Report(findings)) == findings.size());
+    Require(lines(obrin::MenuTreeText(definition, IsLeadByte)) == definition.entries.size() + 1);
 }
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -1,174 +1,141 @@
 // ObrinCheck: says what is wrong with an installation before its operators find out.
 
-#include "checker/InstallationCheck.h"
+#include "checker/Console.h"
+#include "checker/PathChecks.h"
 #include "platform/Failure.h"
-#include "platform/Handle.h"
+#include "platform/Folder.h"
+#include "platform/Workstation.h"
+#include "version.h"
 
-#include <chrono>
-#include <exception>
-#include <future>
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
+
+namespace obrin {
 
 namespace {
 
 constexpr int errorsFound = 1;
 constexpr int notChecked = 2;
 
+constexpr const char* nameAndVersion = "ObrinCheck " OBRIN_VERSION_TEXT;
+
 constexpr std::string_view usage =
     "usage: ObrinCheck [--tree] [FOLDER | FILE.mnu]...\r\n"
-    "Says what is wrong with installations of the Obrin menu or with single menu files; without any, with "
-    "the\r\n"
-    "installation in the current folder. No file is changed.\r\n"
-    "  --tree  first shows each system as an indented tree, with the programs' keys in brackets\r\n"
-    "  --help  shows this text\r\n"
+    "Says what is wrong with installations of the Obrin menu or with single menu files (*.mnu for all of "
+    "a\r\n"
+    "folder); without any, with the installation in the current folder. No file is changed.\r\n"
+    "  --tree     first shows each system as an indented tree, with line numbers, and keys in brackets\r\n"
+    "  --help     shows this text\r\n"
+    "  --version  shows the version\r\n"
     "A line for each finding, in the order of files and lines:\r\n"
-    "  FILE:LINE: error: TEXT    ends the menu, for some operators at least\r\n"
-    "  FILE:LINE: warning: TEXT  does not unless the text says so, but is hardly what was meant\r\n"
+    "  FILE:LINE: error: PROBLEM: CONSEQUENCE; REMEDY    stops the menu, for some operators at least\r\n"
+    "  FILE:LINE: warning: PROBLEM: CONSEQUENCE; REMEDY  does not, unless the consequence says so\r\n"
     "What is about a file or folder as a whole has no LINE. The last line counts the findings.\r\n"
     "Whether files can be read and written is told for the user who runs this: run it as an operator. The\r\n"
-    "settings of programs are checked where the variable TesselTemp leads to them.\r\n"
-    "Exit code: 0 nothing or warnings only, 1 errors, 2 wrong arguments or nothing there to check.\r\n";
+    "variables Tessel and TesselTemp are those of this workstation.\r\n"
+    "Exit code: 0 nothing or warnings only, 1 errors, 2 wrong arguments or a path that cannot be "
+    "checked.\r\n";
 
-// Standard output or standard error: a console shows every character; a pipe gets bytes as the programs of a
-// console read them, a file the code page's.
-class Stream {
-public:
-    explicit Stream(DWORD which)
-        : handle(GetStdHandle(which)) {
-        DWORD mode = 0;
-        isConsole = GetConsoleMode(handle, &mode) != FALSE;
-        if (GetFileType(handle) == FILE_TYPE_PIPE)
-            pipeCodePage = GetConsoleOutputCP();
-    }
+struct Arguments {
+    bool tree = false;
+    bool help = false;
+    bool version = false;
+    std::string wrong; // the first argument that is neither an option nor a path
+    std::vector<std::string> paths;
+};
 
-    bool IsConsole() const { return isConsole; }
-
-    /// Whether the text arrives is not examined: there is nobody else to tell.
-    void Write(std::string_view text) const {
-        if (isConsole)
-            WriteCharacters(Wide(text));
-        else
-            WriteBytes(pipeCodePage != 0 ? Narrow(Wide(text), pipeCodePage) : std::string(text));
-    }
-
-private:
-    static std::wstring Wide(std::string_view text) {
-        std::wstring wide(text.size(), L'\0');
-        wide.resize(static_cast<std::size_t>(MultiByteToWideChar(CP_ACP, 0, text.data(),
-                                                                 static_cast<int>(text.size()), wide.data(),
-                                                                 static_cast<int>(wide.size()))));
-        return wide;
-    }
-
-    static std::string Narrow(std::wstring_view wide, UINT codePage) {
-        std::string text(4 * wide.size(), '\0'); // more than any code page makes of a character
-        text.resize(static_cast<std::size_t>(
-            WideCharToMultiByte(codePage, 0, wide.data(), static_cast<int>(wide.size()), text.data(),
-                                static_cast<int>(text.size()), nullptr, nullptr)));
-        return text;
-    }
-
-    void WriteCharacters(std::wstring_view wide) const {
-        constexpr std::size_t most = 8192; // of which every console takes that many at once
-        for (std::size_t place = 0; place < wide.size(); place += most) {
-            const auto part = wide.substr(place, most);
-            DWORD done = 0;
-            WriteConsoleW(handle, part.data(), static_cast<DWORD>(part.size()), &done, nullptr);
+// A quotation mark begins or ends a quotation also behind a "\\": no path holds one, but many that are quoted
+// end in "\\".
+std::vector<std::string> Split(std::string_view commandLine) {
+    std::vector<std::string> parts;
+    bool inPart = false, quoted = false;
+    for (const char character : commandLine) {
+        if (character == '"')
+            quoted = !quoted;
+        const bool isBlank = character == ' ' || character == '\t';
+        if (isBlank && !quoted) {
+            inPart = false;
+            continue;
         }
+        if (!inPart)
+            parts.emplace_back();
+        inPart = true;
+        if (character != '"')
+            parts.back() += character;
     }
-
-    void WriteBytes(std::string_view text) const {
-        DWORD done = 0;
-        while (!text.empty() &&
-               WriteFile(handle, text.data(), static_cast<DWORD>(text.size()), &done, nullptr))
-            text.remove_prefix(done);
-    }
-
-    HANDLE handle;
-    bool isConsole;
-    UINT pipeCodePage = 0; // none without a pipe, or without a console
-};
-
-// A line that is written over, for somebody who waits at a console.
-class ProgressLine {
-public:
-    ProgressLine() = default;
-    ProgressLine(const ProgressLine&) = delete;
-    ProgressLine& operator=(const ProgressLine&) = delete;
-    ~ProgressLine() {
-        if (shown)
-            console.Write("\r" + std::string(width, ' ') + "\r");
-    }
-
-    void Show(std::size_t done, std::size_t all) {
-        if (!console.IsConsole())
-            return;
-        std::string text =
-            all == 0 ? "Looking at the installation"
-                     : "Checked " + std::to_string(done) + " of " + std::to_string(all) + " menu files";
-        text.resize(width, ' ');
-        console.Write("\r" + text);
-        shown = true;
-    }
-
-private:
-    static constexpr std::size_t width = 60;
-    Stream console{STD_ERROR_HANDLE};
-    bool shown = false;
-};
-
-obrin::CheckResult CheckWithProgress(const std::vector<std::string>& paths, bool withTrees) {
-    obrin::CheckProgress progress;
-    auto check =
-        std::async(std::launch::async, [&] { return obrin::CheckPaths(paths, withTrees, progress); });
-    ProgressLine line;
-    while (check.wait_for(std::chrono::seconds(1)) == std::future_status::timeout)
-        line.Show(progress.done, progress.all);
-    return check.get();
+    return parts;
 }
 
-int Run(std::span<char*> arguments) {
+Arguments ParseCommandLine(std::string_view commandLine) {
+    Arguments arguments;
+    const auto parts = Split(commandLine);
+    for (std::size_t i = 1; i < parts.size(); ++i) { // the first is the program
+        const std::string& part = parts[i];
+        if (part == "--tree")
+            arguments.tree = true;
+        else if (part == "--help" || part == "/?")
+            arguments.help = true;
+        else if (part == "--version")
+            arguments.version = true;
+        else if (!part.empty() && part.front() != '-')
+            arguments.paths.push_back(part);
+        else if (arguments.wrong.empty())
+            arguments.wrong = '"' + part + '"';
+    }
+    return arguments;
+}
+
+int Check(const Arguments& arguments, const Stream& output, const Stream& complaints) {
+    const auto paths = arguments.paths.empty() ? std::vector<std::string>(1) : arguments.paths;
+    CheckResult result;
+    {
+        ProgressLine line;
+        result = CheckPaths(paths, arguments.tree,
+                            [&](std::size_t done, std::size_t all) { line.Show(done, all); });
+    }
+    output.Write(result.trees);
+    output.Write(Report(result.findings));
+    for (const std::string& failure : result.failures)
+        complaints.Write("ObrinCheck: " + failure + "\r\n");
+    const std::string where = FullPath(paths.size() == 1 && !paths[0].empty() ? paths[0] : ".");
+    output.Write(Summary(result.findings, result.menuFiles,
+                         where + ", user " + LoginName() + ", code page " + std::to_string(GetACP()) + ", " +
+                             nameAndVersion));
+    return !result.failures.empty() ? notChecked : HasErrors(result.findings) ? errorsFound : 0;
+}
+
+int Run() {
     const Stream output(STD_OUTPUT_HANDLE);
     const Stream complaints(STD_ERROR_HANDLE);
-    bool withTrees = false;
-    std::vector<std::string> paths;
-    for (const std::string argument : arguments) {
-        if (argument == "--tree") {
-            withTrees = true;
-        } else if (argument == "--help" || argument == "/?") {
-            output.Write(usage);
-            return 0;
-        } else if (argument.empty() || argument.front() == '-') {
-            complaints.Write(usage);
-            return notChecked;
-        } else {
-            paths.push_back(argument);
-        }
-    }
-    if (paths.empty())
-        paths.emplace_back(); // the current folder
+    int exitCode = notChecked;
     try {
-        const auto [findings, trees, menuFiles] = CheckWithProgress(paths, withTrees);
-        output.Write(trees);
-        output.Write(obrin::Report(findings));
-        output.Write(obrin::Summary(findings, menuFiles));
-        return obrin::HasErrors(findings) ? errorsFound : 0;
-    } catch (const obrin::RunTimeError& error) {
-        complaints.Write(std::string("ObrinCheck: ") + error.what() + ": " +
-                         obrin::PlatformText(error.Code()) + "\r\n");
+        const Arguments arguments = ParseCommandLine(GetCommandLineA());
+        if (!arguments.wrong.empty()) {
+            complaints.Write("ObrinCheck: " + OneLine(arguments.wrong) +
+                             " is neither an option nor a path; --help shows the options\r\n");
+        } else if (arguments.help || arguments.version) {
+            output.Write(arguments.help ? usage : std::string(nameAndVersion) + "\r\n");
+            exitCode = 0;
+        } else {
+            exitCode = Check(arguments, output, complaints);
+        }
+    } catch (const RunTimeError& error) {
+        complaints.Write(std::string("ObrinCheck: ") + error.what() + ": " + PlatformText(error.Code()) +
+                         "\r\n");
     } catch (const std::exception& error) {
         complaints.Write(std::string("ObrinCheck: ") + error.what() + "\r\n");
     }
-    return notChecked;
+    KeepOwnConsoleOpen(output);
+    return exitCode;
 }
 
 } // namespace
 
-int main(int count, char** arguments) {
+} // namespace obrin
+
+int main() {
     // As the menu: nothing is loaded from the shared folder.
     SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
-    return Run(std::span(arguments, static_cast<std::size_t>(count)).subspan(1));
+    return obrin::Run();
 }

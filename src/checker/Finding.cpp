@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <tuple>
+#include <utility>
 
 namespace obrin {
 
@@ -11,42 +12,70 @@ std::string Count(std::size_t number, const char* what) {
     return std::to_string(number) + ' ' + what + (number == 1 ? "" : "s");
 }
 
-std::size_t CountOf(Finding::Kind kind, const std::vector<Finding>& findings) {
-    return static_cast<std::size_t>(std::ranges::count(findings, kind, &Finding::kind));
+const char* WordsFor(Effect effect) {
+    switch (effect) {
+    case Effect::EndsEveryStart:
+        return "the menu ends with an error at every start";
+    case Effect::EndsShownSystem:
+        return "the menu ends with an error when it shows this system";
+    case Effect::EndsProgramRun:
+        return "the menu ends with an error when an operator runs a program";
+    case Effect::EndsProperties:
+        return "the Properties dialog ends the menu with an error";
+    case Effect::WaitsForEver:
+        return "the menu waits for ever";
+    case Effect::None:
+    case Effect::FailsForOthers:
+        break;
+    }
+    return "";
 }
 
 } // namespace
 
-std::string Report(std::vector<Finding> findings) {
-    std::ranges::stable_sort(findings, {},
-                             [](const Finding& finding) { return std::tie(finding.file, finding.line); });
+void Add(Findings& findings, Effect effect, Place place, Trouble trouble, std::string consequence) {
+    findings.push_back({effect, std::move(place), std::move(trouble), std::move(consequence)});
+}
+
+bool IsError(const Finding& finding) {
+    return finding.effect != Effect::None && finding.effect != Effect::EndsProperties;
+}
+
+bool HasErrors(const Findings& findings) {
+    return std::ranges::any_of(findings, IsError);
+}
+
+std::string Report(Findings findings) {
+    std::ranges::stable_sort(findings, {}, [](const Finding& finding) {
+        return std::tie(finding.place.file, finding.place.line);
+    });
     std::string report;
-    for (const auto& [kind, line, text, file] : findings) {
-        report += file;
-        if (line != 0)
-            report += ':' + std::to_string(line);
-        report.append(kind == Finding::Kind::Error ? ": error: " : ": warning: ").append(text).append("\r\n");
+    for (const Finding& finding : findings) {
+        const auto& [effect, place, trouble, consequence] = finding;
+        report += OneLine(place.file + (place.line == 0 ? "" : ':' + std::to_string(place.line)) +
+                          (IsError(finding) ? ": error: " : ": warning: ") + trouble.problem + ": " +
+                          (consequence.empty() ? WordsFor(effect) : consequence) + "; " + trouble.remedy) +
+                  "\r\n";
     }
     return report;
 }
 
-std::string Summary(const std::vector<Finding>& findings, std::size_t menuFiles) {
-    return Count(CountOf(Finding::Kind::Error, findings), "error") + ", " +
-           Count(CountOf(Finding::Kind::Warning, findings), "warning") + " in " +
-           Count(menuFiles, "menu file") + "\r\n";
+std::string Summary(const Findings& findings, std::size_t menuFiles, std::string_view details) {
+    const auto errors = static_cast<std::size_t>(std::ranges::count_if(findings, IsError));
+    return Count(errors, "error") + ", " + Count(findings.size() - errors, "warning") + " in " +
+           Count(menuFiles, "menu file") + " (" + OneLine(std::string(details)) + ")\r\n";
 }
 
-bool HasErrors(const std::vector<Finding>& findings) {
-    return CountOf(Finding::Kind::Error, findings) > 0;
-}
-
-std::string Shown(std::string_view text, LeadByteTest isLeadByte) {
-    constexpr std::size_t most = 200; // characters
-    const auto start = FirstCharacters(text, most, isLeadByte);
-    std::string shown(start);
+std::string OneLine(std::string text) {
     std::ranges::replace_if(
-        shown, [](char byte) { return (byte >= 0 && byte < ' ') || byte == '\x7F'; }, '?');
-    return start.size() < text.size() ? shown + "..." : shown;
+        text, [](char byte) { return (byte >= 0 && byte < ' ') || byte == '\x7F'; }, '?');
+    return text;
+}
+
+std::string Quoted(std::string_view text, LeadByteTest isLeadByte) {
+    constexpr std::size_t most = 200;
+    const auto start = FirstCharacters(text, most, isLeadByte);
+    return std::string(start) + (start.size() < text.size() ? "..." : "");
 }
 
 } // namespace obrin

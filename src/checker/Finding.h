@@ -1,4 +1,4 @@
-// What the checker has to say, and the words it says it in.
+// A finding of the checker, and the words in which it is reported.
 #pragma once
 
 #include "common/Text.h"
@@ -9,27 +9,52 @@
 
 namespace obrin {
 
-struct Finding {
-    enum class Kind {
-        Error,   ///< ends the menu, at some workstation at least
-        Warning, ///< does not, but is hardly what was meant
-    };
-
-    Kind kind;
-    int line;         ///< 0 for what is about a file as a whole
-    std::string text; ///< what is wrong: what comes of it; what to do
-    std::string file = {};
+/// What the menu does because of a finding.
+enum class Effect {
+    None,            ///< it works, and the finding says what is odd about it
+    EndsEveryStart,  ///< ends with an error
+    EndsShownSystem, ///< ends with an error when it shows the system of the menu file
+    EndsProgramRun,  ///< ends with an error when an operator runs a program
+    EndsProperties,  ///< ends with an error in the Properties dialog of a program
+    WaitsForEver,    ///< starts, and never shows its window
+    FailsForOthers,  ///< one of the above, for another user or on another workstation
 };
 
-/// In the order of files and lines, as "FILE:LINE: error: TEXT" or "FILE: error: TEXT", a line each.
-std::string Report(std::vector<Finding> findings);
+struct Place {
+    std::string file; ///< or folder, or variable
+    int line = 0;     ///< 0 for the file as a whole
+};
 
-/// "2 errors, 1 warning in 5 menu files".
-std::string Summary(const std::vector<Finding>& findings, std::size_t menuFiles);
+struct Trouble {
+    std::string problem;
+    std::string remedy;
+};
 
-bool HasErrors(const std::vector<Finding>& findings);
+struct Finding {
+    Effect effect;
+    Place place;
+    Trouble trouble;
+    std::string consequence; ///< the effect's own words when empty
+};
 
-/// A text out of a file as it can stand in one line of output: control characters replaced, a long one cut.
-std::string Shown(std::string_view text, LeadByteTest isLeadByte);
+using Findings = std::vector<Finding>;
+
+void Add(Findings& findings, Effect effect, Place place, Trouble trouble, std::string consequence = {});
+
+/// The dialog opens for one program at a time: alone, what ends it is a warning.
+bool IsError(const Finding& finding);
+bool HasErrors(const Findings& findings);
+
+/// In the order of files and lines: "FILE:LINE: error: PROBLEM: CONSEQUENCE; REMEDY". Each is one line.
+std::string Report(Findings findings);
+
+/// "2 errors, 1 warning in 5 menu files (DETAILS)".
+std::string Summary(const Findings& findings, std::size_t menuFiles, std::string_view details);
+
+/// With "?" in the place of control characters, so that it is one line and moves no cursor.
+std::string OneLine(std::string text);
+
+/// A quotation from a file, of 200 characters at most.
+std::string Quoted(std::string_view text, LeadByteTest isLeadByte);
 
 } // namespace obrin

@@ -14,6 +14,7 @@ constexpr const char* userRecordsFile = "UserWSID.sys";
 constexpr const char* updateRegisterFile = "Updated.txt";
 constexpr const char* startupPictureFile = "Startup.bmp";
 constexpr const char* menuFileExtension = ".mnu";
+constexpr const char* updateFolder = "Tessel\\Exe"; ///< programs that the update copies to a workstation
 
 /// Environment variables of a workstation: its local host folder, and the folder above settingsFolder.
 constexpr const char* localHostVariable = "Tessel";

@@ -41,31 +41,25 @@ void CreateFolder(const std::string& path) {
         throw RunTimeError(error, "Making the folder " + path);
 }
 
-std::optional<FolderEntry> FindEntry(const std::string& path) {
-    WIN32_FIND_DATAA entry;
-    const HANDLE found = FindFirstFileA(path.c_str(), &entry);
-    if (found == INVALID_HANDLE_VALUE)
-        return std::nullopt;
-    FindClose(found);
-    return MakeEntry(entry);
+std::vector<FolderEntry> ListFolder(const std::string& folder) {
+    return ListMatching(EnsureTrailingBackslash(folder, CodePageLeadByteTest()) + "*");
 }
 
-std::vector<FolderEntry> ListFolder(const std::string& folder) {
+std::vector<FolderEntry> ListMatching(const std::string& pattern) {
     std::vector<FolderEntry> entries;
     WIN32_FIND_DATAA entry;
-    const HANDLE found =
-        FindFirstFileA((EnsureTrailingBackslash(folder, CodePageLeadByteTest()) + "*").c_str(), &entry);
+    const HANDLE found = FindFirstFileA(pattern.c_str(), &entry);
     if (found == INVALID_HANDLE_VALUE) {
         if (GetLastError() == ERROR_FILE_NOT_FOUND) // the root of an empty drive
             return entries;
-        ThrowLastError("Listing " + folder);
+        ThrowLastError("Listing " + pattern);
     }
     const UniqueSearch search(found);
     do {
         entries.push_back(MakeEntry(entry));
     } while (FindNextFileA(search.get(), &entry));
     if (GetLastError() != ERROR_NO_MORE_FILES)
-        ThrowLastError("Listing " + folder);
+        ThrowLastError("Listing " + pattern);
     return entries;
 }
 

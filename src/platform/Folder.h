@@ -1,7 +1,6 @@
 // Lists, tests and creates folders, and converts paths.
 #pragma once
 
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,11 +21,11 @@ struct FolderEntry {
     bool isHidden; ///< hidden or a system file
 };
 
-/// Returns the file or folder at a path, with its name as stored on the disk, or nothing if there is none.
-std::optional<FolderEntry> FindEntry(const std::string& path);
-
 /// Returns all entries of a folder in the order of the file system. Throws RunTimeError.
 std::vector<FolderEntry> ListFolder(const std::string& folder);
+
+/// Returns the entries that fit a path whose last part has wildcards. Throws RunTimeError.
+std::vector<FolderEntry> ListMatching(const std::string& pattern);
 
 /// Returns the names of the files of a folder in the order of the file system, without hidden files and
 /// system files. Throws RunTimeError.

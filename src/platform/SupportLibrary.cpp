@@ -8,9 +8,25 @@ namespace obrin {
 
 namespace {
 
-UniqueLibrary Load() {
-    UniqueLibrary library = LoadLibraryFrom(supportLibraryFile, LOAD_LIBRARY_SEARCH_APPLICATION_DIR |
-                                                                    LOAD_LIBRARY_SEARCH_SYSTEM32);
+UniqueLibrary LoadFromFolder(const std::string& folder) {
+    std::wstring wide(folder.size(), L'\0');
+    wide.resize(static_cast<std::size_t>(MultiByteToWideChar(CP_ACP, 0, folder.data(),
+                                                             static_cast<int>(folder.size()), wide.data(),
+                                                             static_cast<int>(wide.size()))));
+    const auto added = AddDllDirectory(wide.c_str());
+    UniqueLibrary library =
+        LoadLibraryFrom(supportLibraryFile, LOAD_LIBRARY_SEARCH_USER_DIRS | LOAD_LIBRARY_SEARCH_SYSTEM32);
+    const DWORD error = GetLastError();
+    RemoveDllDirectory(added);
+    SetLastError(error);
+    return library;
+}
+
+UniqueLibrary Load(const std::string& folder) {
+    UniqueLibrary library = folder.empty()
+                                ? LoadLibraryFrom(supportLibraryFile, LOAD_LIBRARY_SEARCH_APPLICATION_DIR |
+                                                                          LOAD_LIBRARY_SEARCH_SYSTEM32)
+                                : LoadFromFolder(folder);
     if (library)
         return library;
     if (GetLastError() == ERROR_BAD_EXE_FORMAT) // the text of Windows for it does not name the library
@@ -31,8 +47,8 @@ Routine Find(const UniqueLibrary& library, const char* name) {
 
 } // namespace
 
-SupportLibrary::SupportLibrary()
-    : library(Load())
+SupportLibrary::SupportLibrary(const std::string& programFolder)
+    : library(Load(programFolder))
     , getRegValue(Find<GetRoutine>(library, "GetRegValue"))
     , setRegValue(Find<SetRoutine>(library, "SetRegValue")) {}
 

@@ -1,0 +1,287 @@
+#include "checker/FolderWalk.h"
+
+#include "checker/Access.h"
+#include "checker/MenuFileRules.h"
+#include "checker/OtherFileRules.h"
+#include "common/Installation.h"
+#include "controls/Picture.h"
+#include "maintenance/UpdateFiles.h"
+#include "menu/MenuCommands.h"
+#include "platform/Failure.h"
+#include "platform/File.h"
+#include "platform/Folder.h"
+#include "platform/SupportLibrary.h"
+#include "platform/Workstation.h"
+#include "resources/Ids.h"
+#include "startup/HostConfiguration.h"
+#include "startup/UserRecords.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <map>
+#include <set>
+#include <utility>
+
+namespace obrin {
+
+namespace {
+
+constexpr Machine ownMachine = sizeof(void*) == 8 ? Machine::Bits64 : Machine::Bits32;
+
+class Walk {
+public:
+    explicit Walk(const std::string& path)
+        : base(path.empty() ? path : EnsureTrailingBackslash(path, CodePageLeadByteTest()))
+        , folder(path.empty() ? "." : path) {}
+
+    FolderFindings Check() {
+        FindMenuFiles(); // fails when this is no folder at all
+        CheckSystemCodes();
+        CheckHelp();
+        CheckFolders();
+        CheckConfiguration();
+        CheckPrograms();
+        CheckLibrary();
+        CheckPicture();
+        CheckSharedFiles();
+        CheckWorkstationUpdate();
+        return {std::move(findings), std::move(menuFiles)};
+    }
+
+private:
+    void FindMenuFiles() {
+        const std::string notListed = "the menu does not list this system";
+        for (const auto& [name, isFolder, isHidden] : ListFolder(folder)) {
+            const std::string path = base + name;
+            present.insert(UpperCase(name));
+            const bool isMenuFile = IsMenuFileName(name);
+            if (!IsMenuFileNameInAnyCase(name))
+                continue;
+            if (isFolder) {
+                Add(findings, Effect::None, {path},
+                    {"a folder", "remove it, or put the menu file in its place"}, notListed);
+                continue;
+            }
+            menuFiles.push_back({path, isMenuFile && !isHidden});
+            if (menuFiles.back().isShown)
+                names.push_back(name);
+            else if (isMenuFile)
+                Add(findings, Effect::None, {path},
+                    {"hidden or a system file", "take the attribute away (attrib -h -s)"}, notListed);
+            else
+                Add(findings, Effect::None, {path},
+                    {"the name does not end in .mnu in small letters", "rename the file"}, notListed);
+        }
+        if (names.empty())
+            Add(findings, Effect::EndsEveryStart, {folder},
+                {"there is no menu file (*.mnu) here",
+                 "start the menu in the host's folder, and put the systems' menu files there"});
+        if (names.size() > maxSystems)
+            Add(findings, Effect::EndsEveryStart, {base + names[maxSystems]},
+                {"at most 99 menu files are allowed, and this is one more", "remove those that nobody uses"});
+        std::ranges::sort(names);
+    }
+
+    void CheckSystemCodes() {
+        std::map<std::string, std::string> nameOfCode;
+        for (const auto& name : names) {
+            const std::string code(SystemCode(name, isLeadByte));
+            // As the host is told it.
+            if (const auto [first, isNew] = nameOfCode.try_emplace(UpperCase(code), name); !isNew)
+                Add(findings, Effect::None, {base + name},
+                    {"the system code " + code + " is that of " + first->second + " too", "rename one file"},
+                    "the host starts the same system for both");
+        }
+    }
+
+    void CheckHelp() {
+        constexpr std::array<std::pair<int, const char*>, 5> items{{
+            {ID_CORE_HELP, "Core Help"},
+            {ID_SYSTEM_HELP, "System Help"},
+            {ID_WEBSITE, "Obrin Website"},
+            {ID_USER_SITE, "Obrin User Website"},
+            {IDC_LABEL5, "E-Mail us!"},
+        }};
+        std::map<std::string, const char*> captionOf; // by document: most are the same for every system
+        for (const auto& [id, caption] : items) {
+            for (const auto& name : names)
+                captionOf.emplace(DocumentOf(id, name, isLeadByte).value_or(""), caption);
+        }
+        for (const auto& [document, caption] : captionOf) {
+            if (const auto trouble = ReadTrouble(base + document))
+                Add(findings, Effect::None, {base + document}, *trouble,
+                    std::string(caption) + " does not open the document");
+        }
+    }
+
+    void CheckFolders() {
+        const std::string core = base + coreFolder, temporary = base + temporaryConfigurationFile;
+        if (const auto trouble = FolderTrouble(core))
+            Add(findings, Effect::EndsEveryStart, {core}, *trouble);
+        if (const auto trouble = FolderTrouble(folder))
+            Add(findings, Effect::EndsEveryStart, {folder}, *trouble);
+        if (const auto trouble = WriteTrouble(temporary))
+            Add(findings, Effect::EndsEveryStart, {temporary}, *trouble);
+    }
+
+    void CheckConfiguration() {
+        const std::string shortFolder = ShortPath(FullPath(folder));
+        if (shortFolder.empty() || shortFolder.find_first_of(" ,") != std::string::npos)
+            Add(findings, Effect::None, {folder},
+                {"this folder has no short form without blanks and commas",
+                 "move the installation to a short path without them"},
+                "the host may not find it by the drive line of FennConfig.Sys");
+
+        const std::string path = base + hostConfigurationFile;
+        if (const auto trouble =
+                ReadTrouble(path, "restore the file, or start the menu in the host's folder")) {
+            Add(findings, Effect::EndsEveryStart, {path}, *trouble,
+                MayBeFile(path) ? "" : "the menu ends at every start with \"Config File Not found!\"");
+            return;
+        }
+        const std::string bytes = ReadFileBytes(path);
+        const bool isRight = AddDriveLine(shortFolder, BlankDriveLines(bytes, UpperCase)) == bytes;
+        if (const auto trouble = ReplaceTrouble(path))
+            Add(findings, isRight ? Effect::None : Effect::EndsEveryStart, {path}, *trouble,
+                "the menu ends with an error at a start that finds another folder in it");
+        else if (const auto kept = DeleteTrouble(path))
+            Add(findings, Effect::None, {path}, *kept,
+                "the menu writes over it, which a lost connection may cut off in the middle");
+    }
+
+    // The menu may lie in another folder than the host's: then this program lies there, too.
+    void CheckPrograms() {
+        if (const auto trouble = StartTrouble(base + hostProgram))
+            Add(findings, Effect::WaitsForEver, {base + hostProgram}, *trouble,
+                "the menu waits for the host for ever");
+        const bool elsewhere = !MayBeFile(base + menuProgram) && MayBeFile(OwnFolder() + menuProgram);
+        programFolder = elsewhere ? OwnFolder() : base;
+        const std::string menu = programFolder + menuProgram;
+        if (const auto trouble = MayBeFile(menu) ? StartTrouble(menu) : std::nullopt)
+            Add(findings, Effect::WaitsForEver, {menu}, *trouble, "the menu does not start");
+    }
+
+    // The menu looks for it in its own folder and in that of Windows.
+    void CheckLibrary() {
+        const char* putThere = "put the library there that came with ObrinMenu.exe";
+        const std::string menu = programFolder + menuProgram;
+        const Machine machine =
+            (ReadTrouble(menu) ? std::nullopt : ImageMachine(ReadFileBytes(menu))).value_or(ownMachine);
+        std::string path = programFolder + supportLibraryFile;
+        const std::string ofWindows = SystemFolder(machine == Machine::Bits32) + '\\' + supportLibraryFile;
+        if (!MayBeFile(path) && MayBeFile(ofWindows))
+            path = ofWindows;
+        if (const auto trouble = ReadTrouble(path, putThere)) {
+            Add(findings, Effect::EndsEveryStart, {path}, *trouble);
+        } else if (machine != ownMachine) { // this program cannot load it
+            if (ImageMachine(ReadFileBytes(path)) != machine)
+                Add(findings, Effect::EndsEveryStart, {path},
+                    {"not a library for the bits of ObrinMenu.exe", putThere});
+        } else {
+            try {
+                const SupportLibrary library(FullPath(programFolder.empty() ? "." : programFolder));
+                FindRememberedSystem(
+                    library.GetRegValue(HKEY_LOCAL_MACHINE, menuRegistryKey, lastSystemValue));
+            } catch (const RunTimeError& error) {
+                Add(findings, Effect::EndsEveryStart, {path},
+                    {std::string("cannot be used (") + error.what() + ": " + PlatformText(error.Code()) + ")",
+                     putThere});
+            }
+        }
+    }
+
+    // The menu shows it first, also when it does not list it.
+    void FindRememberedSystem(std::string_view lastSystem) {
+        const std::string path = base + std::string(TrimBlanks(lastSystem));
+        if (TrimBlanks(lastSystem).empty() || !MayBeFile(path))
+            return;
+        const auto same =
+            std::ranges::find(menuFiles, UpperCase(path), [](auto& file) { return UpperCase(file.path); });
+        if (same != menuFiles.end())
+            same->isShown = true;
+        else
+            menuFiles.push_back({path, true});
+    }
+
+    void CheckPicture() {
+        const std::string path = base + startupPictureFile;
+        if (!NormalFileExists(path) || !ReadOrAdd(findings, Effect::EndsEveryStart, path))
+            return;
+        try {
+            ScalePicture(LoadPicture(FullPath(path)).get(), USER_DEFAULT_SCREEN_DPI);
+        } catch (const RunTimeError& error) {
+            Add(findings, Effect::EndsEveryStart, {path},
+                {"no picture that can be shown (" + PlatformText(error.Code()) + ")",
+                 "save the picture as a BMP file, or remove it"});
+        }
+    }
+
+    void CheckSharedFiles() {
+        const std::string users = base + userRecordsFile, updated = base + updateRegisterFile;
+        const std::string records = CheckSharedFile(users, Effect::EndsEveryStart);
+        std::ranges::move(CheckUserRecords(users, records, LoginName(), isLeadByte),
+                          std::back_inserter(findings));
+        std::ranges::move(CheckUpdateRegister(updated, CheckSharedFile(updated, Effect::EndsProgramRun)),
+                          std::back_inserter(findings));
+        const int ownWsid = ScanUserRecords(records, LoginName()).wsid;
+        for (int wsid = 1; wsid <= maxWsid; ++wsid) {
+            const std::string name = MarkerFileName(wsid);
+            if (!present.contains(UpperCase(name)))
+                continue; // without asking a share for each name
+            if (const auto trouble = WriteTrouble(base + name))
+                Add(findings, wsid == ownWsid ? Effect::EndsEveryStart : Effect::FailsForOthers,
+                    {base + name}, *trouble,
+                    "the menu of workstation " + std::to_string(wsid) + " ends with an error at every start");
+        }
+    }
+
+    // Returns the bytes of a file that the menu reads and writes; none for one that it makes when it needs
+    // it.
+    std::string CheckSharedFile(const std::string& path, Effect effect) {
+        if (!MayBeFile(path) && !FolderExists(path))
+            return "";
+        auto bytes = ReadOrAdd(findings, effect, path);
+        if (const auto trouble = bytes ? WriteTrouble(path) : std::nullopt)
+            Add(findings, effect, {path}, *trouble);
+        return bytes.value_or("");
+    }
+
+    void CheckWorkstationUpdate() {
+        const std::string noCopy = "the update of a workstation says Complete without copying ";
+        const std::string sources = base + updateFolder;
+        if (!FolderExists(sources))
+            Add(findings, Effect::None, {sources}, *FolderTrouble(sources), noCopy + "anything");
+        for (const auto& [source, destination] : updateFiles) {
+            if (const auto trouble = FolderExists(sources) ? ReadTrouble(base + source) : std::nullopt)
+                Add(findings, Effect::None, {base + source}, *trouble, noCopy + "this program");
+        }
+        const std::string local = EnvironmentVariable(localHostVariable);
+        if (local.empty())
+            Add(findings, Effect::None, {localHostVariable},
+                {"this variable is not set here", "set it on every workstation"},
+                "the update of a workstation copies to the root of the current drive");
+        else if (const auto trouble = FolderTrouble(local))
+            Add(findings, Effect::None, {localHostVariable},
+                {"this variable leads to " + local + ": " + trouble->problem,
+                 trouble->remedy + ", or correct the variable"},
+                noCopy + "anything");
+    }
+
+    std::string base;          // in front of the names of files
+    std::string folder;        // the same as a folder
+    std::string programFolder; // in front of the names of the menu's program and library
+    LeadByteTest isLeadByte = CodePageLeadByteTest();
+    std::set<std::string> present;  // names of everything in the folder, in capitals
+    std::vector<std::string> names; // of the menu files that the menu lists
+    std::vector<FoundMenuFile> menuFiles;
+    Findings findings;
+};
+
+} // namespace
+
+FolderFindings WalkFolder(const std::string& folder) {
+    return Walk(folder).Check();
+}
+
+} // namespace obrin

@@ -1,0 +1,103 @@
+#include "checker/OtherFileRules.h"
+
+#include "common/Installation.h"
+#include "maintenance/UpdateRegister.h"
+#include "startup/UserRecords.h"
+
+#include <map>
+
+namespace obrin {
+
+namespace {
+
+// Little-endian; nothing beyond the end.
+std::optional<std::uint32_t> Number(std::string_view bytes, std::size_t place, std::size_t size) {
+    if (place > bytes.size() || bytes.size() - place < size)
+        return std::nullopt;
+    std::uint32_t number = 0;
+    for (std::size_t i = size; i-- > 0;)
+        number = number << 8 | static_cast<unsigned char>(bytes[place + i]);
+    return number;
+}
+
+} // namespace
+
+Findings CheckUserRecords(const std::string& path, std::string_view bytes, std::string_view ownName,
+                          LeadByteTest isLeadByte) {
+    Findings findings;
+    const auto quoted = [&](std::string_view name) { return Quoted(name, isLeadByte); };
+
+    const auto records = ReadUserRecords(bytes);
+    std::map<std::string_view, std::size_t> lastOfUser; // record, counted from 1
+    for (std::size_t i = 1; i <= records.size(); ++i) {
+        const std::string_view name = records[i - 1].name;
+        const auto [earlier, isNew] = lastOfUser.try_emplace(name, i);
+        if (!isNew)
+            Add(findings, Effect::None, {path},
+                {"the user " + quoted(name) + " has the records " + std::to_string(earlier->second) +
+                     " and " + std::to_string(i),
+                 "remove the others"},
+                "the last one counts");
+        earlier->second = i;
+    }
+    std::map<std::int16_t, std::string_view> userOfNumber;
+    // Windows tells a user's name as it was typed to sign in.
+    std::map<std::string, std::string_view> userInAnyCase;
+    for (const auto& [name, record] : lastOfUser) {
+        const auto wsid = records[record - 1].wsid;
+        const std::string number = "the workstation number " + std::to_string(wsid);
+        const Trouble given{"record " + std::to_string(record) + " gives the user " + quoted(name) + ' ' +
+                                number,
+                            "remove the record, and the menu asks"};
+        if (wsid < 0)
+            Add(findings, name == TrimBlanks(ownName) ? Effect::WaitsForEver : Effect::FailsForOthers, {path},
+                given, "the menu of this user waits without a window");
+        else if (wsid < 1 || wsid > maxWsid)
+            Add(findings, Effect::None, {path}, given, "only 1 to 99 lead to a host");
+
+        const auto [spelling, isNewName] = userInAnyCase.try_emplace(AsciiLowerCase(name), name);
+        if (!isNewName) {
+            if (records[lastOfUser.at(spelling->second) - 1].wsid != wsid)
+                Add(findings, Effect::None, {path},
+                    {"the users " + quoted(spelling->second) + " and " + quoted(name) +
+                         " differ in case alone",
+                     "give both records the same number"},
+                    "Windows takes them for one user, whose number depends on how the name is typed");
+            continue; // one user has one number
+        }
+        const auto [other, isNewNumber] = userOfNumber.try_emplace(wsid, name);
+        if (!isNewNumber && wsid >= 1 && wsid <= maxWsid)
+            Add(findings, Effect::None, {path},
+                {"the users " + quoted(other->second) + " and " + quoted(name) + " both have " + number,
+                 "remove one's record, and the menu asks"},
+                "they cannot work at the same time");
+    }
+    return findings;
+}
+
+Findings CheckUpdateRegister(const std::string& path, std::string_view bytes) {
+    Findings findings;
+    if (const auto other = bytes.find_first_not_of("0123456789"); other != std::string_view::npos)
+        Add(findings, Effect::None, {path},
+            {"byte " + std::to_string(other + 1) + " is no digit",
+             "remove line ends, blanks and everything else that is no number"},
+            "workstations whose three digits do not begin at a multiple of three are updated again");
+    if (const auto rest = bytes.size() % updateKeyBytes; rest != 0)
+        Add(findings, Effect::None, {path},
+            {"the last record is cut off",
+             "cut the file to " + std::to_string(bytes.size() - rest) + " bytes"},
+            "the next workstation that is updated overwrites it");
+    return findings;
+}
+
+std::optional<Machine> ImageMachine(std::string_view image) {
+    // The header's place is in the bytes at 3C; the machine is behind its signature.
+    const auto header = Number(image, 0x3C, 4).value_or(0);
+    const auto signature = Number(image, header, 4), machine = Number(image, std::size_t{header} + 4, 2);
+    constexpr std::uint32_t pe = 0x4550; // "PE" and two zeros
+    return image.starts_with("MZ") && signature == pe && machine
+               ? std::optional(static_cast<Machine>(*machine))
+               : std::nullopt;
+}
+
+} // namespace obrin

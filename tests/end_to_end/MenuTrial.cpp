@@ -1,0 +1,160 @@
+#include "end_to_end/MenuTrial.h"
+
+#include "end_to_end/Installation.h"
+#include "menu/MenuDefinition.h"
+#include "menu/MenuFiles.h"
+#include "support/TopWindow.h"
+
+#include <algorithm>
+
+namespace obrin {
+
+void PrintTo(Effect effect, std::ostream* output) {
+    constexpr std::array names{"None",           "EndsEveryStart", "EndsShownSystem", "EndsProgramRun",
+                               "EndsProperties", "WaitsForEver",   "FailsForOthers"};
+    *output << names[static_cast<std::size_t>(effect)];
+}
+
+} // namespace obrin
+
+namespace obrin::test {
+namespace {
+
+class Trial {
+public:
+    explicit Trial(Effect whatIsExpected)
+        : expected(whatIsExpected) {}
+
+    Effect Run() {
+        const Effect effect = FindEffect();
+        if (const char* box = Box()) {
+            launcher.Press(box, IDOK);
+            EXPECT_LE(launcher.ExitCode(), 1);
+        }
+        return effect;
+    }
+
+private:
+    Effect FindEffect() {
+        if (!Starts())
+            return Box() != nullptr ? Effect::EndsEveryStart : Effect::WaitsForEver;
+        menu = launcher.Menu();
+        if (!ShowsEverySystem())
+            return Effect::EndsShownSystem;
+        if (!RunsProgram())
+            return Effect::EndsProgramRun;
+        if (!OpensProperties())
+            return Effect::EndsProperties;
+        PostMessageA(menu, WM_CLOSE, 0, 0);
+        EXPECT_EQ(launcher.ExitCode(), 0);
+        return Effect::None;
+    }
+
+    // The caption of the error box, while there is one.
+    const char* Box() const {
+        for (const char* caption : {"ObrinMenu", "Error!"}) {
+            if (launcher.Shown(caption) != nullptr)
+                return caption;
+        }
+        return nullptr;
+    }
+
+    bool Starts() const {
+        const ULONGLONG end = GetTickCount64() + 1500;
+        const auto comes = [&] { return launcher.Shown("Obrin System Menu") != nullptr; };
+        EXPECT_TRUE(Eventually([&] {
+            const bool waits = expected == Effect::WaitsForEver && GetTickCount64() > end;
+            return Box() != nullptr || comes() || waits || launcher.Shown("Waiting for Fenn") != nullptr;
+        }));
+        return comes();
+    }
+
+    // Returns when the message has been handled, or an error box is shown.
+    bool Handles(UINT message, WPARAM wParam) const {
+        constexpr UINT moment = 300, longTime = 20'000; // milliseconds
+        DWORD_PTR result = 0;
+        if (SendMessageTimeoutA(menu, message, wParam, 0, SMTO_NORMAL, moment, &result) == 0)
+            SendMessageTimeoutA(menu, WM_NULL, 0, 0, SMTO_NORMAL, longTime, &result);
+        return Box() == nullptr;
+    }
+
+    bool ShowsEverySystem() const {
+        const std::size_t count = std::min<std::size_t>(EnumerateMenuFiles().size(), 5);
+        for (std::size_t i = 1; i <= count; ++i) { // the first one last
+            if (!Handles(WM_COMMAND, ID_SYSTEMS + i % count))
+                return false;
+        }
+        return true;
+    }
+
+    bool RunsProgram() const {
+        if (!Handles(WM_COMMAND, IDC_COMMAND1))
+            return false;
+        if (const char* update = "Auto Update Utility"; launcher.Shown(update) != nullptr) {
+            Eventually([&] { return IsWindowVisible(GetDlgItem(launcher.Shown(update), IDOK)); });
+            launcher.Press(update, IDOK);
+        }
+        return Handles(WM_NULL, 0);
+    }
+
+    bool OpensProperties() const {
+        const auto entries =
+            ParseMenuDefinition(ReadFileBytes(EnumerateMenuFiles().front().name), nullptr).entries;
+        std::vector<HTREEITEM> items;
+        AddItems(items, TreeView_GetRoot(launcher.Tree()));
+        for (std::size_t i = 0; i < std::min<std::size_t>(items.size(), 10); ++i) {
+            if (!entries[i].key.empty() && !OpensProperties(items[i]))
+                return false;
+        }
+        return true;
+    }
+
+    void AddItems(std::vector<HTREEITEM>& items, HTREEITEM item) const {
+        for (; item != nullptr; item = TreeView_GetNextSibling(launcher.Tree(), item)) {
+            items.push_back(item);
+            AddItems(items, TreeView_GetChild(launcher.Tree(), item));
+        }
+    }
+
+    bool OpensProperties(HTREEITEM program) const {
+        const char* dialog = "Properties";
+        TreeView_SelectItem(launcher.Tree(), program);
+        const auto popsUp = [] {
+            return FindTopWindow([](HWND window) {
+                       return GetClassWord(window, GCW_ATOM) == 32768 && IsWindowVisible(window);
+                   }) != nullptr;
+        };
+        PostMessageA(launcher.Tree(), WM_CONTEXTMENU, 0, -1);
+        EXPECT_TRUE(Eventually(popsUp));
+        PostMessageA(menu, WM_KEYDOWN, VK_ESCAPE, 0);
+        EXPECT_TRUE(Eventually([&] { return !popsUp(); }));
+        PostMessageA(menu, WM_COMMAND, ID_TREE_PROPERTIES, 0);
+        EXPECT_TRUE(Eventually([&] { return Box() != nullptr || launcher.Shown(dialog) != nullptr; }));
+        if (const HWND properties = launcher.Shown(dialog); Box() == nullptr) {
+            PostMessageA(properties, WM_COMMAND, IDOK, 0);
+            EXPECT_TRUE(Eventually([&] { return Box() != nullptr || !IsWindow(properties); }));
+        }
+        return Box() == nullptr;
+    }
+
+    Effect expected;
+    Launcher launcher;
+    HWND menu = nullptr;
+};
+
+} // namespace
+
+Effect TryMenu(Effect expected) {
+    return Trial(expected).Run();
+}
+
+Effect Predicted(const Findings& findings) {
+    for (const Effect effect : {Effect::EndsEveryStart, Effect::WaitsForEver, Effect::EndsShownSystem,
+                                Effect::EndsProgramRun, Effect::EndsProperties}) {
+        if (std::ranges::find(findings, effect, &Finding::effect) != findings.end())
+            return effect;
+    }
+    return Effect::None;
+}
+
+} // namespace obrin::test
