@@ -135,7 +135,7 @@ std::vector<FaultyInstallation> FaultyMenuFiles() {
                  entries += "\rA^";
              WriteMenu("T" + entries);
          },
-         {"UB.mnu:32769: error: more entries than a menu can count" + whenShown +
+         {"UB.mnu:32769: error: more than 32,767 entries" + whenShown +
           "divide the system into several; from this line on, nothing has been checked"}},
         {"keys that differ in case, no keys, a lone CR", [] { WriteMenu("T\rA^k\rB^K\rC^\rD^"); }, {}},
         {"nothing but a title", [] { WriteMenu("T"); }, {}},
