@@ -1,167 +1,278 @@
-// What holds for every dialog: it is as windows.txt says, it comes back from a screen of another DPI as it
-// was, and a screen reader knows its controls by their labels.
+// What holds for every window, on screens of several DPI and with large letters: its controls stay apart and
+// inside, their texts are shown whole, and the Tab key goes through the window as a person reads it.
 
-#include "common/Installation.h"
-#include "controls/InputBox.h"
-#include "controls/WindowText.h"
-#include "maintenance/frmAbout.h"
-#include "maintenance/frmUpdate.h"
-#include "platform/Failure.h"
-#include "settings/Form2.h"
-#include "startup/HostLink.h"
-#include "startup/HostNotice.h"
-#include "support/ModalTest.h"
-#include "support/WindowChecks.h"
+#include "controls/WindowTest.h"
 
 #include <algorithm>
-#include <cstdio>
-#include <map>
-#include <set>
 
-namespace obrin {
+namespace obrin::test {
 namespace {
 
-class EveryWindow : public test::ModalTest {
+int AtDpi(LONG pixels, UINT dpi, UINT ofDpi = 96) {
+    return MulDiv(pixels, static_cast<int>(dpi), static_cast<int>(ofDpi));
+}
+
+// Lets the user have a message font of that size for as long as `act` takes.
+void WithMessageFont(int points, const std::function<void()>& act) {
+    NONCLIENTMETRICSA before{};
+    before.cbSize = sizeof before;
+    SystemParametersInfoA(SPI_GETNONCLIENTMETRICS, sizeof before, &before, 0);
+    NONCLIENTMETRICSA changed = before;
+    changed.lfMessageFont.lfHeight = -AtDpi(points, GetDpiForSystem(), 72);
+    SystemParametersInfoA(SPI_SETNONCLIENTMETRICS, sizeof changed, &changed, 0);
+    act();
+    SystemParametersInfoA(SPI_SETNONCLIENTMETRICS, sizeof before, &before, 0);
+}
+
+// Moves a window as the platform does: it may know its own size there. Then a setting of the user's changes.
+void MoveToScreen(HWND window, UINT dpi, SIZE size) {
+    if (SIZE own{}; SendMessageA(window, WM_GETDPISCALEDSIZE, dpi, reinterpret_cast<LPARAM>(&own)) != 0)
+        size = own;
+    const RECT place = PlaceOf(window);
+    RECT suggested{place.left, place.top, place.left + size.cx, place.top + size.cy};
+    SendMessageA(window, WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&suggested));
+    SendMessageA(window, WM_SETTINGCHANGE, 0, 0);
+    const RECT taken = PlaceOf(window);
+    EXPECT_TRUE(EqualRect(&taken, &suggested)) << "the place that was suggested";
+}
+
+class EveryWindow : public WindowTest, public testing::WithParamInterface<OpenedWindow> {
 protected:
-    EveryWindow() {
-        SetEnvironmentVariableA("TesselTemp", folder.path.string().c_str());
-        SetEnvironmentVariableA("Tessel", "missing");
-        CoInitialize(nullptr);
+    void WhileOpened(const WindowAction& act) { (this->*GetParam().whileOpen)(act); }
+
+    /// Opens the window, takes it to one screen after the other, and checks it there.
+    void OnScreens(const std::vector<UINT>& dpis, const std::function<void(HWND, UINT)>& check) {
+        WhileOpened([&](HWND window) {
+            const SIZE size = SizeOf(PlaceOf(window));
+            const UINT from = GetDpiForWindow(window);
+            for (const UINT dpi : dpis) {
+                SCOPED_TRACE(std::to_string(dpi) + " DPI");
+                MoveToScreen(window, dpi, {AtDpi(size.cx, dpi, from), AtDpi(size.cy, dpi, from)});
+                check(window, dpi);
+            }
+        });
     }
 
-    ~EveryWindow() override { CoUninitialize(); }
-
-    void ForEachDialog(const std::function<void(HWND)>& act) {
-        const std::function<void()> shows[] = {
-            [this] { Form2(corvel, "UB").Show(owner); },
-            [this] { frmAbout().Show(owner); },
-            [this] { frmUpdate().Show(owner); },
-            [this] { InputBox(owner, "A question?", "A title"); },
-        };
-        for (const auto& show : shows) {
-            bool done = false; // what a dialog does meanwhile may bring us back here
-            While(show, [&](HWND dialog) {
-                SCOPED_TRACE(WindowText(dialog));
-                if (!std::exchange(done, true))
-                    act(dialog);
-                PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
-            });
-        }
-        HostNotice notice(owner, "Obrin-05", ERROR_BAD_EXE_FORMAT);
-        notice.ShowWhenDue();
-        const HWND window = FindWindowA(nullptr, "Waiting for Fenn");
-        EXPECT_NE(GetActiveWindow(), window) << "takes the keyboard from nobody";
-        act(window);
+    /// Checks it on screens of three DPI, and then with a large message font. Only the menu window has that
+    /// font: the dialogs have "MS Shell Dlg" of 8 points whatever the user has chosen.
+    void OnEveryScreen(const WindowAction& check) {
+        OnScreens({192, 144, 96}, [&](HWND window, UINT) { check(window); });
+        SCOPED_TRACE("message font of 14 points");
+        WithMessageFont(14, [&] { WhileOpened(check); });
     }
-
-    const test::ScratchFolder folder;
-    const test::LocalMachine machine;
-    const SupportLibrary corvel;
 };
 
-TEST_F(EveryWindow, ComesBackFromOtherScreensAsItWas) {
-    std::string reason; // why the host was not started
-    ForEachDialog([&](HWND dialog) {
-        reason = WindowText(GetDlgItem(dialog, IDC_REASON));
-        RECT place, work;
-        GetWindowRect(dialog, &place);
-        SystemParametersInfoA(SPI_GETWORKAREA, 0, &work, 0);
-        // One stands beside its owner's corner; and now and then a display puts one into its own.
-        if (GetDlgItem(dialog, IDC_LABEL1) == nullptr && place.left > 0) {
-            EXPECT_NEAR(place.left + place.right, work.left + work.right, 2);
-            EXPECT_NEAR(place.top + place.bottom, work.top + work.bottom, 2);
+INSTANTIATE_TEST_SUITE_P(, EveryWindow, testing::ValuesIn(allWindows),
+                         [](const auto& window) { return window.param.name; });
+
+// --- Layout ---
+
+bool Contains(const RECT& outer, const RECT& inner) {
+    return inner.left >= outer.left && inner.top >= outer.top && inner.right <= outer.right &&
+           inner.bottom <= outer.bottom;
+}
+
+// The place without the caption of the group box.
+RECT Below(RECT place, HWND groupBox) {
+    place.top += TextSize(groupBox, WindowText(groupBox), place.right - place.left).cy;
+    return place;
+}
+
+TEST_P(EveryWindow, KeepsControlsInsideTheirParent) {
+    OnEveryScreen([](HWND window) {
+        for (const HWND control : ShownControls(window)) {
+            const HWND parent = GetParent(control);
+            RECT inside;
+            GetClientRect(parent, &inside);
+            if (IsGroupBox(parent))
+                inside = Below(inside, parent);
+            EXPECT_TRUE(Contains(inside, PlaceOf(control))) << Name(control);
         }
-        test::IsTheSameAfterOtherScreens(dialog);
     });
-    EXPECT_TRUE(reason.ends_with(PlatformText(ERROR_BAD_EXE_FORMAT, hostProgram)));
-    EXPECT_TRUE(reason.find('\n') == std::string::npos && reason.rfind(hostProgram) != 0) << reason;
 }
 
-// A line for each control with its class, style, place in dialog units and text, and the same name for a
-// screen reader.
-BOOL CALLBACK AddLine(HWND control, LPARAM lines) {
-    const std::map<std::string, LONG> roles{{WC_EDITA, ROLE_SYSTEM_TEXT},
-                                            {WC_COMBOBOXA, ROLE_SYSTEM_COMBOBOX},
-                                            {TRACKBAR_CLASSA, ROLE_SYSTEM_SLIDER}};
-    // What changes while it is looked at, and what is different at each place or in each version.
-    const std::set<int> varying{IDC_LABEL1, IDC_FOLDER, IDC_REASON, IDC_LBL_VERSION, IDC_PIC_ICON};
-    const HWND parent = GetParent(control);
-    if (GetDlgCtrlID(parent) == IDC_CMB_ORIENTATION) // the box in a combo
-        return TRUE;
-    char className[100] = "", line[200] = "", caption[100] = "";
-    GetClassNameA(control, className, sizeof className);
-    // With the keyboard a button is the default one, and that of the update comes late.
-    const DWORD changing = className == std::string(WC_BUTTONA) ? BS_DEFPUSHBUTTON | WS_VISIBLE : 0;
-    std::string text = "...";
-    RECT units{0, 0, 400, 800}, place{};
-    if (!varying.contains(GetDlgCtrlID(control))) {
-        MapDialogRect(parent, &units);
-        GetWindowRect(control, &place);
-        MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&place), 2);
-        text = WindowText(control);
-    }
-    if (className == std::string("#32770")) { // the pages' places depend on the tabs
-        GetClientRect(control, &place);
-        units = {0, 0, 400, 800};
-        MapDialogRect(control, &units);
-        place.right = (GetWindowStyle(control) & WS_CHILD) != 0 ? 0 : place.right;
-    }
-    // The about box takes its heights from its texts, and others those of combo boxes from the font.
-    const bool grows =
-        GetDlgItem(parent, IDC_PIC_ICON) != nullptr || GetDlgItem(control, IDC_PIC_ICON) != nullptr;
-    const bool isHigh = !grows && place.right != 0 && className != std::string(WC_COMBOBOXA);
-    std::snprintf(line, sizeof line, "%s %08lX %d,%d %d,%d ", className, GetWindowStyle(control) & ~changing,
-                  MulDiv(place.left, 400, units.right), MulDiv(grows ? 0 : place.top, 800, units.bottom),
-                  MulDiv(place.right - place.left, 400, units.right),
-                  MulDiv(isHigh ? place.bottom - place.top : 0, 800, units.bottom));
-    std::erase(text, '\r');
-    std::ranges::replace(text, '\n', '|');
-    TCITEMA tab{TCIF_TEXT, 0, 0, caption, sizeof caption, 0, 0};
-    for (WPARAM i = 0; SendMessageA(control, TCM_GETITEMA, i, reinterpret_cast<LPARAM>(&tab)) != 0; ++i)
-        text.append(caption).append("^");
-    reinterpret_cast<std::string*>(lines)->append(line).append(text).append("|\n");
+// A page lies on the tab strip and controls lie in a group box.
+bool MayLieOn(HWND upper, HWND lower) {
+    return HasClass(lower, WC_TABCONTROLA)
+               ? HasClass(upper, dialogClass)
+               : IsGroupBox(lower) && Contains(Below(PlaceOf(lower), lower), PlaceOf(upper));
+}
 
-    if (const auto found = roles.find(className); found != roles.end()) {
-        // Where this platform does not know the kind of control, it calls it a client window and reads its
-        // text; others take the label in front for its name.
-        const auto [heardName, heardRole] = test::Announced(control);
-        EXPECT_TRUE(heardRole == found->second || heardRole == ROLE_SYSTEM_CLIENT) << heardName;
-        if (found->second != ROLE_SYSTEM_COMBOBOX || heardRole != ROLE_SYSTEM_CLIENT) {
-            EXPECT_EQ(heardName, WindowText(GetWindow(control, GW_HWNDPREV)));
+bool Overlap(HWND one, HWND other) {
+    if (GetParent(one) != GetParent(other) || MayLieOn(one, other) || MayLieOn(other, one))
+        return false;
+    const RECT place = PlaceOf(one), otherPlace = PlaceOf(other);
+    RECT common{};
+    IntersectRect(&common, &place, &otherPlace);
+    // Dialog units are rounded to pixels, place and size each for itself: neighbours may share one pixel.
+    const LONG rounding = HasClass(GetAncestor(one, GA_ROOT), dialogClass) ? 1 : 0;
+    return SizeOf(common).cx > rounding && SizeOf(common).cy > rounding;
+}
+
+TEST_P(EveryWindow, KeepsControlsApart) {
+    OnEveryScreen([](HWND window) {
+        const std::vector<HWND> controls = ShownControls(window);
+        for (auto one = controls.begin(); one != controls.end(); ++one) {
+            for (auto other = controls.begin(); other != one; ++other)
+                EXPECT_FALSE(Overlap(*one, *other)) << Name(*one) << " and " << Name(*other);
         }
-    }
-    return TRUE;
+    });
 }
 
-TEST_F(EveryWindow, HasTheTextsAndControlsOfTheListAndAnnouncesThemByTheirLabels) {
-    std::string lines;
-    ForEachDialog([&](HWND dialog) {
-        const auto defaultButton = LOWORD(SendMessageA(dialog, DM_GETDEFID, 0, 0));
-        AddLine(dialog, reinterpret_cast<LPARAM>(&lines));
-        lines.back() = ' ';
-        lines += "Enter presses " + std::to_string(defaultButton) +
-                 ((GetWindowExStyle(dialog) & WS_EX_APPWINDOW) != 0 ? ", in the task bar\n" : "\n");
-        EXPECT_EQ(SendMessageA(dialog, WM_GETICON, ICON_BIG, 0),
-                  reinterpret_cast<LRESULT>(LoadIconA(Instance(), MAKEINTRESOURCEA(IDI_OBRIN))));
-        const HWND answer = GetDlgItem(dialog, IDC_ANSWER);
-        EXPECT_TRUE(answer == nullptr || GetFocus() == answer) << "can be typed at once";
-        EnumChildWindows(dialog, AddLine, reinterpret_cast<LPARAM>(&lines));
-        RECT place{};
-        SendMessageA(dialog, WM_DPICHANGED, USER_DEFAULT_SCREEN_DPI, reinterpret_cast<LPARAM>(&place));
-        const HWND button = GetDlgItem(dialog, defaultButton);
-        lines += test::FontOf(button) + "\n";
+// The size that a control needs for its text; none for a control without a text of its own.
+SIZE NeededFor(HWND control, LONG width) {
+    const std::string text = WindowText(control);
+    if (IsLabel(control) && !HasStyle(control, SS_PATHELLIPSIS)) // which shortens a path on purpose
+        return TextSize(control, text, width, HasStyle(control, SS_NOPREFIX) ? DT_NOPREFIX : 0);
+    if (HasClass(control, WC_BUTTONA)) // with a border on each side
+        return TextSize(control, "n" + text + "n", width, DT_SINGLELINE);
+    if (HasClass(control, WC_TABCONTROLA))
+        return {TabPlace(control, 2).right, 0}; // the last one
+    return {};
+}
+
+TEST_P(EveryWindow, ShowsItsTextsWhole) {
+    OnEveryScreen([](HWND window) {
+        for (const HWND control : ShownControls(window)) {
+            const SIZE room = SizeOf(PlaceOf(control)), needed = NeededFor(control, room.cx);
+            EXPECT_LE(needed.cx, room.cx) << Name(control);
+            EXPECT_LE(needed.cy, room.cy) << Name(control);
+        }
+    });
+}
+
+// --- Keyboard ---
+
+// The controls that the Tab key goes to, in its order.
+std::vector<HWND> TabStops(HWND window) {
+    std::vector<HWND> stops;
+    for (HWND stop = GetNextDlgTabItem(window, nullptr, FALSE); std::ranges::find(stops, stop) == stops.end();
+         stop = GetNextDlgTabItem(window, stop, FALSE))
+        stops.push_back(stop);
+    return stops;
+}
+
+// A label takes keys when it can be clicked.
+bool TakesKeys(HWND control) {
+    const auto isOneOf = [=](auto... names) { return (HasClass(control, names) || ...); };
+    return isOneOf(WC_EDITA, WC_COMBOBOXA, TRACKBAR_CLASSA, WC_TREEVIEWA, WC_TABCONTROLA) ||
+           (HasClass(control, WC_BUTTONA) && !IsGroupBox(control)) ||
+           (IsLabel(control) && HasStyle(control, SS_NOTIFY));
+}
+
+TEST_P(EveryWindow, TabKeyReachesTheControlsThatTakeKeys) {
+    WhileOpened([](HWND window) {
+        std::vector<HWND> stops = TabStops(window), controls = ShownControls(window);
+        std::erase_if(controls, [](HWND control) { return !TakesKeys(control); });
+        std::ranges::sort(stops);
+        std::ranges::sort(controls);
+        EXPECT_EQ(stops, controls);
+    });
+}
+
+// Where a person sees a control in the window. The tabs of a tab strip are above its page.
+RECT SeenAt(HWND control, HWND window) {
+    RECT place = PlaceOf(control);
+    if (HasClass(control, WC_TABCONTROLA))
+        place.bottom = place.top + TabPlace(control, 0).bottom;
+    MapWindowPoints(GetParent(control), window, reinterpret_cast<POINT*>(&place), 2);
+    return place;
+}
+
+// Each control is below or to the right of the one before it. The keys go round in a circle, which may begin
+// anywhere: in Properties the tabs are the first that one reads and come behind the buttons, and the input
+// box begins with its answer. So exactly one step leads back.
+TEST_P(EveryWindow, TabKeyGoesInReadingOrder) {
+    WhileOpened([](HWND window) {
+        const std::vector<HWND> stops = TabStops(window);
+        std::vector<std::string> stepsBack;
+        for (std::size_t i = 0; i < stops.size(); ++i) {
+            const HWND next = stops[(i + 1) % stops.size()];
+            const RECT from = SeenAt(stops[i], window), to = SeenAt(next, window);
+            if (to.left < from.right && to.top < from.bottom)
+                stepsBack.push_back(Name(next));
+        }
+        EXPECT_EQ(stepsBack.size(), 1U) << testing::PrintToString(stepsBack);
+    });
+}
+
+// --- Changes of screen and settings ---
+
+struct Look {
+    HWND control;
+    RECT place;
+    LONG fontHeight; // 0 for a page, which has no text of its own
+};
+
+std::vector<Look> LooksOf(HWND window) {
+    std::vector<Look> looks;
+    for (const HWND control : ShownControls(window)) {
+        RECT place; // with its list, where the platform tells it
+        if (SendMessageA(control, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&place)) != 0)
+            MapWindowPoints(nullptr, GetParent(control), reinterpret_cast<POINT*>(&place), 2);
+        else
+            place = PlaceOf(control);
+        const LONG fontHeight = std::abs(FontShapeOf(control).lfHeight);
+        looks.push_back({control, place, HasClass(control, dialogClass) ? 0 : fontHeight});
+    }
+    return looks;
+}
+
+TEST_P(EveryWindow, GrowsWithTheDpi) {
+    std::vector<Look> at96;
+    OnScreens({96, 144, 192}, [&](HWND window, UINT dpi) {
+        if (dpi == 96)
+            at96 = LooksOf(window);
+        const std::vector<Look> now = LooksOf(window);
+        for (std::size_t i = 0; i < now.size(); ++i) {
+            SCOPED_TRACE(Name(now[i].control));
+            const double factor = dpi / 96.0;
+            const RECT &place = now[i].place, &was = at96[i].place;
+            EXPECT_NEAR(now[i].fontHeight / factor, at96[i].fontHeight, 1);
+            // Letters do not grow evenly, and places in dialogs follow the letters.
+            EXPECT_NEAR(place.left / factor, was.left, 0.15 * was.left + 3);
+            EXPECT_NEAR(place.right / factor, was.right, 0.15 * was.right + 3);
+        }
+    });
+}
+
+TEST_P(EveryWindow, ComesBackFromOtherScreensAsItWas) {
+    std::vector<Look> first, now;
+    OnScreens({96, 144, 192, 96}, [&](HWND window, UINT) {
+        now = LooksOf(window);
+        first = first.empty() ? now : first;
+    });
+    for (std::size_t i = 0; i < now.size(); ++i) {
+        SCOPED_TRACE("control " + std::to_string(i));
+        EXPECT_EQ(now[i].fontHeight, first[i].fontHeight);
+        EXPECT_NEAR(now[i].place.left, first[i].place.left, 1);
+        EXPECT_NEAR(now[i].place.top, first[i].place.top, 1);
+        EXPECT_NEAR(now[i].place.right, first[i].place.right, 1);
+        EXPECT_NEAR(now[i].place.bottom, first[i].place.bottom, 1);
+    }
+}
+
+TEST_P(EveryWindow, IsPaintedAnewWhenTheUserChangesItsLooks) {
+    WhileOpened([](HWND window) {
         for (const int change : {WM_SETTINGCHANGE, WM_THEMECHANGED, WM_SYSCOLORCHANGE}) {
-            const LRESULT font = SendMessageA(button, WM_GETFONT, 0, 0);
-            UpdateWindow(dialog);
-            SendMessageA(dialog, static_cast<UINT>(change), 0, 0);
-            EXPECT_NE(SendMessageA(button, WM_GETFONT, 0, 0), font) << "laid out anew";
-            EXPECT_TRUE(GetUpdateRect(dialog, nullptr, FALSE)) << "painted anew";
+            RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+            SendMessageA(window, static_cast<UINT>(change), 0, 0);
+            for (const HWND control : ShownControls(window))
+                EXPECT_TRUE(GetUpdateRect(control, nullptr, FALSE)) << change << " " << Name(control);
         }
     });
-    const HRSRC list = FindResourceA(nullptr, "WINDOWS", RT_RCDATA);
-    EXPECT_EQ(lines, std::string(static_cast<const char*>(LockResource(LoadResource(nullptr, list))),
-                                 SizeofResource(nullptr, list)));
+}
+
+TEST_F(WindowTest, MenuTakesTheUsersNewMessageFont) {
+    WhileMenu([](HWND menu) {
+        WithMessageFont(14, [menu] {
+            SendMessageA(menu, WM_SETTINGCHANGE, 0, 0);
+            for (const int id : {IDC_FRAME1, IDC_TREEVIEW1, IDC_LABEL2, IDC_LABEL3})
+                EXPECT_EQ(FontShapeOf(ControlOf(menu, id)).lfHeight, -AtDpi(14, GetDpiForWindow(menu), 72))
+                    << id;
+        });
+    });
 }
 
 } // namespace
-} // namespace obrin
+} // namespace obrin::test

@@ -1,85 +1,90 @@
 #include "maintenance/SystemInformation.h"
 
-#include "controls/Dialog.h"
-#include "controls/WindowText.h"
 #include "platform/FileReplacement.h"
+#include "platform/Workstation.h"
+#include "support/DialogTest.h"
+#include "support/LocalMachine.h"
 #include "support/Machine.h"
-#include "support/ModalTest.h"
+#include "support/ScratchFolder.h"
 
 namespace obrin {
 namespace {
 
 constexpr const char* reportVariable = "OBRIN_TEST_TOOL_REPORT";
 
-// The tool that is started is this program once more: it reports its name and its window's state, and ends
-// before any test runs.
+// The tool that is started is this program once more: it reports its command line and its window's state, and
+// ends before any test runs.
 const bool startedAsTool = [] {
     const std::string report = EnvironmentVariable(reportVariable);
     if (report.empty())
         return false;
     STARTUPINFOA window;
     GetStartupInfoA(&window);
-    const bool normal = (window.dwFlags & STARTF_USESHOWWINDOW) != 0 && window.wShowWindow == SW_SHOWNORMAL;
-    ReplaceFileBytes(report, GetCommandLineA() + std::string(normal ? " normal" : " otherwise"));
+    const bool isNormal = (window.dwFlags & STARTF_USESHOWWINDOW) != 0 && window.wShowWindow == SW_SHOWNORMAL;
+    ReplaceFileBytes(report, GetCommandLineA() + std::string(isNormal ? " in a normal window" : ""));
     ExitProcess(0);
 }();
 
-class SystemInfo : public test::ModalTest {
+class SystemInformation : public test::DialogTest {
 protected:
-    /// What the launch comes to: the started program's report, or the message.
-    std::string Launch() {
-        const std::string report = (folder.path / "report.txt").string();
+    SystemInformation() {
         SetEnvironmentVariableA(reportVariable, report.c_str());
+        CreateFolder("Tools");
+        CopyFileA(test::OwnProgram().string().c_str(), "Tool One.exe", FALSE);
+        CopyFileA("Tool One.exe", "Tool.exe", FALSE); // not meant, whatever the blank suggests
+        CopyFileA("Tool One.exe", "Tools\\MSINFO32.EXE", FALSE);
+    }
+    ~SystemInformation() override { SetEnvironmentVariableA(reportVariable, nullptr); }
+
+    /// What comes of these two entries of the registry: the report of the tool, or the message.
+    std::string Launch(const std::string& path, const std::string& toolFolder,
+                       DWORD pathType = REG_SZ) const {
+        machine.Set("SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", "PATH", pathType, path);
+        machine.Set("SOFTWARE\\Microsoft\\Shared Tools Location", "MSINFO", REG_SZ, toolFolder);
         std::string result;
-        While([this] { LaunchSystemInfo(owner); },
-              [&](HWND box) {
-                  result = WindowText(box) + ": " + WindowText(GetDlgItem(box, 0xFFFF));
-                  EndDialog(box, IDOK);
-              });
-        for (int i = 0; i < 1000 && result.empty(); ++i, Sleep(10))
-            result = FileExists(report) ? ReadFileBytes(report) : "";
-        DeleteFileA(report.c_str());
+        const auto launch = [this] { LaunchSystemInfo(owner); };
+        const auto read = [&](HWND box) { result = WindowText(GetDlgItem(box, 0xFFFF)); };
+        if (!ActsInDialog(owner, launch, read)) {
+            for (int i = 0; i < 1000 && !FileExists(report); ++i)
+                Sleep(10);
+            result = ReadFileBytes(report);
+            DeleteFileA(report.c_str());
+        }
         return result;
+    }
+
+    /// The same where a tool must start, which now and then fails under Wine on a loaded machine.
+    std::string LaunchTool(const std::string& path, const std::string& toolFolder) const {
+        const std::string result = Launch(path, toolFolder);
+        return result == unavailable ? Launch(path, toolFolder) : result;
     }
 
     const test::ScratchFolder folder;
     const test::LocalMachine machine;
+    const std::string here = folder.path.string() + "\\", report = here + "report.txt";
+    const std::string missing = std::string(1025, 'x'); // too long to be read
+    const std::string unavailable = "System Information Is Unavailable At This Time";
 };
 
-TEST_F(SystemInfo, StartsWhatThePathNamesAndOnlyWithoutAPathTheToolInItsFolder) {
-    const std::string here = folder.path.string() + "\\";
-    const std::string unavailable = "ObrinMenu: System Information Is Unavailable At This Time";
-    CopyFileA(test::OwnProgram().string().c_str(), "Tool One.exe", FALSE);
-    CopyFileA(test::OwnProgram().string().c_str(), "Tool.exe",
-              FALSE); // not meant, whatever the blank suggests
-    CreateDirectoryA("Tools", nullptr);
-    CopyFileA(test::OwnProgram().string().c_str(), "Tools\\MSINFO32.EXE", FALSE);
-    CreateDirectoryA("MSINFO32.EXE", nullptr);
-    const std::string longer(1025, 'x'); // than is read: as if it were missing
-    struct {
-        std::string path, folder, started;
-        DWORD pathType = REG_SZ;
-    } const cases[] = {
-        {longer, longer, ""},
-        {here + "Tool One.exe", here + "Tools", "Tool One.exe"},
-        {here + "gone.exe", here + "Tools", ""},
-        {"", here + "Tools", ""},
-        {std::string(1022, 'x'), here + "Tools", ""},
-        {here + "Tool One.exe", here + "Tools", "", REG_EXPAND_SZ},
-        {longer, here + "Tools", "Tools\\MSINFO32.EXE"},
-        {longer, here + "nowhere", ""},
-        {longer, here + ".", ""}, // a folder of the tool's name
-    };
-    EXPECT_EQ(Launch(), unavailable) << "no entry at all";
-    for (const auto& [path, toolFolder, started, type] : cases) {
-        machine.Set("SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", "PATH", type, path);
-        machine.Set("SOFTWARE\\Microsoft\\Shared Tools Location", "MSINFO", REG_SZ, toolFolder);
-        std::string seen = Launch();
-        if (seen == unavailable)
-            seen = Launch(); // Wine fails to start one now and then on a loaded machine
-        EXPECT_EQ(seen, started.empty() ? unavailable : '"' + here + started + "\" normal")
-            << path.substr(0, 100) << (FileExists(here + started) ? " is there" : " is missing");
-    }
+TEST_F(SystemInformation, IsTheToolOfThePath) {
+    EXPECT_EQ(Launch(here + "Tool One.exe", here + "Tools"),
+              '"' + here + "Tool One.exe\" in a normal window");
+}
+
+TEST_F(SystemInformation, IsTheToolInItsFolderWithoutAPath) {
+    EXPECT_EQ(LaunchTool(missing, here + "Tools"), '"' + here + "Tools\\MSINFO32.EXE\" in a normal window");
+}
+
+TEST_F(SystemInformation, IsUnavailableWithAPathThatStartsNothingWhateverTheFolderHas) {
+    for (const std::string& path : {here + "gone.exe", std::string(), std::string(1022, 'x')})
+        EXPECT_EQ(Launch(path, here + "Tools"), unavailable) << path;
+    EXPECT_EQ(Launch(here + "Tool One.exe", here + "Tools", REG_EXPAND_SZ), unavailable) << "no plain text";
+}
+
+TEST_F(SystemInformation, IsUnavailableWithoutAToolInItsFolder) {
+    CreateFolder("MSINFO32.EXE"); // a folder of the tool's name
+    for (const std::string& toolFolder : {missing, here + "nowhere", here + "."})
+        EXPECT_EQ(Launch(missing, toolFolder), unavailable) << toolFolder;
 }
 
 } // namespace

@@ -1,113 +1,159 @@
 #include "maintenance/WorkstationUpdate.h"
 
-#include "support/ModalTest.h"
-#include "support/WindowChecks.h"
+#include "resources/Ids.h"
+#include "support/DialogTest.h"
+#include "support/ScratchFolder.h"
 
 namespace obrin {
 namespace {
 
-constexpr const char* names[] = {"Tessel.exe", "Sweeper.exe", "Notebox.exe", "ShowAllFenns.exe", "Glass.exe"};
+using Texts = std::vector<std::string>;
 
-class UpdateWindow : public test::ModalTest {
+// What the progress label shows, one after the other.
+const Texts progress{"Updating:\r\nTessel.exe",       "Updating:\r\nSweeper.exe", "Updating:\r\nNotebox.exe",
+                     "Updating:\r\nShowAllFenns.exe", "Updating:\r\nGlass.exe",   "Updating:\r\nComplete"};
+
+class UpdateWindow : public test::DialogTest {
 protected:
     UpdateWindow() {
         SetEnvironmentVariableA("Tessel", "Local");
         for (const char* path : {"Local", "Tessel", "Tessel\\Exe"})
             CreateFolder(path);
-        for (const char* name : names)
-            WriteFileBytes(std::string("Tessel\\Exe\\") + name, name);
+        for (const std::string name : {"Tessel", "Sweeper", "Notebox", "ShowAllFenns", "Glass"})
+            WriteFileBytes("Tessel\\Exe\\" + name + ".exe", "new " + name);
     }
 
-    /// The update of a workstation. After each caption of the progress text `act` is called, with the window
-    /// and how many captions there were: hooks see messages without the window's knowing.
-    void Update(int wsid, std::function<void(HWND, std::size_t)> act) {
-        captions.clear();
-        onCaption = std::move(act);
+    /// Updates workstation 5 and presses the button at the end. Calls `act` with the window after each text
+    /// of the progress label, of which the window notices nothing.
+    void Update(const test::WindowAction& act = [](HWND) {}) {
+        onProgress = act;
         const HHOOK hook = SetWindowsHookExA(WH_CALLWNDPROCRET, Watch, nullptr, GetCurrentThreadId());
-        CheckWorkstationUpdate(owner, wsid);
+        CheckWorkstationUpdate(owner, 5);
         UnhookWindowsHookEx(hook);
     }
-
-    static void Okay(HWND window, std::size_t) {
-        if (captions.back() == "Complete")
-            PostMessageA(window, WM_COMMAND, IDOK, 0);
+    /// The same with one message to the window at one of the texts, counted from 1.
+    void UpdateAndSend(std::size_t text, UINT message) {
+        Update([=](HWND window) {
+            if (shown.size() == text)
+                SendMessageA(window, message, 0, 0);
+        });
     }
 
-    static inline std::vector<std::string> captions; // in order, without their first line
-    static inline bool paintedBeforeCopy = false;
+    static inline Texts shown;
+    static inline bool isPaintedBeforeCopy;
+
+    const test::ScratchFolder folder;
 
 private:
+    void SetUp() override {
+        shown.clear();
+        isPaintedBeforeCopy = false;
+    }
+
     static LRESULT CALLBACK Watch(int code, WPARAM wParam, LPARAM lParam) {
         const auto& message = *reinterpret_cast<const CWPRETSTRUCT*>(lParam);
         if (code == HC_ACTION && message.message == WM_SETTEXT && GetDlgCtrlID(message.hwnd) == IDC_LABEL1) {
-            const std::string caption = reinterpret_cast<const char*>(message.lParam);
-            EXPECT_TRUE(caption.starts_with("Updating:\r\n"));
-            captions.push_back(caption.substr(11));
-            onCaption(GetParent(message.hwnd), captions.size());
+            const HWND window = GetParent(message.hwnd);
+            shown.emplace_back(reinterpret_cast<const char*>(message.lParam));
+            if (shown.back() == progress.back())
+                PostMessageA(window, WM_COMMAND, IDOK, 0);
+            onProgress(window);
         }
-        // Later captions are drawn by the label itself, when it gets them.
-        if (code == HC_ACTION && message.message == WM_PAINT && captions.size() == 1)
-            paintedBeforeCopy = paintedBeforeCopy || !FileExists("Local\\Tessel.exe");
+        if (code == HC_ACTION && message.message == WM_PAINT && !FileExists("Local\\Tessel.exe"))
+            isPaintedBeforeCopy = true;
         return CallNextHookEx(nullptr, code, wParam, lParam);
     }
 
-    static inline std::function<void(HWND, std::size_t)> onCaption;
-    const test::ScratchFolder folder;
+    static inline test::WindowAction onProgress;
 };
 
-TEST_F(UpdateWindow, CopiesOnceAndAgainOnEveryResizeAndEntersTheWorkstation) {
+TEST_F(UpdateWindow, ShowsEachFileAlsoOneThatCannotBeCopied) {
+    DeleteFileA("Tessel\\Exe\\Sweeper.exe");
+    Update();
+    EXPECT_EQ(shown, progress);
+}
+
+TEST_F(UpdateWindow, CopiesTheFilesOverOlderOnes) {
     WriteFileBytes("Local\\Glass.exe", "old version");
-    Update(5, [](HWND window, std::size_t shown) {
-        EXPECT_TRUE(IsWindowVisible(window));
-        const std::vector<RECT> label = test::Places(GetDlgItem(window, IDC_LABEL1));
-        RECT inner;
-        GetClientRect(window, &inner);
-        EXPECT_EQ(std::tuple(label[0].left, label[0].top, label[0].bottom),
-                  std::tuple(inner.bottom / 16, inner.bottom / 4, inner.bottom / 4 * 2));
-        const std::string font = test::FontOf(GetDlgItem(window, IDC_LABEL1));
-        EXPECT_EQ(font,
-                  "Georgia-" + std::to_string(MulDiv(10, static_cast<int>(GetDpiForWindow(window)), 72)));
-        EXPECT_EQ(font, test::FontOf(GetDlgItem(window, IDC_LABEL2)));
-        const HWND okay = GetDlgItem(window, IDOK);
-        EXPECT_EQ(IsWindowVisible(okay) && GetFocus() == okay, shown > 6) << "once all are copied";
-        // The notification alone: how often a display tells of a real resize is its own affair.
-        if (captions.back() == "Complete" && shown < 18)
-            SendMessageA(window, WM_SIZE, SIZE_RESTORED, 0);
-        else
-            Okay(window, shown);
-    });
-    ASSERT_EQ(captions.size(), 18U);
-    EXPECT_TRUE(paintedBeforeCopy) << "a copy may take minutes";
-    for (std::size_t i = 0; i < captions.size(); ++i)
-        EXPECT_EQ(captions[i], i % 6 == 5 ? "Complete" : names[i % 6]);
-    for (const char* name : names)
-        EXPECT_EQ(ReadFileBytes(std::string("Local\\") + name), name);
-    EXPECT_EQ(ReadFileBytes("Updated.txt"), "005");
-    Update(5, Okay);
-    EXPECT_EQ(captions.size(), 0U) << "no second window";
-    for (const int wsid : {-7, 1234})
-        Update(wsid, Okay);
-    EXPECT_EQ(ReadFileBytes("Updated.txt"), "005-00123") << "three bytes each";
+    Update();
+    for (const std::string name : {"Tessel", "Sweeper", "Notebox", "ShowAllFenns", "Glass"})
+        EXPECT_EQ(ReadFileBytes("Local\\" + name + ".exe"), "new " + name);
 }
 
-TEST_F(UpdateWindow, ClosedWhileCopyingStillCopiesTheRest) {
-    Update(5, [this](HWND window, std::size_t shown) {
-        EXPECT_FALSE(IsWindowEnabled(owner)) << "until they are copied";
-        if (shown == 2)
-            PostMessageA(window, WM_CLOSE, 0, 0);
-    });
-    EXPECT_TRUE(FileExists("Local\\Glass.exe"));
+TEST_F(UpdateWindow, EntersTheWorkstationWhenItIsClosed) {
+    Update([](HWND) { EXPECT_EQ(ReadFileBytes("Updated.txt"), ""); });
     EXPECT_EQ(ReadFileBytes("Updated.txt"), "005");
 }
 
-TEST_F(UpdateWindow, EndOfTheMenuWhileCopyingEntersNothing) {
-    Update(5, [this](HWND, std::size_t shown) {
-        if (shown == 2)
+TEST_F(UpdateWindow, IsNotShownForAWorkstationThatIsEntered) {
+    WriteFileBytes("Updated.txt", "001005");
+    Update();
+    EXPECT_TRUE(shown.empty());
+}
+
+// A copy can take minutes, in which nothing is painted.
+TEST_F(UpdateWindow, IsPaintedBeforeTheFirstCopy) {
+    Update();
+    EXPECT_TRUE(isPaintedBeforeCopy);
+}
+
+TEST_F(UpdateWindow, CopiesAgainAfterAResize) {
+    UpdateAndSend(progress.size(), WM_SIZE);
+    EXPECT_EQ(shown.size(), 2 * progress.size());
+}
+
+TEST_F(UpdateWindow, ResizedWhileCopyingFinishesThatFirst) {
+    UpdateAndSend(2, WM_SIZE);
+    ASSERT_EQ(shown.size(), 2 * progress.size());
+    EXPECT_EQ(Texts(shown.begin(), shown.begin() + 6), progress);
+}
+
+TEST_F(UpdateWindow, HidesOkayWhileItCopies) {
+    Update([](HWND window) { EXPECT_FALSE(IsWindowVisible(GetDlgItem(window, IDOK))) << shown.back(); });
+}
+
+TEST_F(UpdateWindow, GivesOkayTheKeyboardWhenItIsComplete) {
+    int focused = 0;
+    ActsInDialog(
+        owner, [this] { CheckWorkstationUpdate(owner, 5); },
+        [&](HWND) { focused = GetDlgCtrlID(GetFocus()); },
+        [](HWND window) { return IsWindowVisible(GetDlgItem(window, IDOK)); });
+    EXPECT_EQ(focused, IDOK);
+}
+
+TEST_F(UpdateWindow, HasItsProgressLabelInTheSecondQuarterOfItsHeight) {
+    Update([](HWND window) {
+        const RECT label = test::PlaceOf(GetDlgItem(window, IDC_LABEL1));
+        RECT inside;
+        GetClientRect(window, &inside);
+        EXPECT_EQ(label.top, inside.bottom / 4);
+        EXPECT_EQ(label.bottom - label.top, inside.bottom / 4);
+    });
+}
+
+TEST_F(UpdateWindow, HasItsLabelsInGeorgia) {
+    Update([](HWND window) {
+        for (const int label : {IDC_LABEL1, IDC_LABEL2})
+            EXPECT_STREQ(test::FontShapeOf(GetDlgItem(window, label)).lfFaceName, "Georgia");
+    });
+}
+
+TEST_F(UpdateWindow, ClosedWhileCopyingStaysUntilAllIsCopied) {
+    Update([this](HWND window) {
+        if (shown.size() == 2)
+            SendMessageA(window, WM_CLOSE, 0, 0);
+        EXPECT_FALSE(IsWindowEnabled(owner)) << "the menu could be used";
+    });
+    EXPECT_EQ(shown, progress);
+}
+
+TEST_F(UpdateWindow, GoneWithTheMenuCopiesNoMoreAndIsShownAtTheNextStart) {
+    Update([this](HWND) {
+        if (shown.size() == 2)
             PostMessageA(owner, WM_CLOSE, 0, 0);
     });
+    EXPECT_FALSE(FileExists("Local\\Notebox.exe"));
     EXPECT_EQ(ReadFileBytes("Updated.txt"), "");
-    EXPECT_TRUE(FileExists("Local\\Sweeper.exe"));
-    EXPECT_FALSE(FileExists("Local\\Notebox.exe")) << "not begun";
 }
 
 } // namespace

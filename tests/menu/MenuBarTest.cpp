@@ -1,7 +1,7 @@
 #include "menu/MenuCommands.h"
 
 #include "menu/MenuFiles.h"
-#include "platform/WindowsApi.h"
+#include "platform/Handle.h"
 #include "resources/Ids.h"
 
 #include <gtest/gtest.h>
@@ -11,31 +11,36 @@
 namespace obrin {
 namespace {
 
-// A line for each item: its caption, and what it does while UB.mnu is shown or else its number.
+// A line for each item: its caption, and what it does while UB.mnu is shown or else its number. Items of a
+// popup stand below its caption.
 std::string Listed(HMENU menu) {
     std::string lines;
     for (int i = 0; i < GetMenuItemCount(menu); ++i) {
         std::array<char, 100> caption{};
         GetMenuStringA(menu, static_cast<UINT>(i), caption.data(), caption.size(), MF_BYPOSITION);
         const auto id = static_cast<int>(GetMenuItemID(menu, i));
-        lines.append(caption.data()).append(" = ");
+        lines += caption.data();
         if (const HMENU popup = GetSubMenu(menu, i))
-            lines += "\n" + Listed(popup);
+            lines += ":\n" + Listed(popup);
         else if (const auto program = HostProgramOf(id))
-            lines.append(*program).append("\n");
+            lines.append(" = ").append(*program).append("\n");
         else
-            lines.append(DocumentOf(id, "UB.mnu", nullptr).value_or(std::to_string(id))).append("\n");
+            lines += " = " + DocumentOf(id, "UB.mnu", nullptr).value_or(std::to_string(id)) + "\n";
     }
     return lines;
 }
 
-TEST(MenuBar, HasItsItemsInOrderAndEachDoesItsWork) {
-    const HMENU bar = LoadMenuA(Instance(), MAKEINTRESOURCEA(IDR_MENU_BAR));
-    FillSystemList(bar, {{"UB.mnu", "Utility"}, {"PR.mnu", "Payroll"}});
-    EXPECT_EQ(Listed(bar), R"(System List = 
+UniqueMenu Load(int menu) {
+    return UniqueMenu(LoadMenuA(Instance(), MAKEINTRESOURCEA(menu)));
+}
+
+TEST(MenuBar, HasItsItemsInOrder) {
+    const UniqueMenu bar = Load(IDR_MENU_BAR);
+    FillSystemList(bar.get(), {{"UB.mnu", "Utility"}, {"PR.mnu", "Payroll"}});
+    EXPECT_EQ(Listed(bar.get()), R"(System List:
 Utility = 400
 Payroll = 401
-&Core Programs = 
+&Core Programs:
 &Backup = Core\Programs\CSBackup
 &Restore = Core\Programs\CSRestore
  = 0
@@ -46,7 +51,7 @@ Payroll = 401
 Redirected &Print = Core\Programs\RePrint
 Apply Obrin &Updates = Core\Programs\Update\File
 Print &Test = Core\Programs\PrintTest
-&Help = 
+&Help:
 Core &Help = Help\Index.html
 System &Help = Help\UB\Index.html
  = 0
@@ -54,11 +59,16 @@ Obrin &Website = Help\Obrin-Web.url
 Obrin &User Website = Obrin-User.url
 A&bout Obrin = 314
 )");
-    EXPECT_EQ(Listed(LoadMenuA(Instance(), MAKEINTRESOURCEA(IDR_TREE_POPUP))),
-              "TreeView Stuff = \n&Properties = 321\n&Help = 322\n");
-    const HMENU bare = LoadMenuA(Instance(), MAKEINTRESOURCEA(IDR_MENU_BAR));
-    FillSystemList(bare, {});
-    EXPECT_TRUE(Listed(bare).starts_with("&Core Programs")) << "no list of nothing";
+}
+
+TEST(MenuBar, LeavesOutASystemListWithoutSystems) {
+    const UniqueMenu bar = Load(IDR_MENU_BAR);
+    FillSystemList(bar.get(), {});
+    EXPECT_TRUE(Listed(bar.get()).starts_with("&Core Programs:"));
+}
+
+TEST(MenuBar, PopupOfTheTreeHasPropertiesAndHelp) {
+    EXPECT_EQ(Listed(Load(IDR_TREE_POPUP).get()), "TreeView Stuff:\n&Properties = 321\n&Help = 322\n");
 }
 
 } // namespace

@@ -2,78 +2,131 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 namespace obrin {
 namespace {
 
-// "text=key" of each program and "text(...)" of each heading with what is below it, from this item on.
-std::string Shape(const MenuTree& tree, HTREEITEM item) {
-    std::string shape;
-    for (; item != nullptr; item = TreeView_GetNextSibling(tree.Window(), item)) {
-        char text[100] = "";
-        TVITEMA query{};
-        query.mask = TVIF_TEXT;
-        query.hItem = item;
-        query.pszText = text;
-        query.cchTextMax = sizeof text;
-        TreeView_GetItem(tree.Window(), &query);
-        TreeView_SelectItem(tree.Window(), item);
-        const std::string key(tree.SelectedKey());
-        shape += text + (tree.IsProgramNode() ? "=" + key + " " : key);
-        if (const HTREEITEM child = TreeView_GetChild(tree.Window(), item))
-            shape += "(" + Shape(tree, child) + ")";
-    }
-    return shape;
-}
+using Place = std::pair<int, int>;
 
-TEST(MenuTree, HasTheEntriesInTheirOrderAndOffersThePopupOfOne) {
+class Tree : public testing::Test {
+protected:
+    Tree() {
+        tree.Attach(window, {.run = {}, .popUp = [this](int x, int y) { popUps.emplace_back(x, y); }});
+        ShowWindow(window, SW_SHOWNOACTIVATE);
+        SetCursorPos(20, 30);
+    }
+    ~Tree() override { DestroyWindow(window); }
+
+    /// Shows a system with these entries.
+    void Fill(const std::string& entries) {
+        tree.Clear();
+        tree.Fill(ParseMenuDefinition("Title\r" + entries, nullptr).entries);
+    }
+    HTREEITEM First() const { return TreeView_GetRoot(window); }
+    void Select(HTREEITEM node) const { TreeView_SelectItem(window, node); }
+
+    /// From a node on: "key " of each program and "(...)" of each heading with what is below it.
+    std::string Shape(HTREEITEM node) const {
+        std::string shape;
+        for (; node != nullptr; node = TreeView_GetNextSibling(window, node)) {
+            Select(node);
+            const std::string key(tree.SelectedKey());
+            shape += key.empty() ? "(" + Shape(TreeView_GetChild(window, node)) + ")" : key + " ";
+        }
+        return shape;
+    }
+
+    /// A right click of this moment; the clicks that the tree puts in behind it get lost.
+    void RightClick() const {
+        MSG message;
+        while (PeekMessageA(&message, nullptr, WM_MOUSEFIRST, WM_MOUSELAST, PM_REMOVE))
+            continue;
+        PostMessageA(window, WM_APP, 0, 0);
+        PeekMessageA(&message, nullptr, WM_APP, WM_APP, PM_REMOVE); // whose time is the click's
+        SendMessageA(window, WM_RBUTTONDOWN, 0, 0);
+    }
+
     const HWND window = CreateWindowExA(WS_EX_TOPMOST, WC_TREEVIEWA, "", WS_POPUP | TVS_HASLINES, 0, 0, 200,
                                         50, nullptr, nullptr, nullptr, nullptr);
     MenuTree tree;
-    std::vector<int> popUps;
-    tree.Attach(window, {.run = {}, .popUp = [&](int x, int y) { popUps.push_back(1000 * x + y); }});
-    ShowWindow(window, SW_SHOWNOACTIVATE);
-    for (int round = 0; round < 2; ++round) { // another system takes the place of the first
-        tree.Clear();
-        UpdateWindow(window);
-        EXPECT_FALSE(tree.IsProgramNode());
-        tree.Fill(ParseMenuDefinition("T\ra\r>b^K1\r>\xE4\r>>d^K2\r>^K3\re^K4", nullptr).entries);
-        EXPECT_TRUE(GetUpdateRect(window, nullptr, FALSE)) << "painted anew";
-        EXPECT_TRUE(!tree.IsProgramNode() && tree.SelectedKey().empty());
-        EXPECT_EQ(TreeView_GetSelection(window), nullptr) << "without the keyboard";
-        const HTREEITEM a = TreeView_GetRoot(window);
-        EXPECT_EQ(TreeView_GetNextVisible(window, a), TreeView_GetNextSibling(window, a)) << "collapsed";
-        EXPECT_EQ(Shape(tree, a), "a(b=K1 \xE4(d=K2 )K3)e=K4 ") << "K3 has no text: not a program's";
+    std::vector<Place> popUps; // where the popup was asked for
+};
+
+TEST_F(Tree, HangsEntriesBelowTheirHeadings) {
+    Fill("Billing\r>Post^K1\r>Reports\r>>Journal^K2\rBackup^K3");
+    EXPECT_EQ(Shape(First()), "(K1 (K2 ))K3 ");
+}
+
+TEST_F(Tree, HoldsOneSystemAtATime) {
+    Fill("Billing\r>Post^K1");
+    Fill("Zoning^K2");
+    EXPECT_EQ(Shape(First()), "K2 ");
+}
+
+TEST_F(Tree, IsCollapsedAndWithoutASelectionAtFirst) {
+    Fill("Billing\r>Post^K1");
+    EXPECT_EQ(TreeView_GetNextVisible(window, First()), nullptr);
+    EXPECT_EQ(TreeView_GetSelection(window), nullptr);
+    EXPECT_EQ(tree.SelectedKey(), "");
+}
+
+TEST_F(Tree, IsPaintedWhenItIsFilled) {
+    UpdateWindow(window);
+    Fill("Backup^K");
+    EXPECT_TRUE(GetUpdateRect(window, nullptr, FALSE));
+}
+
+TEST_F(Tree, NodesWithTextAndKeyArePrograms) {
+    for (const auto& [entry, isProgram] : {std::pair{"Backup^K", true}, {"Heading", false}, {"^K", false}}) {
+        Fill(entry);
+        EXPECT_FALSE(tree.IsProgramNode()) << "nothing is selected";
+        Select(First());
+        EXPECT_EQ(tree.IsProgramNode(), isProgram) << entry;
     }
-    TreeView_SelectItem(window, TreeView_GetRoot(window));
-    SendMessageA(window, WM_CHAR, 'e', 1);
-    EXPECT_EQ(tree.SelectedKey(), "K4") << "found by its letter";
-    SendMessageA(window, WM_VSCROLL, SB_TOP, 0); // away from the last one, which is selected
+}
+
+TEST_F(Tree, LetterSelectsTheNodeThatBeginsWithIt) {
+    Fill("Billing^K1\rBackup^K2\rZoning^K3");
+    Select(First());
+    SendMessageA(window, WM_CHAR, 'z', 1);
+    EXPECT_EQ(tree.SelectedKey(), "K3");
+}
+
+TEST_F(Tree, MenuKeyAsksForThePopupBelowTheSelectedNode) {
+    Fill("A^1\rB^2\rC^3\rD^4\rE^5\rZ^6"); // more than there is room for
+    Select(First());
+    SendMessageA(window, WM_CHAR, 'z', 1);
+    SendMessageA(window, WM_VSCROLL, SB_TOP, 0); // out of sight
     SendMessageA(window, WM_CONTEXTMENU, 0, -1);
-    ASSERT_EQ(popUps.size(), 1U);
     union {
         HTREEITEM item;
         RECT text;
-    } last{TreeView_GetSelection(window)};
-    SendMessageA(window, TVM_GETITEMRECT, TRUE, reinterpret_cast<LPARAM>(&last));
-    EXPECT_LE(last.text.bottom, 50) << "in sight";
-    EXPECT_EQ(popUps[0], 1000 * last.text.left + last.text.bottom);
-    SetCursorPos(20, 30);
-    const UINT late = GetDoubleClickTime() + 50; // too late for the click before
-    for (const auto& [pause, click, shown] : {std::tuple{0U, WM_RBUTTONDOWN, 1U},
-                                              {late, WM_RBUTTONDOWN, 1U},
-                                              {0U, WM_RBUTTONDBLCLK, 2U},
-                                              {0U, WM_RBUTTONDOWN, 2U}}) {
-        Sleep(pause);
-        MSG message;
-        while (PeekMessageA(&message, nullptr, WM_MOUSEFIRST, WM_MOUSELAST, PM_REMOVE))
-            continue; // the clicks that were put in get lost
-        PostMessageA(window, WM_APP, 0, 0);
-        PeekMessageA(&message, nullptr, WM_APP, WM_APP, PM_REMOVE); // whose time is now
-        SendMessageA(window, static_cast<UINT>(click), 0, 0);
-        EXPECT_EQ(popUps.size(), shown) << pause;
-    }
-    EXPECT_EQ(popUps[1], 20'030) << "at the pointer";
-    DestroyWindow(window);
+    } place{TreeView_GetSelection(window)};
+    SendMessageA(window, TVM_GETITEMRECT, TRUE, reinterpret_cast<LPARAM>(&place));
+    EXPECT_LE(place.text.bottom, 50) << "in sight";
+    EXPECT_EQ(popUps, (std::vector<Place>{{place.text.left, place.text.bottom}}));
+}
+
+// The first click puts in two others: a left one that selects the node, and a right one.
+TEST_F(Tree, SecondRightClickAsksForThePopupAtThePointer) {
+    RightClick();
+    EXPECT_TRUE(popUps.empty());
+    RightClick();
+    EXPECT_EQ(popUps, (std::vector<Place>{{20, 30}}));
+}
+
+TEST_F(Tree, ThirdRightClickIsAFirstOneAgain) {
+    for (int click = 0; click < 3; ++click)
+        RightClick();
+    EXPECT_EQ(popUps.size(), 1U);
+}
+
+TEST_F(Tree, LateRightClickIsAFirstOneAgain) {
+    RightClick();
+    Sleep(GetDoubleClickTime() + 50); // the clicks that were put in got lost
+    RightClick();
+    EXPECT_TRUE(popUps.empty());
 }
 
 } // namespace

@@ -1,0 +1,165 @@
+// What the built programs and the library tell the platform of themselves: in their headers, their version
+// resources and their manifests. What got lost there would show nowhere else.
+
+#include "platform/Workstation.h"
+#include "support/Machine.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <set>
+#include <vector>
+
+namespace obrin::test {
+namespace {
+
+std::string PathOf(const char* image) {
+    return OwnProgram().replace_filename(image).string();
+}
+
+struct ImageFile {
+    const char* name;
+    const char* description;
+};
+
+class Image : public testing::TestWithParam<ImageFile> {
+protected:
+    Image() { GetFileVersionInfoA(file.c_str(), 0, static_cast<DWORD>(version.size()), version.data()); }
+
+    /// A part of the version resource; null when it is missing.
+    template <class Part>
+    const Part* VersionPart(const std::string& path) {
+        void* found = nullptr;
+        UINT length = 0;
+        VerQueryValueA(version.data(), path.c_str(), &found, &length);
+        return static_cast<const Part*>(found);
+    }
+
+    const std::string name = GetParam().name, file = PathOf(GetParam().name);
+    // Mapped but not linked; the lowest bits of the handle say so.
+    const std::uintptr_t mapped = reinterpret_cast<std::uintptr_t>(
+        LoadLibraryExA(file.c_str(), nullptr, LOAD_LIBRARY_AS_IMAGE_RESOURCE));
+    const char* base = reinterpret_cast<const char*>(mapped & ~std::uintptr_t{3});
+    const IMAGE_NT_HEADERS& headers = *reinterpret_cast<const IMAGE_NT_HEADERS*>(
+        base + reinterpret_cast<const IMAGE_DOS_HEADER*>(base)->e_lfanew);
+    std::vector<char> version = std::vector<char>(GetFileVersionInfoSizeA(file.c_str(), nullptr));
+};
+
+INSTANTIATE_TEST_SUITE_P(, Image,
+                         testing::Values(ImageFile{"ObrinMenu.exe", "Obrin system menu"},
+                                         ImageFile{"ObrinCheck.exe", "Obrin installation checker"},
+                                         ImageFile{"Corvel.dll", "Obrin support library"}));
+
+TEST_P(Image, NeedsWindows10) {
+    EXPECT_EQ(headers.OptionalHeader.MajorSubsystemVersion, 10);
+    EXPECT_EQ(headers.OptionalHeader.MinorSubsystemVersion, 0);
+}
+
+TEST_P(Image, HasTheProtectionsOfThePlatform) {
+    const WORD all = IMAGE_DLLCHARACTERISTICS_DYNAMIC_BASE | IMAGE_DLLCHARACTERISTICS_NX_COMPAT |
+                     (sizeof(void*) == 8 ? IMAGE_DLLCHARACTERISTICS_HIGH_ENTROPY_VA : 0);
+    EXPECT_EQ(headers.OptionalHeader.DllCharacteristics & all, all);
+}
+
+// Otherwise a terminal server shows a program a Windows folder of the user's own.
+TEST_P(Image, IsAwareOfTerminalServers) {
+    const bool isAware =
+        (headers.OptionalHeader.DllCharacteristics & IMAGE_DLLCHARACTERISTICS_TERMINAL_SERVER_AWARE) != 0;
+    EXPECT_EQ(isAware, file.ends_with(".exe")) << "of no meaning in a library";
+}
+
+// A lost connection to the share then does not end a running menu.
+TEST_P(Image, IsCopiedToSwapWhenItRunsFromAShare) {
+    EXPECT_TRUE(headers.FileHeader.Characteristics & IMAGE_FILE_NET_RUN_FROM_SWAP);
+}
+
+// The platform loads these from its own folder, whatever lies in the program's, which every operator may
+// write to. COMCTL32.DLL is found by the manifest.
+TEST_P(Image, LoadsOnlyLibrariesOfTheSystem) {
+    const std::set<std::string> known{"ADVAPI32.DLL", "COMCTL32.DLL", "GDI32.DLL",    "KERNEL32.DLL",
+                                      "MSVCRT.DLL",   "OLE32.DLL",    "OLEAUT32.DLL", "SHELL32.DLL",
+                                      "SHLWAPI.DLL",  "USER32.DLL"};
+    const DWORD place = headers.OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT].VirtualAddress;
+    for (const auto* import = reinterpret_cast<const IMAGE_IMPORT_DESCRIPTOR*>(base + place);
+         import->Name != 0; ++import)
+        EXPECT_TRUE(known.contains(UpperCase(base + import->Name))) << base + import->Name;
+}
+
+TEST_P(Image, HasTheVersionOfTheProject) {
+    const auto* numbers = VersionPart<VS_FIXEDFILEINFO>("\\");
+    ASSERT_NE(numbers, nullptr);
+    EXPECT_EQ(std::to_string(HIWORD(numbers->dwFileVersionMS)) + "." +
+                  std::to_string(LOWORD(numbers->dwFileVersionMS)) + "." +
+                  std::to_string(numbers->dwFileVersionLS),
+              OBRIN_PROJECT_VERSION);
+}
+
+TEST_P(Image, SaysWhatItIs) {
+    const std::pair<const char*, std::string> fields[] = {
+        {"CompanyName", "Obrin Software Systems"},
+        {"ProductName", "Obrin Core System"},
+        {"FileDescription", GetParam().description},
+        {"InternalName", name.substr(0, name.find('.'))},
+        {"OriginalFilename", name},
+        {"FileVersion", OBRIN_PROJECT_VERSION},
+        {"ProductVersion", OBRIN_PROJECT_VERSION},
+    };
+    const auto* language = VersionPart<DWORD>("\\VarFileInfo\\Translation");
+    ASSERT_NE(language, nullptr);
+    EXPECT_EQ(*language, 0x04E40409U) << "American English in code page 1252";
+    for (const auto& [field, text] : fields)
+        EXPECT_STREQ(VersionPart<char>(std::string("\\StringFileInfo\\040904E4\\") + field), text.c_str());
+}
+
+// --- Manifests ---
+
+// An activation context, in which the platform keeps what a manifest says.
+HANDLE ManifestOf(const char* program) {
+    const std::string file = PathOf(program);
+    ACTCTXA request{};
+    request.cbSize = sizeof request;
+    request.dwFlags = ACTCTX_FLAG_RESOURCE_NAME_VALID;
+    request.lpSource = file.c_str();
+    request.lpResourceName = MAKEINTRESOURCEA(1); // the manifest of a program
+    return CreateActCtxA(&request);
+}
+
+template <class Information>
+const Information* About(HANDLE manifest, ACTIVATION_CONTEXT_INFO_CLASS kind, DWORD library = 0) {
+    static std::vector<char> room(10'000);
+    const BOOL found = QueryActCtxW(0, manifest, &library, kind, room.data(), room.size(), nullptr);
+    return found != FALSE ? reinterpret_cast<const Information*>(room.data()) : nullptr;
+}
+
+TEST(MenuManifest, FollowsTheDpiOfEachScreen) {
+    wchar_t value[100] = L"";
+    QueryActCtxSettingsW(0, ManifestOf("ObrinMenu.exe"),
+                         L"http://schemas.microsoft.com/SMI/2016/WindowsSettings", L"dpiAwareness", value,
+                         std::size(value), nullptr);
+    EXPECT_STREQ(value, L"PerMonitorV2, system");
+}
+
+TEST(MenuManifest, AsksForThemedControls) {
+    constexpr DWORD behindTheProgram = 2;
+    const auto* library = About<ACTIVATION_CONTEXT_ASSEMBLY_DETAILED_INFORMATION>(
+        ManifestOf("ObrinMenu.exe"), AssemblyDetailedInformationInActivationContext, behindTheProgram);
+    ASSERT_NE(library, nullptr);
+    const std::wstring identity = library->lpAssemblyEncodedAssemblyIdentity;
+    EXPECT_TRUE(identity.starts_with(L"Microsoft.Windows.Common-Controls,")) << identity;
+    EXPECT_NE(identity.find(L"version=\"6."), std::wstring::npos) << identity;
+}
+
+// The 32-bit menu keeps the platform's write redirection for classic programs. In the checker it would make
+// copies of the files that it only tries to write.
+TEST(Manifests, AskForARunLevelInTheCheckerAlone) {
+    for (const auto& [program, level] : {std::pair{"ObrinMenu.exe", ACTCTX_RUN_LEVEL_UNSPECIFIED},
+                                         {"ObrinCheck.exe", ACTCTX_RUN_LEVEL_AS_INVOKER}}) {
+        const auto* asked = About<ACTIVATION_CONTEXT_RUN_LEVEL_INFORMATION>(
+            ManifestOf(program), RunlevelInformationInActivationContext);
+        ASSERT_NE(asked, nullptr) << program;
+        EXPECT_EQ(asked->RunLevel, level) << program;
+    }
+}
+
+} // namespace
+} // namespace obrin::test
