@@ -1,5 +1,5 @@
-// What holds for every window, on screens of several DPI and with large letters: its controls stay apart and
-// inside, their texts are shown whole, and the Tab key goes through the window as a person reads it.
+// What holds for every window, on screens of several DPI and with large letters: controls lie inside their
+// parents and apart from each other, texts are shown whole, and the Tab key follows the reading order.
 
 #include "controls/WindowTest.h"
 
@@ -12,7 +12,7 @@ int AtDpi(LONG pixels, UINT dpi, UINT ofDpi = 96) {
     return MulDiv(pixels, static_cast<int>(dpi), static_cast<int>(ofDpi));
 }
 
-// Lets the user have a message font of that size for as long as `act` takes.
+// Changes the user's message font while `act` runs.
 void WithMessageFont(int points, const std::function<void()>& act) {
     NONCLIENTMETRICSA before{};
     before.cbSize = sizeof before;
@@ -24,7 +24,8 @@ void WithMessageFont(int points, const std::function<void()>& act) {
     SystemParametersInfoA(SPI_SETNONCLIENTMETRICS, sizeof before, &before, 0);
 }
 
-// Moves a window as the platform does: it may know its own size there. Then a setting of the user's changes.
+// Moves a window to a screen as the platform does: first it asks the window for its size there. Then a
+// setting of the user changes on that screen.
 void MoveToScreen(HWND window, UINT dpi, SIZE size) {
     if (SIZE own{}; SendMessageA(window, WM_GETDPISCALEDSIZE, dpi, reinterpret_cast<LPARAM>(&own)) != 0)
         size = own;
@@ -40,7 +41,7 @@ class EveryWindow : public WindowTest, public testing::WithParamInterface<Opened
 protected:
     void WhileOpened(const WindowAction& act) { (this->*GetParam().whileOpen)(act); }
 
-    /// Opens the window, takes it to one screen after the other, and checks it there.
+    /// Opens the window, moves it to one screen after the other, and checks it there.
     void OnScreens(const std::vector<UINT>& dpis, const std::function<void(HWND, UINT)>& check) {
         WhileOpened([&](HWND window) {
             const SIZE size = SizeOf(PlaceOf(window));
@@ -53,8 +54,8 @@ protected:
         });
     }
 
-    /// Checks it on screens of three DPI, and then with a large message font. Only the menu window has that
-    /// font: the dialogs have "MS Shell Dlg" of 8 points whatever the user has chosen.
+    /// Checks the window on screens of three DPI, and then with a large message font. Only the menu window
+    /// uses that font: the dialogs keep "MS Shell Dlg" of 8 points whatever the user has chosen.
     void OnEveryScreen(const WindowAction& check) {
         OnScreens({192, 144, 96}, [&](HWND window, UINT) { check(window); });
         SCOPED_TRACE("message font of 14 points");
@@ -72,7 +73,7 @@ bool Contains(const RECT& outer, const RECT& inner) {
            inner.bottom <= outer.bottom;
 }
 
-// The place without the caption of the group box.
+// The part of the place that is below the caption of the group box.
 RECT Below(RECT place, HWND groupBox) {
     place.top += TextSize(groupBox, WindowText(groupBox), place.right - place.left).cy;
     return place;
@@ -119,7 +120,7 @@ TEST_P(EveryWindow, KeepsControlsApart) {
     });
 }
 
-// The size that a control needs for its text; none for a control without a text of its own.
+// The size that a control needs for its text. Zeros for a control that shows no fixed text.
 SIZE NeededFor(HWND control, LONG width) {
     const std::string text = WindowText(control);
     if (IsLabel(control) && !HasStyle(control, SS_PATHELLIPSIS)) // which shortens a path on purpose
@@ -127,7 +128,7 @@ SIZE NeededFor(HWND control, LONG width) {
     if (HasClass(control, WC_BUTTONA)) // with a border on each side
         return TextSize(control, "n" + text + "n", width, DT_SINGLELINE);
     if (HasClass(control, WC_TABCONTROLA))
-        return {TabPlace(control, 2).right, 0}; // the last one
+        return {TabPlace(control, 2).right, 0}; // the last of the three tabs
     return {};
 }
 
@@ -152,7 +153,7 @@ std::vector<HWND> TabStops(HWND window) {
     return stops;
 }
 
-// A label takes keys when it can be clicked.
+// Whether the keyboard is for this control. A label that can be clicked is a link.
 bool TakesKeys(HWND control) {
     const auto isOneOf = [=](auto... names) { return (HasClass(control, names) || ...); };
     return isOneOf(WC_EDITA, WC_COMBOBOXA, TRACKBAR_CLASSA, WC_TREEVIEWA, WC_TABCONTROLA) ||
@@ -170,7 +171,7 @@ TEST_P(EveryWindow, TabKeyReachesTheControlsThatTakeKeys) {
     });
 }
 
-// Where a person sees a control in the window. The tabs of a tab strip are above its page.
+// Where a person sees a control in the window. Of a tab strip that is the row of tabs above the page.
 RECT SeenAt(HWND control, HWND window) {
     RECT place = PlaceOf(control);
     if (HasClass(control, WC_TABCONTROLA))
@@ -179,9 +180,9 @@ RECT SeenAt(HWND control, HWND window) {
     return place;
 }
 
-// Each control is below or to the right of the one before it. The keys go round in a circle, which may begin
-// anywhere: in Properties the tabs are the first that one reads and come behind the buttons, and the input
-// box begins with its answer. So exactly one step leads back.
+// Each control is below or to the right of the one before it. The Tab key goes round in a circle, which may
+// begin anywhere: in Properties the tabs come after the buttons, and the input box begins with the answer. So
+// exactly one step of the circle leads back.
 TEST_P(EveryWindow, TabKeyGoesInReadingOrder) {
     WhileOpened([](HWND window) {
         const std::vector<HWND> stops = TabStops(window);
@@ -201,13 +202,13 @@ TEST_P(EveryWindow, TabKeyGoesInReadingOrder) {
 struct Look {
     HWND control;
     RECT place;
-    LONG fontHeight; // 0 for a page, which has no text of its own
+    LONG fontHeight; // 0 for a page, which shows no text itself
 };
 
 std::vector<Look> LooksOf(HWND window) {
     std::vector<Look> looks;
     for (const HWND control : ShownControls(window)) {
-        RECT place; // with its list, where the platform tells it
+        RECT place; // of a combo box with its list, if the platform says how large that is
         if (SendMessageA(control, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&place)) != 0)
             MapWindowPoints(nullptr, GetParent(control), reinterpret_cast<POINT*>(&place), 2);
         else

@@ -1,5 +1,5 @@
-// What the windows hold: their fixed texts, letter for letter, the names that a screen reader says, and what
-// the keyboard meets first.
+// The fixed texts of the windows, letter for letter, the names that a screen reader says, and what the
+// keyboard does first.
 
 #include "controls/WindowTest.h"
 
@@ -76,8 +76,8 @@ TEST_F(WindowTexts, OfTheGroupBoxesOfEachPage) {
     });
 }
 
-// A screen reader takes the label in front of a box for its name. Those of the margins cannot be seen: there
-// a person reads the captions of the group boxes.
+// A screen reader names a box by the label in front of it. The labels of the margins are hidden: there a
+// person reads the captions of the group boxes.
 TEST_F(WindowTexts, OfTheBoxesOfPropertiesAreTheirNamesForAScreenReader) {
     const std::pair<int, std::string> names[] = {
         {IDC_TXT_SYSTEM, "System:"},
@@ -105,7 +105,7 @@ TEST_F(WindowTexts, OfTheBoxesOfPropertiesAreTheirNamesForAScreenReader) {
             EXPECT_EQ(WindowText(label), text);
             EXPECT_NEAR(PlaceOf(label).top, PlaceOf(box).top, 25) << text << " stands beside its box";
             const auto [name, role] = Announced(box);
-            // Wine does not know combo boxes: it calls one a client area and reads its text.
+            // Wine does not know combo boxes: it says "client area" and reads the text in the box.
             if (role != ROLE_SYSTEM_CLIENT || !HasClass(box, WC_COMBOBOXA)) {
                 EXPECT_EQ(name, text);
             }

@@ -1,4 +1,4 @@
-// A fixture that opens each window of the menu program in this process, with what an operator sees in it.
+// A fixture that opens each window of the menu program in this process, with the contents an operator sees.
 #pragma once
 
 #include "common/Installation.h"
@@ -28,10 +28,10 @@ public:
     }
     ~WindowTest() override { CoUninitialize(); }
 
-    /// Calls `act` while a dialog is open that has to appear.
+    /// Calls `act` while a dialog is open. Fails if no dialog appears.
     void WhileOpen(const std::function<void()>& open, const WindowAction& act,
                    const std::function<bool(HWND)>& isReady = IsWindowVisible) const {
-        EXPECT_TRUE(ActsInDialog(owner, open, act, isReady)) << "no dialog appeared";
+        EXPECT_TRUE(ActInDialog(owner, open, act, isReady)) << "no dialog appeared";
     }
     void WhileGeneralPage(const WindowAction& act) { WhileProperties(0, act); }
     void WhileSettingsPage(const WindowAction& act) { WhileProperties(1, act); }
@@ -70,11 +70,11 @@ public:
         WriteFileBytes("Startup.bmp", Bmp(120, 90));
         frmMain menu;
         menu.Show();
-        // Twice as large, it still has the room on the screen.
+        // At 192 DPI it still fits on the screen.
         SetWindowPos(menu.Window(), nullptr, 30, 20, 600, 450, SWP_NOZORDER);
         act(menu.Window());
         SendMessageA(menu.Window(), WM_CLOSE, 0, 0);
-        RunEvents(); // up to the end that the closed window has asked for
+        RunEvents(); // the closed window has asked to end the program
     }
 
     const ScratchFolder folder;
@@ -82,7 +82,8 @@ public:
     const SupportLibrary corvel;
 
 private:
-    // The windows of a host, which go with `owner`: the menu finds the station, and types into its child.
+    // Makes the windows of a host. The menu finds the station window and types into its child. `owner` takes
+    // both with it when it is destroyed.
     void MakeHost() const {
         WNDCLASSA hostClass{};
         hostClass.lpfnWndProc = DefWindowProcA;

@@ -35,7 +35,7 @@ TEST_F(AboutBox, DescribesTheMakerAndWarns) {
 TEST_F(AboutBox, StaysOpenBehindTheMessageThatThereIsNoTool) {
     const test::LocalMachine empty;
     std::string title;
-    ActsInDialog(
+    ActInDialog(
         box, [=, this] { SendMessageA(GetDlgItem(box, IDC_CMD_SYS_INFO), BM_CLICK, 0, 0); },
         [&](HWND message) { title = WindowText(message); });
     EXPECT_EQ(title, "ObrinMenu");

@@ -12,8 +12,8 @@ namespace {
 
 constexpr const char* reportVariable = "OBRIN_TEST_TOOL_REPORT";
 
-// The tool that is started is this program once more: it reports its command line and its window's state, and
-// ends before any test runs.
+// The started tool is this program again. It reports its command line and the state of its window, and ends
+// before any test runs.
 const bool startedAsTool = [] {
     const std::string report = EnvironmentVariable(reportVariable);
     if (report.empty())
@@ -31,12 +31,13 @@ protected:
         SetEnvironmentVariableA(reportVariable, report.c_str());
         CreateFolder("Tools");
         CopyFileA(test::OwnProgram().string().c_str(), "Tool One.exe", FALSE);
-        CopyFileA("Tool One.exe", "Tool.exe", FALSE); // not meant, whatever the blank suggests
+        CopyFileA("Tool One.exe", "Tool.exe", FALSE); // must not be started instead, because of the blank
         CopyFileA("Tool One.exe", "Tools\\MSINFO32.EXE", FALSE);
     }
     ~SystemInformation() override { SetEnvironmentVariableA(reportVariable, nullptr); }
 
-    /// What comes of these two entries of the registry: the report of the tool, or the message.
+    /// Launches with these two entries in the registry. Returns the tool's report, or the text of the
+    /// message.
     std::string Launch(const std::string& path, const std::string& toolFolder,
                        DWORD pathType = REG_SZ) const {
         machine.Set("SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", "PATH", pathType, path);
@@ -44,7 +45,7 @@ protected:
         std::string result;
         const auto launch = [this] { LaunchSystemInfo(owner); };
         const auto read = [&](HWND box) { result = WindowText(GetDlgItem(box, 0xFFFF)); };
-        if (!ActsInDialog(owner, launch, read)) {
+        if (!ActInDialog(owner, launch, read)) {
             for (int i = 0; i < 1000 && !FileExists(report); ++i)
                 Sleep(10);
             result = ReadFileBytes(report);
@@ -53,7 +54,7 @@ protected:
         return result;
     }
 
-    /// The same where a tool must start, which now and then fails under Wine on a loaded machine.
+    /// The same with a second try: Wine now and then fails to start a program on a loaded machine.
     std::string LaunchTool(const std::string& path, const std::string& toolFolder) const {
         const std::string result = Launch(path, toolFolder);
         return result == unavailable ? Launch(path, toolFolder) : result;

@@ -9,7 +9,7 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-// What the progress label shows, one after the other.
+// The texts of the progress label, one after the other.
 const Texts progress{"Updating:\r\nTessel.exe",       "Updating:\r\nSweeper.exe", "Updating:\r\nNotebox.exe",
                      "Updating:\r\nShowAllFenns.exe", "Updating:\r\nGlass.exe",   "Updating:\r\nComplete"};
 
@@ -24,14 +24,15 @@ protected:
     }
 
     /// Updates workstation 5 and presses the button at the end. Calls `act` with the window after each text
-    /// of the progress label, of which the window notices nothing.
+    /// of the progress label. The window does not notice that it is watched.
     void Update(const test::WindowAction& act = [](HWND) {}) {
         onProgress = act;
         const HHOOK hook = SetWindowsHookExA(WH_CALLWNDPROCRET, Watch, nullptr, GetCurrentThreadId());
         CheckWorkstationUpdate(owner, 5);
         UnhookWindowsHookEx(hook);
     }
-    /// The same with one message to the window at one of the texts, counted from 1.
+
+    /// Updates it, and sends the window a message after one of the texts, counted from 1.
     void UpdateAndSend(std::size_t text, UINT message) {
         Update([=](HWND window) {
             if (shown.size() == text)
@@ -114,7 +115,7 @@ TEST_F(UpdateWindow, HidesOkayWhileItCopies) {
 
 TEST_F(UpdateWindow, GivesOkayTheKeyboardWhenItIsComplete) {
     int focused = 0;
-    ActsInDialog(
+    ActInDialog(
         owner, [this] { CheckWorkstationUpdate(owner, 5); },
         [&](HWND) { focused = GetDlgCtrlID(GetFocus()); },
         [](HWND window) { return IsWindowVisible(GetDlgItem(window, IDOK)); });

@@ -11,8 +11,8 @@
 namespace obrin {
 namespace {
 
-// A line for each item: its caption, and what it does while UB.mnu is shown or else its number. Items of a
-// popup stand below its caption.
+// Returns a line for each item: its caption, and the program or document that it opens while UB.mnu is shown,
+// or its number. The items of a popup follow its caption.
 std::string Listed(HMENU menu) {
     std::string lines;
     for (int i = 0; i < GetMenuItemCount(menu); ++i) {

@@ -26,7 +26,7 @@ protected:
     HTREEITEM First() const { return TreeView_GetRoot(window); }
     void Select(HTREEITEM node) const { TreeView_SelectItem(window, node); }
 
-    /// From a node on: "key " of each program and "(...)" of each heading with what is below it.
+    /// Describes a node and its next siblings: a program as "key ", a heading as "(...)" with its children.
     std::string Shape(HTREEITEM node) const {
         std::string shape;
         for (; node != nullptr; node = TreeView_GetNextSibling(window, node)) {
@@ -37,13 +37,13 @@ protected:
         return shape;
     }
 
-    /// A right click of this moment; the clicks that the tree puts in behind it get lost.
+    /// Clicks the right button now. The clicks that the tree then puts in get lost.
     void RightClick() const {
         MSG message;
         while (PeekMessageA(&message, nullptr, WM_MOUSEFIRST, WM_MOUSELAST, PM_REMOVE))
             continue;
         PostMessageA(window, WM_APP, 0, 0);
-        PeekMessageA(&message, nullptr, WM_APP, WM_APP, PM_REMOVE); // whose time is the click's
+        PeekMessageA(&message, nullptr, WM_APP, WM_APP, PM_REMOVE); // the click gets its time
         SendMessageA(window, WM_RBUTTONDOWN, 0, 0);
     }
 
@@ -108,7 +108,7 @@ TEST_F(Tree, MenuKeyAsksForThePopupBelowTheSelectedNode) {
     EXPECT_EQ(popUps, (std::vector<Place>{{place.text.left, place.text.bottom}}));
 }
 
-// The first click puts in two others: a left one that selects the node, and a right one.
+// The first click makes the tree put in two others: a left one, which selects the node, and a right one.
 TEST_F(Tree, SecondRightClickAsksForThePopupAtThePointer) {
     RightClick();
     EXPECT_TRUE(popUps.empty());

@@ -1,5 +1,5 @@
-// What the built programs and the library tell the platform of themselves: in their headers, their version
-// resources and their manifests. What got lost there would show nowhere else.
+// What the programs and the library tell the platform about themselves in their headers, version resources
+// and manifests. A mistake there would show nowhere else.
 
 #include "platform/Workstation.h"
 #include "support/Machine.h"
@@ -36,7 +36,7 @@ protected:
     }
 
     const std::string name = GetParam().name, file = PathOf(GetParam().name);
-    // Mapped but not linked; the lowest bits of the handle say so.
+    // Only mapped. The platform marks such a handle in its lowest bits.
     const std::uintptr_t mapped = reinterpret_cast<std::uintptr_t>(
         LoadLibraryExA(file.c_str(), nullptr, LOAD_LIBRARY_AS_IMAGE_RESOURCE));
     const char* base = reinterpret_cast<const char*>(mapped & ~std::uintptr_t{3});
@@ -61,11 +61,11 @@ TEST_P(Image, HasTheProtectionsOfThePlatform) {
     EXPECT_EQ(headers.OptionalHeader.DllCharacteristics & all, all);
 }
 
-// Otherwise a terminal server shows a program a Windows folder of the user's own.
+// Otherwise a terminal server gives a program a Windows folder of the user's own.
 TEST_P(Image, IsAwareOfTerminalServers) {
     const bool isAware =
         (headers.OptionalHeader.DllCharacteristics & IMAGE_DLLCHARACTERISTICS_TERMINAL_SERVER_AWARE) != 0;
-    EXPECT_EQ(isAware, file.ends_with(".exe")) << "of no meaning in a library";
+    EXPECT_EQ(isAware, file.ends_with(".exe")) << "a library needs no mark";
 }
 
 // A lost connection to the share then does not end a running menu.
@@ -73,8 +73,8 @@ TEST_P(Image, IsCopiedToSwapWhenItRunsFromAShare) {
     EXPECT_TRUE(headers.FileHeader.Characteristics & IMAGE_FILE_NET_RUN_FROM_SWAP);
 }
 
-// The platform loads these from its own folder, whatever lies in the program's, which every operator may
-// write to. COMCTL32.DLL is found by the manifest.
+// The platform loads these from its own folder, whatever lies in the program's folder, which every operator
+// may write to. It finds COMCTL32.DLL by the manifest.
 TEST_P(Image, LoadsOnlyLibrariesOfTheSystem) {
     const std::set<std::string> known{"ADVAPI32.DLL", "COMCTL32.DLL", "GDI32.DLL",    "KERNEL32.DLL",
                                       "MSVCRT.DLL",   "OLE32.DLL",    "OLEAUT32.DLL", "SHELL32.DLL",
@@ -113,7 +113,7 @@ TEST_P(Image, SaysWhatItIs) {
 
 // --- Manifests ---
 
-// An activation context, in which the platform keeps what a manifest says.
+// Returns an activation context: the platform keeps in it what the manifest says.
 HANDLE ManifestOf(const char* program) {
     const std::string file = PathOf(program);
     ACTCTXA request{};
@@ -149,8 +149,8 @@ TEST(MenuManifest, AsksForThemedControls) {
     EXPECT_NE(identity.find(L"version=\"6."), std::wstring::npos) << identity;
 }
 
-// The 32-bit menu keeps the platform's write redirection for classic programs. In the checker it would make
-// copies of the files that it only tries to write.
+// Without a level, the 32-bit menu keeps the platform's write redirection for classic programs. In the
+// checker the redirection would copy the files that it only tries to write.
 TEST(Manifests, AskForARunLevelInTheCheckerAlone) {
     for (const auto& [program, level] : {std::pair{"ObrinMenu.exe", ACTCTX_RUN_LEVEL_UNSPECIFIED},
                                          {"ObrinCheck.exe", ACTCTX_RUN_LEVEL_AS_INVOKER}}) {

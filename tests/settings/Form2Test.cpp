@@ -1,4 +1,4 @@
-// The Properties dialog: what it shows and saves, its pages, and how its boxes and sliders belong together.
+// The Properties dialog: what it shows and saves, its pages, and how boxes and sliders follow each other.
 
 #include "settings/Form2.h"
 
@@ -14,7 +14,7 @@ struct ClosedProperties : test::DialogTest {
     ClosedProperties() { SetEnvironmentVariableA("TesselTemp", folder.path.string().c_str()); }
     ~ClosedProperties() override { DestroyWindow(dialog); }
 
-    /// Opens the dialog, not modally: the test goes on beside it. A closed one is hidden.
+    /// Opens the dialog modeless, so that the test can go on. A dialog that closes itself is then hidden.
     void Open() {
         DestroyWindow(dialog);
         form.emplace(corvel, programKey).ShowModeless(owner, IDD_PROPERTIES);
@@ -89,7 +89,7 @@ TEST_F(ClosedProperties, KeepMarginsOfADamagedFileWithinTheSlidersLimits) {
     EXPECT_EQ(Text(IDC_TXT_MARGIN + 1), "0.25");
 }
 
-// The platform would take half a minute to lay out all of it.
+// The platform would need half a minute to lay out the whole value.
 TEST_F(ClosedProperties, ShowAsMuchOfAValueAsCanBeTypedAndKeepTheRest) {
     const std::string large(10'000'000, 'x');
     WriteDefaultSettings(path, "");
@@ -223,13 +223,13 @@ struct Margins : Properties {
     LRESULT Slider() const { return Send(IDC_SLD_MARGIN, TBM_GETPOS); }
 };
 
-// Whenever the slider moves, its box is written anew, under the keys.
+// Whenever the slider moves, the dialog replaces the text of the box while the user types.
 TEST_F(Margins, AreTypedKeyByKey) {
     struct {
         const char* typed;
         const char* box;
         LRESULT slider;
-        const char* boxWhenLeft; // the slider's value, unless the box says another one
+        const char* boxWhenLeft; // the slider's value, if the box reads as the same number
     } const cases[] = {
         {"0.25", "0.25", 250, "0.25"}, {"0.500", "0.500", 500, "0.5"},       {".75", "0.75", 750, "0.75"},
         {"01.5", "1.5", 1500, "1.5"},  {"2.0501", "2.0501", 2050, "2.0501"}, // finer than the slider

@@ -20,7 +20,7 @@ protected:
     }
     ~DialogTest() override { DestroyWindow(owner); }
 
-    /// The dialog over `parent` that can be seen; null without one.
+    /// The visible dialog whose owner is `parent`. Null if there is none.
     static HWND DialogOver(HWND parent) {
         return FindTopWindow([=](HWND window) {
             return GetWindow(window, GW_OWNER) == parent && IsWindowVisible(window) &&
@@ -28,11 +28,11 @@ protected:
         });
     }
 
-    /// Calls `open`, which shows a dialog over `parent` and returns when it is closed. Calls `act` once,
-    /// while the dialog is visible and `isReady`, and then closes it by its close box if it is still open.
-    /// Returns whether `act` was called.
-    static bool ActsInDialog(HWND parent, const std::function<void()>& open, const WindowAction& act,
-                             const std::function<bool(HWND)>& isReady = IsWindowVisible) {
+    /// Calls `open`, which shows a dialog over `parent` and returns when the dialog is closed. Calls `act`
+    /// once, as soon as the dialog is visible and `isReady`, and then closes the dialog as its close box
+    /// does. Returns whether there was a dialog.
+    static bool ActInDialog(HWND parent, const std::function<void()>& open, const WindowAction& act,
+                            const std::function<bool(HWND)>& isReady = IsWindowVisible) {
         Visit visit{act, isReady};
         const auto timer = reinterpret_cast<UINT_PTR>(&visit);
         SetTimer(parent, timer, USER_TIMER_MINIMUM, LookForDialog);

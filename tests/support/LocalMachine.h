@@ -1,5 +1,5 @@
-// HKEY_LOCAL_MACHINE as an empty key of the user's, for this process and as long as the object lives: the
-// tests need no rights and leave no trace in it.
+// While an object lives, HKEY_LOCAL_MACHINE is an empty key of the current user for this process. So the
+// tests need no rights and leave no trace in the real one.
 #pragma once
 
 #include "platform/WindowsApi.h"

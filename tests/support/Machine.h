@@ -1,4 +1,4 @@
-// What the machine is like that the tests run on.
+// Starts the programs beside the tests, and says what this user may do on the machine.
 #pragma once
 
 #include "platform/Handle.h"
@@ -9,7 +9,7 @@
 
 namespace obrin::test {
 
-/// The program of these tests; those that are tested lie beside it.
+/// The program of these tests. The programs that are tested lie beside it.
 inline std::filesystem::path OwnProgram() {
     return OwnFile();
 }
@@ -19,8 +19,8 @@ struct Started {
     DWORD id;
 };
 
-/// Starts a program, with what it writes going to `output`, or what it complains of to `errors`, if that is
-/// given. Throws when it cannot.
+/// Starts a program. Its standard output goes to `output` and its standard error to `errors`, if given.
+/// Throws when the program does not start.
 inline Started Start(const std::filesystem::path& program, const std::string& arguments = "",
                      HANDLE output = nullptr, HANDLE errors = nullptr) {
     STARTUPINFOA startup{};
@@ -31,7 +31,7 @@ inline Started Start(const std::filesystem::path& program, const std::string& ar
     startup.hStdError = errors;
     PROCESS_INFORMATION process{};
     std::string line = '"' + program.string() + "\" " + arguments;
-    // Wine fails to start one now and then on a loaded machine.
+    // Wine now and then fails to start a program on a loaded machine.
     for (int tries = 1; !CreateProcessA(nullptr, line.data(), nullptr, nullptr, redirected, CREATE_NO_WINDOW,
                                         nullptr, nullptr, &startup, &process);
          ++tries) {
@@ -41,7 +41,7 @@ inline Started Start(const std::filesystem::path& program, const std::string& ar
     return {UniqueHandle(process.hProcess), UniqueHandle(process.hThread), process.dwProcessId};
 }
 
-/// Whether this user may write the launcher's key of the machine; on Windows administrators only.
+/// Whether this user may write the menu's key in HKEY_LOCAL_MACHINE. On Windows only administrators may.
 inline bool MayRememberSystem() {
     HKEY key = nullptr;
     const bool may = RegCreateKeyExA(HKEY_LOCAL_MACHINE, "Software\\Obrin", 0, nullptr, 0, KEY_SET_VALUE,

@@ -1,5 +1,5 @@
-// Finding a top-level window. By EnumWindows: a walk with FindWindowExA from window to window never ends
-// under Wine 10 when one of them is being destroyed.
+// Finds a top-level window with EnumWindows. Under Wine 10, FindWindowExA never returns when the window that
+// it starts from is being destroyed.
 #pragma once
 
 #include "platform/WindowsApi.h"
@@ -8,7 +8,7 @@
 
 namespace obrin::test {
 
-/// The first top-level window that is wanted, hidden ones included; null without one.
+/// The first top-level window that `isWanted` accepts, also a hidden one. Null if there is none.
 inline HWND FindTopWindow(const std::function<bool(HWND)>& isWanted) {
     struct Search {
         const std::function<bool(HWND)>& isWanted;

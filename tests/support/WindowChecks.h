@@ -1,4 +1,4 @@
-// What can be seen of a window and its controls, and what a screen reader says of them.
+// What a person sees of a window and its controls, and what a screen reader says.
 #pragma once
 
 #include "controls/Window.h"
@@ -39,15 +39,15 @@ inline SIZE SizeOf(const RECT& place) {
     return {place.right - place.left, place.bottom - place.top};
 }
 
-/// The window's font; without a height when the font has been deleted.
+/// The window's font. Its height is 0 if the font has been deleted.
 inline LOGFONTA FontShapeOf(HWND window) {
     LOGFONTA shape{};
     GetObjectA(reinterpret_cast<HFONT>(SendMessageA(window, WM_GETFONT, 0, 0)), sizeof shape, &shape);
     return shape;
 }
 
-/// Face and height of the window's font in pixels, with "b" for bold and "u" for underlined: "Georgia-20u".
-/// A height below zero is that of the letters, without the space between lines.
+/// The face and height of the window's font in pixels, then "b" for bold and "u" for underlined:
+/// "Georgia-20u". A negative height is that of the letters, without the space between lines.
 inline std::string FontOf(HWND window) {
     const LOGFONTA shape = FontShapeOf(window);
     return shape.lfFaceName + std::to_string(shape.lfHeight) + (shape.lfWeight == FW_BOLD ? "b" : "") +
@@ -66,7 +66,7 @@ inline SIZE TextSize(HWND window, const std::string& text, LONG width, UINT form
     return SizeOf(area);
 }
 
-/// A control in the message of a failed expectation.
+/// Names a control in the message of a failed expectation.
 inline std::string Name(HWND control) {
     return "control " + std::to_string(GetDlgCtrlID(control)) + " \"" + WindowText(control) + '"';
 }
@@ -86,8 +86,8 @@ inline RECT TabPlace(HWND tabStrip, WPARAM index) {
     return place;
 }
 
-/// The controls that can be seen. A tab strip's pages behind the one in front are disabled, and the box
-/// inside a combo box is a part of it.
+/// The controls that a person sees. The pages behind the front page are disabled. The box inside a combo box
+/// is a part of it, not a control.
 inline std::vector<HWND> ShownControls(HWND window) {
     std::vector<HWND> controls = ListDescendants(window);
     std::erase_if(controls, [](HWND control) {
@@ -99,7 +99,7 @@ inline std::vector<HWND> ShownControls(HWND window) {
     return controls;
 }
 
-/// The control of that number in the window, in one of its pages or in its frame.
+/// Finds a control by its number, also in a page or a frame of the window.
 inline HWND ControlOf(HWND window, int id) {
     for (const HWND control : ListDescendants(window)) {
         if (GetDlgCtrlID(control) == id)
@@ -108,7 +108,7 @@ inline HWND ControlOf(HWND window, int id) {
     return nullptr;
 }
 
-/// Whether the platform lets a program say what its controls are; Wine does not.
+/// Whether a program can tell the platform the roles of its controls. Under Wine it cannot.
 inline bool PlatformTakesRoles(HWND control) {
     void* created = nullptr;
     if (FAILED(CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER, IID_IAccPropServices,
