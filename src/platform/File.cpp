@@ -43,11 +43,12 @@ HANDLE Open(const std::string& path, File::Use use) {
         {GENERIC_WRITE, OPEN_ALWAYS},
         {GENERIC_WRITE, CREATE_NEW},
     }};
-    const auto [access, disposition] = modes[static_cast<std::size_t>(use)];
+    const Mode mode = modes[static_cast<std::size_t>(use)];
     HANDLE handle = INVALID_HANDLE_VALUE;
     const bool opened = RetryWhileBusy([&] {
-        handle = CreateFileA(path.c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                             nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
+        handle =
+            CreateFileA(path.c_str(), mode.access, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                        nullptr, mode.disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
         return handle != INVALID_HANDLE_VALUE;
     });
     if (!opened)
