@@ -5,6 +5,8 @@
 #include "platform/Folder.h"
 #include "resources/Ids.h"
 
+#include <utility>
+
 namespace obrin {
 
 namespace {
@@ -13,9 +15,9 @@ constexpr ULONGLONG delay = 2000; // milliseconds; most hosts need less
 
 } // namespace
 
-HostNotice::HostNotice(HWND menuWindow, const std::string& stationCaption, DWORD hostStartError)
+HostNotice::HostNotice(HWND menuWindow, std::string stationCaption, DWORD hostStartError)
     : menu(menuWindow)
-    , caption(stationCaption)
+    , caption(std::move(stationCaption))
     , startError(hostStartError)
     , dueTime(GetTickCount64() + (startError != 0 ? 0 : delay)) {}
 

@@ -10,7 +10,7 @@ namespace obrin {
 class HostNotice final : public Dialog {
 public:
     /// Shows nothing yet. `hostStartError` is the Windows error code if the host could not be started, or 0.
-    HostNotice(HWND menuWindow, const std::string& stationCaption, DWORD hostStartError);
+    HostNotice(HWND menuWindow, std::string stationCaption, DWORD hostStartError);
     HostNotice(const HostNotice&) = delete;
     HostNotice& operator=(const HostNotice&) = delete;
     ~HostNotice();

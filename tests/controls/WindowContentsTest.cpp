@@ -47,7 +47,7 @@ TEST_F(WindowTexts, OfWindowsButtonsAndLabels) {
         {&W::WhileUpdateWindow, IDOK, "O&kay"},
     };
     for (const auto& [whileOpen, control, text] : cases) {
-        (this->*whileOpen)([control, text](HWND window) {
+        (this->*whileOpen)([control = control, text = text](HWND window) {
             EXPECT_EQ(WindowText(control == caption ? window : ControlOf(window, control)), text);
         });
     }
