@@ -127,7 +127,7 @@ TEST(Checker, PredictsTheMenuWithFaultySettings) {
     Compare(FaultySettings());
 }
 
-TEST(Launcher, LeavesNoHostHiddenWithoutItsLibrary) {
+TEST(Menu, LeavesNoHostHiddenWithoutItsLibrary) {
     const SoundInstallation installation;
     DeleteFileA(supportLibraryFile);
     EXPECT_EQ(TryMenu(Effect::EndsEveryStart), Effect::EndsEveryStart);

@@ -17,9 +17,7 @@ struct HostLinkTest : testing::Test {
     const Installation installation{5};
     PlayedHost host;
 
-    static bool IsMenuShown(const Launcher& launcher) {
-        return launcher.Shown("Obrin System Menu") != nullptr;
-    }
+    static bool IsMenuShown(const RunningMenu& menu) { return menu.Shown("Obrin System Menu") != nullptr; }
 
     // The host that was running before the menu would be refused.
     void AwaitStartOfHost() const {
@@ -35,62 +33,62 @@ struct HostLinkTest : testing::Test {
 };
 
 TEST_F(HostLinkTest, WaitsForTheCommandWindowOfTheStation) {
-    const Launcher launcher;
+    const RunningMenu menu;
     AwaitStartOfHost();
     host.MakeStation();
     host.ShowStation();
-    EXPECT_FALSE(host.Until([&] { return IsMenuShown(launcher); }, 1500)) << "it would type into nothing";
+    EXPECT_FALSE(host.Until([&] { return IsMenuShown(menu); }, 1500)) << "it would type into nothing";
     host.MakeCommandWindow();
-    EXPECT_TRUE(host.Until([&] { return IsMenuShown(launcher); }));
+    EXPECT_TRUE(host.Until([&] { return IsMenuShown(menu); }));
     EXPECT_EQ(host.Typed(), firstSystem);
 }
 
 TEST_F(HostLinkTest, HidesAStationThatIsShownALittleLater) {
-    const Launcher launcher;
+    const RunningMenu menu;
     AwaitStartOfHost();
     host.MakeStation();
     host.MakeCommandWindow();
-    EXPECT_FALSE(host.Until([&] { return IsMenuShown(launcher); }, 700));
+    EXPECT_FALSE(host.Until([&] { return IsMenuShown(menu); }, 700));
     host.ShowStation();
-    EXPECT_TRUE(host.Until([&] { return IsMenuShown(launcher); }));
+    EXPECT_TRUE(host.Until([&] { return IsMenuShown(menu); }));
     EXPECT_FALSE(host.IsStationShown());
 }
 
 TEST_F(HostLinkTest, GoesOnWithAStationThatIsNeverShown) {
-    const Launcher launcher;
+    const RunningMenu menu;
     AwaitStartOfHost();
     host.MakeStation();
     host.MakeCommandWindow();
-    EXPECT_TRUE(host.Until([&] { return IsMenuShown(launcher); }));
+    EXPECT_TRUE(host.Until([&] { return IsMenuShown(menu); }));
 }
 
 TEST_F(HostLinkTest, NoticeStaysWhileTheHostHandlesTheFirstCommand) {
-    const Launcher launcher;
-    ASSERT_TRUE(host.Until([&] { return launcher.Shown(noticeTitle) != nullptr; }));
+    const RunningMenu menu;
+    ASSERT_TRUE(host.Until([&] { return menu.Shown(noticeTitle) != nullptr; }));
     bool isNoticeShown = false;
-    host.onNextKey = [&] { isNoticeShown = launcher.Shown(noticeTitle) != nullptr; };
+    host.onNextKey = [&] { isNoticeShown = menu.Shown(noticeTitle) != nullptr; };
     ShowHost();
-    EXPECT_TRUE(host.Until([&] { return IsMenuShown(launcher); }));
+    EXPECT_TRUE(host.Until([&] { return IsMenuShown(menu); }));
     EXPECT_TRUE(isNoticeShown);
-    EXPECT_TRUE(host.Until([&] { return launcher.Shown(noticeTitle) == nullptr; }));
+    EXPECT_TRUE(host.Until([&] { return menu.Shown(noticeTitle) == nullptr; }));
 }
 
 TEST_F(HostLinkTest, EndOfTheSessionDuringACloseFinishesTheClose) {
-    const Launcher launcher;
+    const RunningMenu menu;
     AwaitStartOfHost();
     ShowHost();
-    ASSERT_TRUE(host.Until([&] { return IsMenuShown(launcher); }));
-    const HWND menu = launcher.Menu();
+    ASSERT_TRUE(host.Until([&] { return IsMenuShown(menu); }));
+    const HWND window = menu.Window();
     std::string typedAtAnswer;
     bool isMarkerThere = true;
     host.onNextKey = [&] {
-        SendMessageA(menu, WM_ENDSESSION, TRUE,
+        SendMessageA(window, WM_ENDSESSION, TRUE,
                      0); // as Windows does; the program may be ended right behind it
         typedAtAnswer = host.Typed();
         isMarkerThere = FileExists("Menu 5.txt");
     };
-    PostMessageA(menu, WM_CLOSE, 0, 0);
-    EXPECT_TRUE(host.Until([&] { return !IsWindow(menu); }));
+    PostMessageA(window, WM_CLOSE, 0, 0);
+    EXPECT_TRUE(host.Until([&] { return !IsWindow(window); }));
     // The key at which the session ended is noted behind the others.
     EXPECT_EQ(typedAtAnswer, std::string(firstSystem) + (exitCommand + 1));
     EXPECT_FALSE(isMarkerThere);
@@ -98,9 +96,9 @@ TEST_F(HostLinkTest, EndOfTheSessionDuringACloseFinishesTheClose) {
 
 TEST_F(HostLinkTest, AnsweringYesDoesNotHangWithTheHost) {
     ShowHost(); // by a thread that processes no messages while the menu runs
-    const Launcher launcher;
-    launcher.Press("Error Opening Obrin System", IDYES);
-    EXPECT_EQ(launcher.ExitCode(), 0);
+    const RunningMenu menu;
+    menu.Press("Error Opening Obrin System", IDYES);
+    EXPECT_EQ(menu.ExitCode(), 0);
 }
 
 } // namespace

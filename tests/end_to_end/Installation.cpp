@@ -10,7 +10,7 @@ constexpr const char* logFile = "fenn.log";
 namespace {
 
 // Windows lets no program come to the front of the one that is being used, and so the tests could not bring
-// up the launcher to type into it. Off during the run, for this session only.
+// up the menu to type into it. Off during the run, for this session only.
 class WithoutForegroundLock : public testing::Environment {
     void SetUp() override {
         SystemParametersInfoA(SPI_GETFOREGROUNDLOCKTIMEOUT, 0, &timeout, 0);
@@ -98,11 +98,11 @@ Lines Installation::Logged(const std::string& word) const {
     return logged;
 }
 
-bool Installation::HostTypes(const Lines& lines) const {
+bool Installation::HostGets(const Lines& lines) const {
     return Eventually([&] { return Logged("line") == lines; });
 }
 
-bool Installation::HostTypesLast(const std::string& line) const {
+bool Installation::HostGetsLast(const std::string& line) const {
     return Eventually([&] {
         const Lines typed = Logged("line");
         return !typed.empty() && typed.back() == line;
@@ -119,12 +119,12 @@ void Installation::EndHost() const {
     }
 }
 
-Launcher::~Launcher() {
+RunningMenu::~RunningMenu() {
     TerminateProcess(started.process.get(), 99);
     WaitForSingleObject(started.process.get(), 5000);
 }
 
-HWND Launcher::Shown(const std::string& caption) const {
+HWND RunningMenu::Shown(const std::string& caption) const {
     return FindTopWindow([&](HWND window) {
         DWORD owner = 0;
         GetWindowThreadProcessId(window, &owner);
@@ -132,17 +132,23 @@ HWND Launcher::Shown(const std::string& caption) const {
     });
 }
 
-HWND Launcher::Window(const std::string& caption) const {
+HWND RunningMenu::Window(const std::string& caption) const {
     HWND window = nullptr;
-    Eventually([&] { return (window = Shown(caption)) != nullptr; });
+    EXPECT_TRUE(Eventually([&] { return (window = Shown(caption)) != nullptr; })) << "no window " << caption;
     return window;
 }
 
-HWND Launcher::Tree() const {
-    return GetDlgItem(GetDlgItem(Menu(), IDC_FRAME1), IDC_TREEVIEW1);
+HWND RunningMenu::LoadingWindow() const {
+    HWND window = nullptr;
+    EXPECT_TRUE(Eventually([&] { return (window = FindWindowA(menuWindowClass, nullptr)) != nullptr; }));
+    return window;
 }
 
-std::string Launcher::Texts(const std::string& caption) const {
+HWND RunningMenu::Tree() const {
+    return GetDlgItem(GetDlgItem(Window(), IDC_FRAME1), IDC_TREEVIEW1);
+}
+
+std::string RunningMenu::Texts(const std::string& caption) const {
     std::string texts;
     for (HWND control = GetWindow(Window(caption), GW_CHILD); control != nullptr;
          control = GetWindow(control, GW_HWNDNEXT))
@@ -150,7 +156,7 @@ std::string Launcher::Texts(const std::string& caption) const {
     return texts;
 }
 
-void Launcher::Press(const std::string& caption, int button) const {
+void RunningMenu::Press(const std::string& caption, int button) const {
     const HWND window = Window(caption);
     // Windows gives the only button of a message box the number of Cancel.
     if (GetDlgItem(window, button) == nullptr)
@@ -160,10 +166,26 @@ void Launcher::Press(const std::string& caption, int button) const {
     Eventually([&] { return !IsWindow(window) || !IsWindowVisible(window); });
 }
 
-int Launcher::ExitCode() const {
+int RunningMenu::ExitCode() const {
     DWORD code = STILL_ACTIVE;
     Eventually([&] { return GetExitCodeProcess(started.process.get(), &code) && code != STILL_ACTIVE; });
     return static_cast<int>(code);
+}
+
+void RememberSystem(const std::string& name) {
+    SupportLibrary().SetRegValue(HKEY_LOCAL_MACHINE, "Software\\Obrin", "LastSystem", name);
+}
+
+void ExpectRemembered(const std::string& name) {
+    // A user without the right to write there has no system remembered.
+    EXPECT_EQ(SupportLibrary().GetRegValue(HKEY_LOCAL_MACHINE, "Software\\Obrin", "LastSystem"),
+              MayRememberSystem() ? name : "");
+}
+
+bool HasIcon(HWND box) {
+    // Windows and Wine number the icon's control differently.
+    return SendDlgItemMessageA(box, 20, STM_GETICON, 0, 0) != 0 ||
+           SendDlgItemMessageA(box, 1088, STM_GETICON, 0, 0) != 0;
 }
 
 } // namespace obrin::test

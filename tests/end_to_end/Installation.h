@@ -1,7 +1,8 @@
-// A scratch installation of the host and the real launcher in it, driven from outside: by window messages,
-// real keys and the real mouse. Everything waits with a deadline and nothing sleeps blindly.
+// A scratch installation of the host and the real menu in it, driven from outside: by window messages, real
+// keys and the real mouse. Everything waits with a deadline.
 #pragma once
 
+#include "menu/frmMain.h"
 #include "platform/Failure.h"
 #include "platform/SupportLibrary.h"
 #include "resources/Ids.h"
@@ -32,8 +33,8 @@ void PointAt(POINT place);
 /// The text of a window of another process, controls included.
 std::string TextOf(HWND window);
 
-/// A folder with FennConfig.Sys, Core, one menu file, the launcher, the support library and the stand-in
-/// host. It is the current directory as long as the object lives, and goes with it. Registry and environment
+/// A folder with FennConfig.Sys, Core, the menu file UB.mnu, the menu, the support library and the stand-in
+/// host. It is the current directory while the object lives, and is removed with it. Registry and environment
 /// are as new.
 class Installation {
 public:
@@ -41,44 +42,58 @@ public:
     explicit Installation(int wsid);
     ~Installation() { EndHost(); }
 
-    /// What stands behind this word in the lines of the stand-in host's log that begin with it.
+    /// The lines of the stand-in host's log that begin with this word, without it.
     Lines Logged(const std::string& word) const;
-    /// Whether the host gets to type these lines and no others.
-    bool HostTypes(const Lines& lines) const;
-    bool HostTypesLast(const std::string& line) const;
+    /// Waits until exactly these lines have been typed into the host.
+    bool HostGets(const Lines& lines) const;
+    /// Waits until this line is the last one typed into the host.
+    bool HostGetsLast(const std::string& line) const;
     void EndHost() const;
 
 private:
     ScratchFolder folder;
 };
 
-/// A running launcher; ended with the object when it still runs.
-class Launcher {
+/// A menu that runs in the current directory. The destructor ends it if it still runs.
+class RunningMenu {
 public:
-    ~Launcher();
+    RunningMenu() = default;
+    RunningMenu(const RunningMenu&) = delete;
+    RunningMenu& operator=(const RunningMenu&) = delete;
+    ~RunningMenu();
 
-    /// The shown window of this caption; 0 when there is none now, or within the deadline.
+    /// The visible window with this caption, or null.
     HWND Shown(const std::string& caption) const;
-    HWND Window(const std::string& caption) const;
-    HWND Menu() const { return Window("Obrin System Menu"); }
+    /// Waits for that window.
+    HWND Window(const std::string& caption = menuCaption) const;
+    /// Waits for the menu window, which is hidden until a system is shown.
+    HWND LoadingWindow() const;
     HWND Tree() const;
-    /// The texts of a shown window's controls, one a line.
-    std::string Texts(const std::string& caption) const;
+    HWND Button() const { return GetDlgItem(GetParent(Tree()), IDC_COMMAND1); }
+    /// The texts of the controls of a visible window, one a line.
+    std::string Texts(const std::string& caption = menuCaption) const;
 
-    /// Presses a button of a shown window.
+    /// Presses a button of a visible window, and waits until the window has gone.
     void Press(const std::string& caption, int button) const;
-    /// Sends a command or the like to the menu window.
-    void Send(UINT message, WPARAM wParam) const { SendMessageA(Menu(), message, wParam, 0); }
-    /// Stops it from handling anything, or lets it go on.
-    void Hang(bool hang) const {
-        hang ? SuspendThread(started.thread.get()) : ResumeThread(started.thread.get());
-    }
-    /// Exit code after its end; STILL_ACTIVE when it does not end.
+    /// Posts a command to the menu window, as its menu bar and its button do.
+    void Command(int id) const { PostMessageA(Window(), WM_COMMAND, static_cast<WPARAM>(id), 0); }
+    void Close() const { PostMessageA(LoadingWindow(), WM_CLOSE, 0, 0); }
+    /// Stops it from handling any message until it is resumed.
+    void Suspend() const { SuspendThread(started.thread.get()); }
+    void Resume() const { ResumeThread(started.thread.get()); }
+    /// Waits for its end. STILL_ACTIVE if it does not end.
     int ExitCode() const;
 
 private:
     // The whole path: without it, the program beside the tests would be started.
     const Started started = Start(std::filesystem::current_path() / "ObrinMenu.exe");
 };
+
+/// The value LastSystem in the registry.
+void RememberSystem(const std::string& name);
+void ExpectRemembered(const std::string& name);
+
+/// Whether a message box has an icon.
+bool HasIcon(HWND box);
 
 } // namespace obrin::test

@@ -12,9 +12,9 @@ constexpr const char* updateTitle = "Auto Update Utility";
 class Keyboard : public testing::Test {
 protected:
     Keyboard() {
-        EXPECT_TRUE(installation.HostTypes(typed));
+        EXPECT_TRUE(installation.HostGets(typed));
         TreeView_SelectItem(tree, TreeView_GetNextSibling(tree, TreeView_GetRoot(tree)));
-        EXPECT_TRUE(KeepsForeground(launcher.Menu()));
+        EXPECT_TRUE(KeepsForeground(menu.Window()));
     }
 
     static bool HasFocus(HWND control) {
@@ -26,7 +26,7 @@ protected:
 
     void ExpectBackupRun() {
         typed.insert(typed.end(), {"LOAD CORE\\PROGRAMS\\CSBACKUP", "RUN"});
-        EXPECT_TRUE(installation.HostTypes(typed));
+        EXPECT_TRUE(installation.HostGets(typed));
     }
 
     // Nothing more than expected is typed into the host, in a while that is long enough for a command.
@@ -43,13 +43,13 @@ protected:
         }));
         PostMessageA(program, WM_CLOSE, 0, 0);
         EXPECT_TRUE(Eventually([&] { return !IsWindow(program); }));
-        SetForegroundWindow(launcher.Menu());
-        EXPECT_TRUE(KeepsForeground(launcher.Menu()));
+        SetForegroundWindow(menu.Window());
+        EXPECT_TRUE(KeepsForeground(menu.Window()));
     }
 
     const Installation installation{5};
-    const Launcher launcher;
-    const HWND tree = launcher.Tree();
+    const RunningMenu menu;
+    const HWND tree = menu.Tree();
     const HWND button = GetDlgItem(GetParent(tree), IDC_COMMAND1);
     Lines typed{"LOAD CORE\\STARTSYS", "RUN", "UB"};
 };
@@ -102,13 +102,12 @@ TEST_F(Keyboard, ClickThatSlipsByAFewPixelsSelects) {
 TEST_F(Keyboard, EnterHeldThroughTheUpdateLeavesItsWindowOpen) {
     DeleteFileA("Updated.txt");
     HoldKey(tree, VK_RETURN, 3);
-    EXPECT_TRUE(
-        Eventually([&] { return launcher.Texts(updateTitle).find("Complete") != std::string::npos; }));
-    const HWND okay = GetDlgItem(launcher.Window(updateTitle), IDOK);
+    EXPECT_TRUE(Eventually([&] { return menu.Texts(updateTitle).find("Complete") != std::string::npos; }));
+    const HWND okay = GetDlgItem(menu.Window(updateTitle), IDOK);
     constexpr LPARAM repeated = 1 | LPARAM{KF_REPEAT} << 16;
     PostMessageA(okay, WM_KEYDOWN, VK_RETURN, repeated);
     ExpectNothingRun();
-    EXPECT_TRUE(launcher.Shown(updateTitle));
+    EXPECT_TRUE(menu.Shown(updateTitle));
     PressKey(VK_RETURN);
     ExpectBackupRun();
 }
@@ -116,12 +115,12 @@ TEST_F(Keyboard, EnterHeldThroughTheUpdateLeavesItsWindowOpen) {
 TEST(TitleWithMarks, IsShownWithoutThemAndTakesNoKey) {
     const Installation installation(5);
     WriteFileBytes("UB.mnu", "R&&D of &Core\r\nA^K\r\n");
-    const Launcher launcher;
-    ASSERT_TRUE(installation.HostTypesLast("UB"));
-    EXPECT_EQ(TextOf(GetDlgItem(launcher.Menu(), IDC_LABEL1)), "R&D of Core");
-    EXPECT_EQ(TextOf(GetDlgItem(launcher.Menu(), IDC_FRAME1)), "R&&D of Core")
+    const RunningMenu menu;
+    ASSERT_TRUE(installation.HostGetsLast("UB"));
+    EXPECT_EQ(TextOf(GetDlgItem(menu.Window(), IDC_LABEL1)), "R&D of Core");
+    EXPECT_EQ(TextOf(GetDlgItem(menu.Window(), IDC_FRAME1)), "R&&D of Core")
         << "a group box shows this as one &";
-    EXPECT_TRUE(KeepsForeground(launcher.Menu()));
+    EXPECT_TRUE(KeepsForeground(menu.Window()));
     PressWithAlt('C');
     EXPECT_TRUE(Eventually([] { return IsWindowVisible(FindWindowA("#32768", nullptr)) != FALSE; }))
         << "Core Programs opens";
@@ -135,14 +134,14 @@ TEST(BusyFiles, AreWaitedForAtTheStartAndAtARun) {
     HeldFile configuration("FennConfig.Sys", 0), temporary("Core\\TempOut.tmp", 0);
     configuration.ReleaseAfter(300);
     temporary.ReleaseAfter(600);
-    const Launcher launcher;
-    ASSERT_TRUE(installation.HostTypesLast("UB"));
+    const RunningMenu menu;
+    ASSERT_TRUE(installation.HostGetsLast("UB"));
     HeldFile updated("Updated.txt", 0);
     updated.ReleaseAfter(300);
-    const HWND tree = launcher.Tree();
+    const HWND tree = menu.Tree();
     TreeView_SelectItem(tree, TreeView_GetNextSibling(tree, TreeView_GetRoot(tree)));
-    launcher.Send(WM_COMMAND, IDC_COMMAND1);
-    EXPECT_TRUE(installation.HostTypesLast("RUN"));
+    menu.Command(IDC_COMMAND1);
+    EXPECT_TRUE(installation.HostGetsLast("RUN"));
 }
 
 } // namespace

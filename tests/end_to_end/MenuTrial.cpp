@@ -28,8 +28,8 @@ public:
     Effect Run() {
         const Effect effect = FindEffect();
         if (const char* box = Box()) {
-            launcher.Press(box, IDOK);
-            EXPECT_LE(launcher.ExitCode(), 1);
+            running.Press(box, IDOK);
+            EXPECT_LE(running.ExitCode(), 1);
         }
         return effect;
     }
@@ -38,7 +38,7 @@ private:
     Effect FindEffect() {
         if (!Starts())
             return Box() != nullptr ? Effect::EndsEveryStart : Effect::WaitsForEver;
-        menu = launcher.Menu();
+        menu = running.Window();
         if (!ShowsEverySystem())
             return Effect::EndsShownSystem;
         if (!RunsProgram())
@@ -46,14 +46,14 @@ private:
         if (!OpensProperties())
             return Effect::EndsProperties;
         PostMessageA(menu, WM_CLOSE, 0, 0);
-        EXPECT_EQ(launcher.ExitCode(), 0);
+        EXPECT_EQ(running.ExitCode(), 0);
         return Effect::None;
     }
 
     // The caption of the error box, while there is one.
     const char* Box() const {
         for (const char* caption : {"ObrinMenu", "Error!"}) {
-            if (launcher.Shown(caption) != nullptr)
+            if (running.Shown(caption) != nullptr)
                 return caption;
         }
         return nullptr;
@@ -61,10 +61,10 @@ private:
 
     bool Starts() const {
         const ULONGLONG end = GetTickCount64() + 1500;
-        const auto comes = [&] { return launcher.Shown("Obrin System Menu") != nullptr; };
+        const auto comes = [&] { return running.Shown("Obrin System Menu") != nullptr; };
         EXPECT_TRUE(Eventually([&] {
             const bool waits = expected == Effect::WaitsForEver && GetTickCount64() > end;
-            return Box() != nullptr || comes() || waits || launcher.Shown("Waiting for Fenn") != nullptr;
+            return Box() != nullptr || comes() || waits || running.Shown("Waiting for Fenn") != nullptr;
         }));
         return comes();
     }
@@ -90,9 +90,9 @@ private:
     bool RunsProgram() const {
         if (!Handles(WM_COMMAND, IDC_COMMAND1))
             return false;
-        if (const char* update = "Auto Update Utility"; launcher.Shown(update) != nullptr) {
-            Eventually([&] { return IsWindowVisible(GetDlgItem(launcher.Shown(update), IDOK)); });
-            launcher.Press(update, IDOK);
+        if (const char* update = "Auto Update Utility"; running.Shown(update) != nullptr) {
+            Eventually([&] { return IsWindowVisible(GetDlgItem(running.Shown(update), IDOK)); });
+            running.Press(update, IDOK);
         }
         return Handles(WM_NULL, 0);
     }
@@ -101,7 +101,7 @@ private:
         const auto entries =
             ParseMenuDefinition(ReadFileBytes(EnumerateMenuFiles().front().name), nullptr).entries;
         std::vector<HTREEITEM> items;
-        AddItems(items, TreeView_GetRoot(launcher.Tree()));
+        AddItems(items, TreeView_GetRoot(running.Tree()));
         for (std::size_t i = 0; i < std::min<std::size_t>(items.size(), 10); ++i) {
             if (!entries[i].key.empty() && !OpensProperties(items[i]))
                 return false;
@@ -110,27 +110,27 @@ private:
     }
 
     void AddItems(std::vector<HTREEITEM>& items, HTREEITEM item) const {
-        for (; item != nullptr; item = TreeView_GetNextSibling(launcher.Tree(), item)) {
+        for (; item != nullptr; item = TreeView_GetNextSibling(running.Tree(), item)) {
             items.push_back(item);
-            AddItems(items, TreeView_GetChild(launcher.Tree(), item));
+            AddItems(items, TreeView_GetChild(running.Tree(), item));
         }
     }
 
     bool OpensProperties(HTREEITEM program) const {
         const char* dialog = "Properties";
-        TreeView_SelectItem(launcher.Tree(), program);
+        TreeView_SelectItem(running.Tree(), program);
         const auto popsUp = [] {
             return FindTopWindow([](HWND window) {
                        return GetClassWord(window, GCW_ATOM) == 32768 && IsWindowVisible(window);
                    }) != nullptr;
         };
-        PostMessageA(launcher.Tree(), WM_CONTEXTMENU, 0, -1);
+        PostMessageA(running.Tree(), WM_CONTEXTMENU, 0, -1);
         EXPECT_TRUE(Eventually(popsUp));
         PostMessageA(menu, WM_KEYDOWN, VK_ESCAPE, 0);
         EXPECT_TRUE(Eventually([&] { return !popsUp(); }));
         PostMessageA(menu, WM_COMMAND, ID_TREE_PROPERTIES, 0);
-        EXPECT_TRUE(Eventually([&] { return Box() != nullptr || launcher.Shown(dialog) != nullptr; }));
-        if (const HWND properties = launcher.Shown(dialog); Box() == nullptr) {
+        EXPECT_TRUE(Eventually([&] { return Box() != nullptr || running.Shown(dialog) != nullptr; }));
+        if (const HWND properties = running.Shown(dialog); Box() == nullptr) {
             PostMessageA(properties, WM_COMMAND, IDOK, 0);
             EXPECT_TRUE(Eventually([&] { return Box() != nullptr || !IsWindow(properties); }));
         }
@@ -138,7 +138,7 @@ private:
     }
 
     Effect expected;
-    Launcher launcher;
+    RunningMenu running;
     HWND menu = nullptr;
 };
 

@@ -1,255 +1,218 @@
-// The menu window: from outside where its controls stand after a resize, the pointer, the about box; in this
-// process what screens and screen readers ask of it.
+// The menu window: where its controls stand, at every size and on every screen, and how the keyboard moves in
+// it.
 
-#include "end_to_end/Installation.h"
+#include "end_to_end/MenuHere.h"
 
+#include "common/Twips.h"
 #include "controls/Font.h"
 #include "controls/Window.h"
-#include "menu/frmMain.h"
-#include "platform/Events.h"
 #include "support/WindowChecks.h"
 
 namespace obrin::test {
 namespace {
 
-struct MenuWindow : testing::Test {
-    MenuWindow() { EXPECT_TRUE(installation.HostTypesLast("UB")); }
+class MenuWindow : public MenuHere {
+protected:
+    void Resize(int width, int height) const {
+        SetWindowPos(window, nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER);
+    }
 
-    HWND Control(int id) const { return GetDlgItem(menu, id); }
-
-    /// A window's place in the menu window's inside.
-    RECT Place(HWND window) const {
+    void MoveToScreenOf(UINT dpi) const {
         RECT place;
         GetWindowRect(window, &place);
-        MapWindowPoints(nullptr, menu, reinterpret_cast<POINT*>(&place), 2);
-        return place;
+        SendMessageA(window, WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&place));
     }
 
-    const Installation installation{5};
-    const Launcher launcher;
-    const HWND menu = launcher.Menu();
+    using Pair = std::pair<LONG, LONG>; // across and down
+
+    static Pair Size(HWND control) {
+        const SIZE size = SizeOf(PlaceOf(control));
+        return {size.cx, size.cy};
+    }
+    static Pair Margins(HWND outer, HWND inner) {
+        return {Size(outer).first - Size(inner).first, Size(outer).second - Size(inner).second};
+    }
 };
 
-TEST_F(MenuWindow, KeepsItsMarginsAtEverySize) {
-    const auto margins = [this] { // from the lower right corner
-        std::vector<LONG> distances;
-        for (const HWND kept :
-             {Control(IDC_FRAME1), launcher.Tree(), Control(IDC_LABEL4), Control(IDC_LABEL5)}) {
-            distances.push_back(Place(menu).right - Place(kept).right);
-            distances.push_back(Place(menu).bottom - Place(kept).bottom);
-        }
-        return distances;
+TEST_F(MenuWindow, OpensAsDesigned) {
+    if (GetDpiForWindow(window) != USER_DEFAULT_SCREEN_DPI)
+        GTEST_SKIP() << "The places are those of a screen of 96 DPI.";
+    struct {
+        const char* what;
+        RECT place, designed; // in its parent
+    } const cases[] = {
+        {"frame", PlaceOf(frame), {10, 8, 410, 488}},
+        {"tree", PlaceOf(tree), {10, 28, 390, 432}},
+        {"button", PlaceOf(button), {10, 440, 130, 468}},
     };
-    const std::vector<LONG> designed = margins();
-    EXPECT_EQ(GetAwarenessFromDpiAwarenessContext(GetWindowDpiAwarenessContext(menu)),
-              DPI_AWARENESS_PER_MONITOR_AWARE);
-    if (GetDpiForWindow(menu) == USER_DEFAULT_SCREEN_DPI) {
-        RECT inside;
-        GetClientRect(menu, &inside);
-        std::string places = std::to_string(inside.right) + "x" + std::to_string(inside.bottom);
-        for (const HWND control :
-             {Control(IDC_FRAME1), launcher.Tree(), GetDlgItem(Control(IDC_FRAME1), IDC_COMMAND1)}) {
-            const auto [left, top, right, bottom] = Place(control);
-            for (const LONG side : {left, top, right, bottom})
-                places += " " + std::to_string(side);
-        }
-        for (const int label : {IDC_LABEL1, IDC_LABEL2, IDC_LABEL3, IDC_IMAGE1})
-            places += " " + std::to_string(Place(Control(label)).top);
-        const RECT idea = Place(Control(IDC_LABEL4)), link = Place(Control(IDC_LABEL5));
-        for (const LONG side : {link.left - idea.right, link.right, link.bottom})
-            places += " " + std::to_string(side);
-        EXPECT_EQ(places, "740x500 10 8 410 488 20 36 400 440 20 448 140 476 16 60 82 120 0 733 499");
-    }
-    for (const SIZE size : {SIZE{1200, 900}, {1, 1}, {760, 560}}) {
-        for (const int id : {IDC_FRAME1, IDC_LABEL5})
-            SetWindowPos(Control(id), HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
-        SetWindowPos(menu, nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
-        // The display may confirm the size before last meanwhile.
-        EXPECT_TRUE(size.cx == 1 || Eventually([&] { return margins() == designed; }));
-        HWND next = GetWindow(menu, GW_CHILD);
-        for (const int id : {IDC_LABEL5, IDC_LABEL4, IDC_FRAME1}) { // from the front
-            EXPECT_EQ(GetDlgCtrlID(next), id);
-            next = GetWindow(next, GW_HWNDNEXT);
-        }
-    }
-    PostMessageA(menu, WM_COMMAND, ID_ABOUT, 0);
-    EXPECT_EQ(GetWindow(launcher.Window("Obrin Software Systems"), GW_OWNER), menu);
-    EXPECT_FALSE(IsWindowEnabled(menu));
+    for (const auto& [what, place, designed] : cases)
+        EXPECT_TRUE(EqualRect(&place, &designed)) << what;
+    RECT inner;
+    GetClientRect(window, &inner);
+    EXPECT_EQ(Pair(inner.right, inner.bottom), Pair(740, 500));
+    EXPECT_EQ(PlaceOf(title).top, 16);
+    EXPECT_EQ(PlaceOf(user).top, 60);
+    EXPECT_EQ(PlaceOf(number).top, 82);
+    EXPECT_EQ(PlaceOf(picture).top, 120);
 }
 
-// In the place of the shell's, for what this process opens: programs are started, documents only noted.
-std::string documents;
-HINSTANCE WINAPI OpenHere(HWND, const char*, const char* file, const char* parameters, const char*,
-                          int show) {
-    if (parameters != nullptr)
-        Start(std::filesystem::current_path() / file, parameters);
-    else
-        documents.append(file).append(show == SW_SHOWNORMAL ? " " : "?");
-    return reinterpret_cast<HINSTANCE>(INT_PTR{42});
+TEST_F(MenuWindow, FrameAndTreeKeepTheirMarginsAtEverySize) {
+    const Pair ofFrame = Margins(window, frame), ofTree = Margins(frame, tree);
+    for (const SIZE size : {SIZE{1200, 900}, {500, 400}}) {
+        Resize(size.cx, size.cy);
+        EXPECT_EQ(Margins(window, frame), ofFrame) << size.cx;
+        EXPECT_EQ(Margins(frame, tree), ofTree) << size.cx;
+    }
 }
 
-} // namespace
-
-extern "C" {
-#ifdef _WIN64
-decltype(&ShellExecuteA) imported __asm__("__imp_ShellExecuteA") = OpenHere;
-#else
-decltype(&ShellExecuteA) imported __asm__("__imp__ShellExecuteA@24") = OpenHere;
-#endif
+TEST_F(MenuWindow, FrameAndTreeStayInAWindowWithoutRoomForTheMargins) {
+    const Pair ofFrame = Size(frame), ofTree = Size(tree);
+    Resize(1, 1); // Windows makes it a little larger
+    EXPECT_EQ(Size(frame), ofFrame);
+    EXPECT_EQ(Size(tree), ofTree);
 }
 
-namespace {
+TEST_F(MenuWindow, LinkIsInTheLowerRightCornerWithItsLabelBesideIt) {
+    Resize(1000, 700);
+    RECT inner;
+    GetClientRect(window, &inner);
+    const double twips = GetDpiForWindow(window) / twipsPerInch; // in pixels
+    constexpr double rounding = 0.5;
+    EXPECT_NEAR(inner.right - PlaceOf(link).right, 100 * twips, rounding);
+    EXPECT_NEAR(inner.bottom - PlaceOf(link).bottom, 20 * twips, rounding);
+    EXPECT_EQ(PlaceOf(idea).right, PlaceOf(link).left);
+    EXPECT_EQ(PlaceOf(idea).top, PlaceOf(link).top);
+    EXPECT_EQ(Size(idea).first, MeasureText(idea, "Got a better idea? ").cx) << "a blank before the link";
+}
 
-TEST(MenuWindowHere, IsTheSameOnEveryScreenAndForEveryReader) {
-    const Installation installation(5);
-    WriteFileBytes("UB.mnu",
-                   "Water && Waste^" + std::string(5000, 'x') + "\r\nBackup^Core\\Programs\\CSBackup\r\n");
-    WriteFileBytes("Startup.bmp", Bmp(120, 90));
-    frmMain menu;
-    menu.Show();
-    const HWND window = menu.Window();
-    const auto control = [=](int id) { return GetDlgItem(window, id); };
-    const HWND link = control(IDC_LABEL5);
-    const HWND tree = GetDlgItem(control(IDC_FRAME1), IDC_TREEVIEW1);
-    const HWND button = GetDlgItem(control(IDC_FRAME1), IDC_COMMAND1);
-    const HWND frame = control(IDC_FRAME1);
-    const RECT room = PlaceOf(frame);
-    const HCURSOR arrow = LoadCursorA(nullptr, IDC_ARROW), crosshair = LoadCursorA(nullptr, IDC_CROSS);
-    // A crosshair from the link to the background, whatever lies in between.
-    for (const auto& [over, x, y, pointer] : {std::tuple{window, room.right + 10, room.bottom - 10, arrow},
-                                              {control(IDC_LABEL4), 5L, 5L, arrow},
-                                              {link, 5L, 5L, crosshair},
-                                              {control(IDC_LABEL4), 5L, 5L, crosshair},
-                                              {control(IDC_LABEL1), 5L, 5L, crosshair},
-                                              {tree, 5L, 5L, crosshair},
-                                              {frame, 4L, 100L, crosshair},
-                                              {window, room.right + 10, room.bottom - 10, arrow},
-                                              {frame, 4L, 100L, arrow}}) {
-        POINT place{x, y};
-        ClientToScreen(over, &place);
-        PointAt(place);
-        const HWND under = WindowFromPoint(place);
-        SendMessageA(under, WM_SETCURSOR, reinterpret_cast<WPARAM>(under),
-                     MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
-        EXPECT_EQ(GetCursor(), pointer) << GetDlgCtrlID(over);
+TEST_F(MenuWindow, TitleUserNumberAndPictureAreCentredByTheOuterWidth) {
+    Resize(1000, 700);
+    const LONG right = Size(window).first; // behind the inner one by the width of the border
+    for (const HWND centred : {title, user, number, picture}) {
+        const RECT place = PlaceOf(centred);
+        EXPECT_NEAR(place.left + place.right, PlaceOf(frame).right + right, 2) << TextOf(centred);
     }
-    EXPECT_FALSE(SendMessageA(window, WM_SETCURSOR, reinterpret_cast<WPARAM>(window),
-                              MAKELPARAM(HTRIGHT, WM_MOUSEMOVE)))
-        << "the border has its own";
-    const HDC linkScreen = GetDC(link);
-    for (const HWND focused : {link, tree, link}) { // every second pixel
-        SetFocus(focused);
-        SendMessageA(window, WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
-        UpdateWindow(link);
-        EXPECT_EQ(GetPixel(linkScreen, 0, 0) != GetPixel(linkScreen, 1, 0), focused == link);
-    }
-    ReleaseDC(link, linkScreen);
-    const auto fontOf = [](HWND lettered) { return SendMessageA(lettered, WM_GETFONT, 0, 0); };
-    for (const int change : {WM_SETTINGCHANGE, WM_THEMECHANGED, WM_SYSCOLORCHANGE}) {
-        const LRESULT messageFont = fontOf(tree);
-        SetWindowPos(control(IDC_LABEL3), nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
-        UpdateWindow(control(IDC_IMAGE1));
-        SendMessageA(window, static_cast<UINT>(change), 0, 0);
-        EXPECT_TRUE(GetUpdateRect(control(IDC_IMAGE1), nullptr, FALSE)) << "painted anew";
-        EXPECT_GT(PlaceOf(control(IDC_LABEL3)).left, 0) << "laid out anew";
-        EXPECT_NE(fontOf(tree), messageFont) << "the user's may be another one now";
-        for (const int id : {IDC_FRAME1, IDC_LABEL2, IDC_LABEL3})
-            EXPECT_EQ(fontOf(control(id)), fontOf(tree));
-    }
-    CentreOnScreen(window, {700, 500});
-    const RECT centred = PlaceOf(window);
-    CentreOnScreen(window, {30'000, 30'000});
-    RECT work, title;
-    GetWindowRect(window, &title);
+}
+
+TEST_F(MenuWindow, LinkAndItsLabelComeBeforeTheFrameAfterAResize) {
+    for (const HWND control : {frame, link})
+        SetWindowPos(control, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    Resize(1000, 700);
+    EXPECT_EQ(GetWindow(window, GW_CHILD), link);
+    EXPECT_EQ(GetWindow(link, GW_HWNDNEXT), idea);
+    EXPECT_EQ(GetWindow(idea, GW_HWNDNEXT), frame);
+}
+
+TEST_F(MenuWindow, IsCentredOnItsScreenAndNoLargerThanIt) {
+    RECT work, place;
     SystemParametersInfoA(SPI_GETWORKAREA, 0, &work, 0);
-    EXPECT_TRUE(EqualRect(&title, &work)) << "no larger than a small screen";
-    EXPECT_NEAR(centred.left + centred.right, work.left + work.right, 1);
-    EXPECT_NEAR(centred.top + centred.bottom, work.top + work.bottom, 1);
-    GetWindowRect(control(IDC_LABEL1), &title);
-    const auto font = reinterpret_cast<HFONT>(SendMessageA(control(IDC_LABEL1), WM_GETFONT, 0, 0));
-    const RECT idea = PlaceOf(control(IDC_LABEL4));
-    EXPECT_EQ(idea.right - idea.left, MeasureText(control(IDC_LABEL4), "Got a better idea? ").cx);
-    EXPECT_EQ(title.right - title.left, MeasureText(font, "Water & Waste").cx) << "as in the frame's caption";
-    SendMessageA(window, WM_DPICHANGED, MAKEWPARAM(144, 144), reinterpret_cast<LPARAM>(&title));
+    CentreOnScreen(window, {700, 500});
+    GetWindowRect(window, &place);
+    EXPECT_NEAR(place.left + place.right, work.left + work.right, 1);
+    EXPECT_NEAR(place.top + place.bottom, work.top + work.bottom, 1);
+    CentreOnScreen(window, {30'000, 30'000});
+    GetWindowRect(window, &place);
+    EXPECT_TRUE(EqualRect(&place, &work));
+}
+
+TEST_F(MenuWindow, FontsHaveTheSizeOfTheirScreen) {
+    struct {
+        HWND control;
+        const char *at96, *at192;
+    } const cases[] = {
+        {title, "Comic Sans MS-24b", "Comic Sans MS-48b"}, // bold
+        {idea, "Georgia-13", "Georgia-27"},
+        {link, "Georgia-13u", "Georgia-27u"}, // underlined
+        {button, "MS Sans Serif-11", "MS Sans Serif-21"},
+    };
+    for (const auto& [control, at96, at192] : cases) {
+        MoveToScreenOf(96);
+        EXPECT_EQ(FontOf(control), at96);
+        MoveToScreenOf(192);
+        EXPECT_EQ(FontOf(control), at192);
+    }
+}
+
+TEST_F(MenuWindow, PictureGrowsWithTheScreenWholeAndSmoothly) {
+    MoveToScreenOf(144);
+    EXPECT_EQ(Size(picture), Pair(180, 135));
     const UniqueDc memory(CreateCompatibleDC(nullptr));
-    const LRESULT image = SendMessageA(control(IDC_IMAGE1), STM_GETIMAGE, IMAGE_BITMAP, 0);
+    const LRESULT image = SendMessageA(picture, STM_GETIMAGE, IMAGE_BITMAP, 0);
     const HGDIOBJ none = SelectObject(memory.get(), reinterpret_cast<HBITMAP>(image));
-    bool grey = false;
+    bool hasGrey = false; // in the last line of a picture of black and white
     for (int x = 0; x < 180; ++x) {
         const COLORREF pixel = GetPixel(memory.get(), x, 134);
-        grey = grey || (pixel != CLR_INVALID && pixel != RGB(0, 0, 0) && pixel != RGB(255, 255, 255));
+        hasGrey = hasGrey || (pixel != CLR_INVALID && pixel != RGB(0, 0, 0) && pixel != RGB(255, 255, 255));
     }
-    EXPECT_TRUE(grey) << "scaled whole, and smoothly";
+    EXPECT_TRUE(hasGrey);
     SelectObject(memory.get(), none);
-    const RECT centre = PlaceOf(control(IDC_LABEL1));
-    for (const int id : {IDC_IMAGE1, IDC_LABEL2, IDC_LABEL3}) {
-        const RECT below = PlaceOf(control(id));
-        EXPECT_NEAR(centre.left + centre.right, below.left + below.right, 2) << id;
-    }
-    std::string fonts;
-    for (const HWND lettered : {control(IDC_LABEL1), control(IDC_LABEL4), link, button})
-        fonts += FontOf(lettered) + " ";
-    EXPECT_EQ(fonts, "Comic Sans MS-36b Georgia-20 Georgia-20u MS Sans Serif-16 ");
+}
 
-    const auto [heardName, heardRole] = Announced(link);
-    EXPECT_EQ(heardName, "E-Mail us!");
-    if (PlatformTakesRoles(button))
-        EXPECT_EQ(heardRole, ROLE_SYSTEM_LINK);
-    else
-        std::printf(
-            "This platform takes no roles of controls: whether the link is announced as one was not seen.\n");
-    const HDC screen = GetDC(link);
-    EXPECT_EQ(SendMessageA(window, WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(screen),
-                           reinterpret_cast<LPARAM>(link)),
-              reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_BTNFACE)));
-    EXPECT_EQ(std::pair(GetTextColor(screen), GetBkMode(screen)),
-              std::pair(GetSysColor(COLOR_HOTLIGHT), TRANSPARENT));
-    ReleaseDC(link, screen);
-    std::string styles;
-    for (const HWND styled :
-         {window, control(IDC_FRAME1), tree, button, control(IDC_LABEL1), control(IDC_IMAGE1),
-          control(IDC_LABEL2), control(IDC_LABEL3), control(IDC_LABEL4), link}) {
-        std::array<char, 40> style{};
-        std::snprintf(style.data(), style.size(), "%08lX-%lX ",
-                      GetWindowStyle(styled) & ~DWORD{WS_HSCROLL | WS_VSCROLL}, GetWindowExStyle(styled));
-        styles += style.data();
+TEST_F(MenuWindow, NewThemeOrColoursBringNewFontsAndALayoutForThem) {
+    const auto fontOf = [](HWND control) { return SendMessageA(control, WM_GETFONT, 0, 0); };
+    for (const UINT change : {UINT{WM_SETTINGCHANGE}, UINT{WM_THEMECHANGED}, UINT{WM_SYSCOLORCHANGE}}) {
+        const LRESULT oldFont = fontOf(tree);
+        SetWindowPos(number, nullptr, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        SendMessageA(window, change, 0, 0);
+        EXPECT_NE(fontOf(tree), oldFont);
+        EXPECT_GT(PlaceOf(number).left, 0);
     }
-    EXPECT_EQ(styles,
-              "16CF0000-10100 56000007-10000 54010037-200 54010000-0 54000080-0 5400000E-0 54000080-0 "
-              "54000080-0 54000080-0 54010180-0 ");
-    EXPECT_EQ(TextOf(button), "&Run Program");
+}
+
+TEST_F(MenuWindow, AmpersandOfATitleIsShownOnceEverywhere) {
+    const auto font = reinterpret_cast<HFONT>(SendMessageA(title, WM_GETFONT, 0, 0));
+    EXPECT_EQ(Size(title).first, MeasureText(font, "Water & Waste").cx);
+    EXPECT_EQ(TextOf(tree), "Water & Waste") << "for screen readers";
+    std::array<char, 80> item{};
+    GetMenuStringA(GetMenu(window), ID_SYSTEMS, item.data(), item.size(), MF_BYCOMMAND);
+    EXPECT_STREQ(item.data(), "Water && Waste") << "a menu shows this as one &";
+}
+
+TEST_F(MenuWindow, HasTheStylesThatItNeeds) {
+    struct {
+        const char* reason;
+        HWND styled;
+        DWORD style;
+    } const cases[] = {
+        {"can be sized, minimized and closed", window, WS_OVERLAPPEDWINDOW},
+        {"does not paint over its controls", window, WS_CLIPCHILDREN},
+        {"does not paint over the tree", frame, WS_CLIPCHILDREN},
+        {"is a frame", frame, BS_GROUPBOX},
+        {"lines and boxes show the levels", tree, TVS_HASLINES | TVS_LINESATROOT | TVS_HASBUTTONS},
+        {"shows the program that the button would run", tree, TVS_SHOWSELALWAYS},
+        {"a click that slips selects", tree, TVS_DISABLEDRAGDROP},
+        {"shows the & of a title", title, SS_NOPREFIX},
+        {"shows the & of a name", user, SS_NOPREFIX},
+        {"shows a bitmap", picture, SS_BITMAP},
+        {"can be clicked", link, SS_NOTIFY},
+    };
+    for (const auto& [reason, styled, style] : cases)
+        EXPECT_TRUE(HasStyle(styled, style)) << reason;
+    EXPECT_TRUE(GetWindowExStyle(tree) & WS_EX_CLIENTEDGE) << "a sunken edge";
+}
+
+TEST_F(MenuWindow, HasItsIconAndBackground) {
     EXPECT_EQ(GetClassLongPtrA(window, GCLP_HICON),
               reinterpret_cast<ULONG_PTR>(LoadIconA(Instance(), MAKEINTRESOURCEA(IDI_OBRIN))));
     EXPECT_EQ(GetClassLongPtrA(window, GCLP_HBRBACKGROUND),
               reinterpret_cast<ULONG_PTR>(GetSysColorBrush(COLOR_BTNFACE)));
-    std::array<char, 80> listed{};
-    GetMenuStringA(GetMenu(window), ID_SYSTEMS, listed.data(), listed.size(), MF_BYCOMMAND);
-    EXPECT_STREQ(listed.data(), "Water && Waste");
-    EXPECT_EQ(TextOf(tree), "Water & Waste") << "for a screen reader, shown nowhere";
-    EXPECT_EQ(GetNextDlgTabItem(window, button, FALSE), link);
-    EXPECT_EQ(GetNextDlgTabItem(window, link, FALSE), tree);
-    SetFocus(button);
-    SendMessageA(window, WM_ACTIVATE, WA_INACTIVE, 0);
-    SetFocus(window);
-    EXPECT_EQ(GetFocus(), button) << "back from another window";
-    for (const WPARAM key : {WPARAM{VK_RETURN}, WPARAM{VK_SPACE}, WPARAM{VK_DOWN}}) {
-        SendMessageA(link, WM_KEYDOWN, key, 0);
-        SendMessageA(link, WM_KEYDOWN, key, LPARAM{KF_REPEAT} << 16); // held
-    }
-    SendMessageA(link, WM_LBUTTONDOWN, MK_LBUTTON, 0);
-    SendMessageA(window, WM_COMMAND, MAKEWPARAM(IDC_LABEL5, STN_DBLCLK), reinterpret_cast<LPARAM>(link));
-    SendMessageA(window, WM_COMMAND, ID_SYSTEM_HELP, 0);
-    EXPECT_EQ(documents,
-              "Help\\BetterIdea.url Help\\BetterIdea.url Help\\BetterIdea.url Help\\UB\\Index.html ");
-    for (const WPARAM key : {WPARAM{VK_RETURN}, WPARAM{VK_TAB}}) {
-        MSG typed{link, WM_KEYDOWN, key, 0, 0, {}};
-        for (const HWND asked : {link, tree}) {
-            const LRESULT code = SendMessageA(asked, WM_GETDLGCODE, key, reinterpret_cast<LPARAM>(&typed));
+}
+
+TEST_F(MenuWindow, TreeAndLinkTakeEnterAndLeaveTab) {
+    for (const HWND control : {tree, link}) {
+        for (const WPARAM key : {WPARAM{VK_RETURN}, WPARAM{VK_TAB}}) {
+            MSG typed{control, WM_KEYDOWN, key, 0, 0, {}};
+            const LRESULT code = SendMessageA(control, WM_GETDLGCODE, key, reinterpret_cast<LPARAM>(&typed));
             EXPECT_EQ((code & DLGC_WANTMESSAGE) != 0, key == VK_RETURN);
         }
     }
-    SendMessageA(window, WM_CLOSE, 0, 0);
-    RunEvents(); // up to the end that the closed window has asked for
+}
+
+TEST_F(MenuWindow, KeyboardComesBackFromAnotherWindowToItsControl) {
+    SetFocus(button);
+    SendMessageA(window, WM_ACTIVATE, WA_INACTIVE, 0);
+    SetFocus(window);
+    EXPECT_EQ(GetFocus(), button);
 }
 
 } // namespace

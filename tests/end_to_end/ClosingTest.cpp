@@ -1,0 +1,54 @@
+// The end of the menu: by its close box, and at the end of the Windows session.
+
+#include "end_to_end/Installation.h"
+
+namespace obrin::test {
+namespace {
+
+struct Closing : testing::Test {
+    Closing() {
+        // The host handles this command for half a second.
+        SetEnvironmentVariableA("FENN_HANG", "LOAD CORE\\PROGRAMS\\CSBACKUP");
+        SetEnvironmentVariableA("FENN_HANG_MS", "500");
+        menu.emplace();
+        EXPECT_TRUE(installation.HostGets(typed));
+    }
+
+    const Installation installation{5};
+    std::optional<RunningMenu> menu;
+    Lines typed{"LOAD CORE\\STARTSYS", "RUN", "UB"};
+};
+
+TEST_F(Closing, EndsTheHostAndRemovesTheMarkerFile) {
+    menu->Close();
+    EXPECT_EQ(menu->ExitCode(), 0);
+    typed.emplace_back("RUN CORE\\EXIT");
+    EXPECT_TRUE(installation.HostGets(typed));
+    EXPECT_FALSE(FileExists("Menu 5.txt"));
+}
+
+TEST_F(Closing, NeedsNoHost) {
+    installation.EndHost();
+    menu->Close();
+    EXPECT_EQ(menu->ExitCode(), 0);
+}
+
+TEST_F(Closing, EndOfTheSessionLetsACommandBeTypedToItsEnd) {
+    menu->Command(ID_BACKUP);
+    EXPECT_TRUE(Eventually([&] { return !installation.Logged("hang").empty(); }));
+    SendMessageA(menu->Window(), WM_ENDSESSION, TRUE, 0);
+    EXPECT_EQ(menu->ExitCode(), 0);
+    typed.insert(typed.end(), {"LOAD CORE\\PROGRAMS\\CSBACKUP", "RUN", "RUN CORE\\EXIT"});
+    EXPECT_TRUE(installation.HostGets(typed));
+    EXPECT_FALSE(FileExists("Menu 5.txt"));
+    ExpectRemembered("UB.mnu");
+}
+
+TEST_F(Closing, SessionThatGoesOnLeavesTheMenuOpen) {
+    SendMessageA(menu->Window(), WM_ENDSESSION, FALSE, 0);
+    EXPECT_TRUE(IsWindow(menu->Window()));
+    EXPECT_EQ(installation.Logged("line"), typed);
+}
+
+} // namespace
+} // namespace obrin::test

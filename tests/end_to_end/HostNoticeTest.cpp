@@ -1,0 +1,136 @@
+// The wait for a host that comes late or never, and the notice that the operator sees meanwhile.
+
+#include "end_to_end/PlayedHost.h"
+
+namespace obrin::test {
+namespace {
+
+constexpr const char* noticeTitle = "Waiting for Fenn";
+
+struct HostNoticeTest : testing::Test {
+    void AwaitStartOfHost() const {
+        ASSERT_TRUE(Eventually([&] { return !installation.Logged("process").empty(); }));
+    }
+
+    // Waits for the menu window. Returns whether the notice was there before.
+    static bool SeesNoticeBefore(const RunningMenu& menu) {
+        bool noticed = false;
+        EXPECT_TRUE(Eventually([&] {
+            noticed = noticed || menu.Shown(noticeTitle) != nullptr;
+            return menu.Shown(menuCaption) != nullptr;
+        }));
+        return noticed;
+    }
+
+    const Installation installation{5};
+};
+
+TEST_F(HostNoticeTest, IsNotShownInTheFirstTwoSeconds) {
+    SetEnvironmentVariableA("FENN_WINDOW_DELAY_MS", "600");
+    SetEnvironmentVariableA("FENN_START_DELAY_MS", "600"); // from the window to its caption
+    const ULONGLONG start = GetTickCount64();
+    const RunningMenu menu;
+    const bool noticed = SeesNoticeBefore(menu);
+    if (GetTickCount64() - start >= 2000)
+        GTEST_SKIP() << "The machine is too busy to tell.";
+    EXPECT_FALSE(noticed);
+}
+
+TEST_F(HostNoticeTest, IsShownWhenTheHostTakesLongerAndGoesAwayByItself) {
+    SetEnvironmentVariableA("FENN_WINDOW_DELAY_MS", "2800");
+    const RunningMenu menu;
+    EXPECT_TRUE(SeesNoticeBefore(menu));
+    EXPECT_TRUE(Eventually([&] { return menu.Shown(noticeTitle) == nullptr; }));
+}
+
+TEST_F(HostNoticeTest, MenuIsHiddenAndHasNoCaptionYet) {
+    SetEnvironmentVariableA("FENN_NEVER", "window");
+    const RunningMenu menu;
+    AwaitStartOfHost();
+    EXPECT_FALSE(IsWindowVisible(menu.LoadingWindow()));
+    EXPECT_EQ(TextOf(menu.LoadingWindow()), "") << "a second menu must not find an empty window";
+}
+
+TEST_F(HostNoticeTest, WindowOfAnyClassWithTheCaptionOfTheStationEndsTheWait) {
+    SetEnvironmentVariableA("FENN_NEVER", "caption");
+    const HWND station =
+        CreateWindowExA(0, "STATIC", "Obrin-05", WS_VISIBLE, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
+    CreateWindowExA(0, "STATIC", "", WS_CHILD, 0, 0, 0, 0, station, nullptr, nullptr, nullptr);
+    const RunningMenu menu;
+    EXPECT_TRUE(PlayedHost::Until([&] { return menu.Shown(menuCaption) != nullptr; }));
+    DestroyWindow(station);
+}
+
+TEST_F(HostNoticeTest, SaysWhatItWaitsForAndWhere) {
+    SetEnvironmentVariableA("FENN_NEVER", "window");
+    const RunningMenu menu;
+    const std::string texts = menu.Texts(noticeTitle);
+    EXPECT_NE(texts.find("as soon as Fenn.exe shows its window Obrin-05."), std::string::npos) << texts;
+    EXPECT_NE(texts.find(CurrentFolder()), std::string::npos) << texts;
+    EXPECT_EQ(texts.find("could not be started"), std::string::npos) << texts;
+}
+
+TEST_F(HostNoticeTest, SaysAtOnceWhyTheHostCouldNotBeStarted) {
+    DeleteFileA("Fenn.exe");
+    const RunningMenu menu;
+    const std::string texts = menu.Texts(noticeTitle);
+    EXPECT_NE(texts.find("could not be started: " + PlatformText(ERROR_FILE_NOT_FOUND)), std::string::npos)
+        << texts;
+}
+
+TEST_F(HostNoticeTest, ClosingItEndsTheMenu) {
+    struct {
+        const char* way;
+        void (*close)(HWND notice);
+    } const cases[] = {
+        {"its button", [](HWND notice) { SendDlgItemMessageA(notice, IDCANCEL, BM_CLICK, 0, 0); }},
+        {"Escape", [](HWND notice) { PostMessageA(notice, WM_KEYDOWN, VK_ESCAPE, 0); }},
+        {"its close box", [](HWND notice) { PostMessageA(notice, WM_SYSCOMMAND, SC_CLOSE, 0); }},
+    };
+    DeleteFileA("Fenn.exe"); // so that the notice is shown at once
+    for (const auto& [way, close] : cases) {
+        SCOPED_TRACE(way);
+        const RunningMenu menu;
+        close(menu.Window(noticeTitle));
+        EXPECT_EQ(menu.ExitCode(), 0);
+    }
+}
+
+TEST_F(HostNoticeTest, MenuClosedBeforeItShowsASystemChangesNothing) {
+    RememberSystem("UB.mnu ");
+    SetEnvironmentVariableA("FENN_NEVER", "caption");
+    const RunningMenu menu;
+    AwaitStartOfHost();
+    menu.Close();
+    EXPECT_EQ(menu.ExitCode(), 0);
+    ExpectRemembered("UB.mnu ");
+    EXPECT_FALSE(FileExists("Menu 5.txt"));
+    EXPECT_EQ(installation.Logged("process").size(), 1U) << "no second host";
+}
+
+struct SecondStartDuringTheWait : HostNoticeTest {
+    SecondStartDuringTheWait() { DeleteFileA("Fenn.exe"); }
+
+    void StartSecond() const {
+        SetForegroundWindow(GetDesktopWindow());
+        EXPECT_EQ(RunningMenu().ExitCode(), 0);
+    }
+};
+
+TEST_F(SecondStartDuringTheWait, BringsTheNoticeToTheFront) {
+    const RunningMenu first;
+    const HWND notice = first.Window(noticeTitle);
+    StartSecond();
+    EXPECT_TRUE(KeepsForeground(notice));
+}
+
+TEST_F(SecondStartDuringTheWait, LeavesANoticeBehindThatABoxHasDisabled) {
+    const RunningMenu first;
+    const HWND notice = first.Window(noticeTitle);
+    EnableWindow(notice, FALSE);
+    StartSecond();
+    EXPECT_NE(GetForegroundWindow(), notice);
+}
+
+} // namespace
+} // namespace obrin::test

@@ -1,0 +1,96 @@
+// The link "E-Mail us!" of the menu window, and the pointer, which it changes for the whole window.
+
+#include "end_to_end/Input.h"
+#include "end_to_end/MenuHere.h"
+
+#include "support/WindowChecks.h"
+
+namespace obrin::test {
+namespace {
+
+class Link : public MenuHere {
+protected:
+    // Moves the pointer to a place of a control and returns its shape there.
+    static HCURSOR PointerOver(HWND control, LONG x, LONG y) {
+        POINT place{x, y};
+        ClientToScreen(control, &place);
+        PointAt(place);
+        const HWND under = WindowFromPoint(place); // the window, where a control lets the mouse through
+        SendMessageA(under, WM_SETCURSOR, reinterpret_cast<WPARAM>(under),
+                     MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+        return GetCursor();
+    }
+    HCURSOR PointerOverBackground() const {
+        return PointerOver(window, PlaceOf(frame).right + 10, PlaceOf(frame).bottom - 10);
+    }
+
+    const HCURSOR arrow = LoadCursorA(nullptr, IDC_ARROW), crosshair = LoadCursorA(nullptr, IDC_CROSS);
+    static constexpr const char* shortcut = "Help\\BetterIdea.url";
+};
+
+TEST_F(Link, IsOpenedOnceByEnterOrSpaceAlsoWhenHeld) {
+    for (const WPARAM key : {WPARAM{VK_RETURN}, WPARAM{VK_SPACE}, WPARAM{VK_DOWN}}) {
+        SendMessageA(link, WM_KEYDOWN, key, 0);
+        SendMessageA(link, WM_KEYDOWN, key, LPARAM{KF_REPEAT} << 16);
+    }
+    EXPECT_EQ(OpenedDocuments(), (Lines{shortcut, shortcut}));
+}
+
+TEST_F(Link, IsOpenedOnceByADoubleClick) {
+    SendMessageA(link, WM_LBUTTONDOWN, MK_LBUTTON, 0);
+    SendMessageA(link, WM_LBUTTONUP, 0, 0);
+    SendMessageA(link, WM_LBUTTONDBLCLK, MK_LBUTTON, 0);
+    EXPECT_EQ(OpenedDocuments(), Lines{shortcut});
+}
+
+TEST_F(Link, ShowsTheFocusWhileItHasTheKeyboard) {
+    const HDC screen = GetDC(link);
+    for (const HWND focused : {link, tree, link}) {
+        SetFocus(focused);
+        SendMessageA(window, WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
+        UpdateWindow(link);
+        const bool isDotted = GetPixel(screen, 0, 0) != GetPixel(screen, 1, 0);
+        EXPECT_EQ(isDotted, focused == link);
+    }
+    ReleaseDC(link, screen);
+}
+
+TEST_F(Link, IsAnnouncedAsALink) {
+    const auto [name, role] = Announced(link);
+    EXPECT_EQ(name, "E-Mail us!");
+    if (!PlatformTakesRoles(button))
+        GTEST_SKIP() << "This platform takes no roles of controls.";
+    EXPECT_EQ(role, ROLE_SYSTEM_LINK);
+}
+
+TEST_F(Link, HasTheColoursOfALinkOnTheWindowsBackground) {
+    const HDC screen = GetDC(link);
+    const LRESULT brush = SendMessageA(window, WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(screen),
+                                       reinterpret_cast<LPARAM>(link));
+    EXPECT_EQ(brush, reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_BTNFACE)));
+    EXPECT_EQ(GetTextColor(screen), GetSysColor(COLOR_HOTLIGHT));
+    EXPECT_EQ(GetBkMode(screen), TRANSPARENT);
+    ReleaseDC(link, screen);
+}
+
+TEST_F(Link, TurnsThePointerIntoACrosshairThatOtherControlsKeep) {
+    EXPECT_EQ(PointerOver(idea, 5, 5), arrow);
+    EXPECT_EQ(PointerOver(link, 5, 5), crosshair);
+    EXPECT_EQ(PointerOver(idea, 5, 5), crosshair);
+    EXPECT_EQ(PointerOver(title, 5, 5), crosshair);
+    EXPECT_EQ(PointerOver(tree, 5, 5), crosshair);
+    EXPECT_EQ(PointerOver(frame, 4, 100), crosshair);
+    EXPECT_FALSE(SendMessageA(window, WM_SETCURSOR, reinterpret_cast<WPARAM>(window),
+                              MAKELPARAM(HTRIGHT, WM_MOUSEMOVE)))
+        << "the border has pointers of its own";
+}
+
+TEST_F(Link, LosesTheCrosshairToTheBackground) {
+    EXPECT_EQ(PointerOverBackground(), arrow);
+    EXPECT_EQ(PointerOver(link, 5, 5), crosshair);
+    EXPECT_EQ(PointerOverBackground(), arrow);
+    EXPECT_EQ(PointerOver(frame, 4, 100), arrow);
+}
+
+} // namespace
+} // namespace obrin::test

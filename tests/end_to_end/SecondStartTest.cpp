@@ -1,0 +1,96 @@
+// A start beside an open host or another menu.
+
+#include "end_to_end/Installation.h"
+
+namespace obrin::test {
+namespace {
+
+constexpr const char* questionTitle = "Error Opening Obrin System";
+
+// A host is open, hidden and minimized.
+struct OpenHost : testing::Test {
+    OpenHost() {
+        Start(std::filesystem::current_path() / "Fenn.exe");
+        EXPECT_TRUE(Eventually([&] { return (host = FindWindowA("ZafWindow", "Obrin-01")) != nullptr; }));
+        ShowWindow(host, SW_SHOWMINNOACTIVE);
+        ShowWindow(host, SW_HIDE);
+    }
+
+    void Answer(int button) const {
+        const RunningMenu menu;
+        menu.Press(questionTitle, button);
+        EXPECT_EQ(menu.ExitCode(), 0);
+    }
+
+    const Installation installation{5};
+    HWND host = nullptr;
+};
+
+TEST_F(OpenHost, MakesTheMenuAskWhetherToShowIt) {
+    const RunningMenu menu;
+    EXPECT_NE(
+        menu.Texts(questionTitle)
+            .find("Error: Fenn Already Open!! Please close before proceeding.\r\n\r\nWould you like us to "
+                  "show the Fenn Window Now?"),
+        std::string::npos);
+    const HWND box = menu.Window(questionTitle);
+    EXPECT_TRUE(HasIcon(box));
+    EXPECT_TRUE(GetDlgItem(box, IDYES));
+    EXPECT_FALSE(GetDlgItem(box, IDCANCEL));
+    EXPECT_TRUE(SendDlgItemMessageA(box, IDNO, WM_GETDLGCODE, 0, 0) & DLGC_DEFPUSHBUTTON) << "Enter means No";
+    EXPECT_TRUE(ReadFileBytes("FennConfig.Sys").starts_with("Drive S,")) << "rewritten before the question";
+}
+
+TEST_F(OpenHost, StaysHiddenAfterNo) {
+    Answer(IDNO);
+    EXPECT_FALSE(IsWindowVisible(host));
+}
+
+TEST_F(OpenHost, IsShownAfterYes) {
+    Answer(IDYES);
+    EXPECT_TRUE(IsWindowVisible(host));
+    EXPECT_FALSE(IsIconic(host));
+}
+
+// Another menu is open, and its host has gone.
+struct OpenMenu : testing::Test {
+    OpenMenu() {
+        EXPECT_TRUE(installation.HostGetsLast("UB"));
+        installation.EndHost();
+    }
+
+    static void StartSecond() { EXPECT_EQ(RunningMenu().ExitCode(), 0); }
+
+    const Installation installation{5};
+    const RunningMenu first;
+};
+
+TEST_F(OpenMenu, ComesToTheFront) {
+    SetForegroundWindow(GetDesktopWindow());
+    EXPECT_TRUE(Eventually([&] { return GetForegroundWindow() != first.Window(); }));
+    StartSecond();
+    EXPECT_TRUE(KeepsForeground(first.Window()));
+}
+
+TEST_F(OpenMenu, IsRestored) {
+    ShowWindow(first.Window(), SW_SHOWMINNOACTIVE);
+    StartSecond();
+    EXPECT_TRUE(KeepsForeground(first.Window()));
+    EXPECT_FALSE(IsIconic(first.Window()));
+}
+
+TEST_F(OpenMenu, ThatHangsDoesNotMakeTheSecondHang) {
+    first.Suspend();
+    StartSecond();
+    first.Resume();
+}
+
+TEST(OpenMenuAndHost, TheQuestionAboutTheHostComesFirst) {
+    const Installation installation(5);
+    const RunningMenu first;
+    ASSERT_TRUE(installation.HostGetsLast("UB"));
+    EXPECT_TRUE(RunningMenu().Window(questionTitle));
+}
+
+} // namespace
+} // namespace obrin::test
