@@ -1,5 +1,6 @@
 #include "end_to_end/Installation.h"
 
+#include "common/Installation.h"
 #include "common/Lines.h"
 #include "support/TopWindow.h"
 
@@ -67,7 +68,7 @@ std::string TextOf(HWND window) {
 }
 
 Installation::Installation(int wsid) {
-    RegDeleteKeyValueA(HKEY_LOCAL_MACHINE, "Software\\Obrin", "LastSystem");
+    RegDeleteKeyValueA(HKEY_LOCAL_MACHINE, menuRegistryKey, lastSystemValue);
     for (const char* program : {"ObrinMenu.exe", "Corvel.dll", "Fenn.exe"})
         std::filesystem::copy_file(OwnProgram().replace_filename(program), program);
     CreateFolder("Core");
@@ -173,12 +174,12 @@ int RunningMenu::ExitCode() const {
 }
 
 void RememberSystem(const std::string& name) {
-    SupportLibrary().SetRegValue(HKEY_LOCAL_MACHINE, "Software\\Obrin", "LastSystem", name);
+    SupportLibrary().SetRegValue(HKEY_LOCAL_MACHINE, menuRegistryKey, lastSystemValue, name);
 }
 
 void ExpectRemembered(const std::string& name) {
     // A user without the right to write there has no system remembered.
-    EXPECT_EQ(SupportLibrary().GetRegValue(HKEY_LOCAL_MACHINE, "Software\\Obrin", "LastSystem"),
+    EXPECT_EQ(SupportLibrary().GetRegValue(HKEY_LOCAL_MACHINE, menuRegistryKey, lastSystemValue),
               MayRememberSystem() ? name : "");
 }
 
