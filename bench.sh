@@ -17,7 +17,7 @@ measure() {
   return "$result"
 }
 
-# Prints each row as it comes; on a terminal it takes the place of the line that says how long it has been.
+# Prints each row as it comes. On a terminal, the row overwrites the progress line.
 show_rows() {
   local row
   while IFS= read -r row; do

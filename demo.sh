@@ -17,8 +17,8 @@ usage: ./demo.sh --screenshot FILE [--dpi N] [--size WxH] [--do SCRIPT]
   --size WxH   the menu window's size in pixels, without its frame
   --do SCRIPT  bash script to run before the picture, which can open a menu or a dialog with xdotool; MENU_WINDOW is
                the menu's window
-  --without-host  in an installation without the host: takes the notice that the menu waits for it
-  --faulty-menu   in an installation with a fault in a menu file: takes the box that the menu ends with
+  --without-host  in an installation without the host: takes a picture of the notice "Waiting for Fenn"
+  --faulty-menu   in an installation with a fault in a menu file: takes a picture of the error box
 TEXT
 }
 

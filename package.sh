@@ -9,10 +9,10 @@ usage() {
 usage: ./package.sh [--sign FILE.pfx [--timestamp URL]] [--to FOLDER]
   Makes ObrinMenu-VERSION-x64.zip and -x86.zip, and SHA256SUMS beside them. The same sources make the same bytes,
   unless they are signed.
-  --sign FILE.pfx  signs the programs and the library with the certificate and key in this file, whose password
-                   stands in the environment variable OBRIN_SIGN_PASSWORD
-  --timestamp URL  has a time-stamp server (RFC 3161) confirm when: the signature then outlives the certificate
-  --to FOLDER      puts the archives there (dist), in place of those of other versions
+  --sign FILE.pfx  signs the programs and the library with the certificate and key in this file; its password is in
+                   the environment variable OBRIN_SIGN_PASSWORD
+  --timestamp URL  adds a time stamp of this server (RFC 3161): the signature then outlives the certificate
+  --to FOLDER      writes the archives there (default: dist) and removes those of other versions
 usage: ./package.sh --tests [--to FOLDER]
   Makes ObrinTests-VERSION-x64.zip: the tests for a Windows machine, started by run-tests.cmd.
 Exit code: 0 made, 1 something failed and FOLDER is as it was, 64 wrong arguments.

@@ -9,7 +9,7 @@ usage() {
   cat <<'TEXT'
 usage: ./test.sh [--all] [--fuzz SECONDS]
   Builds the presets native, x64 and x86. Runs the tests of native (the rules, with sanitizers) and x64 (under Wine),
-  and those of x64 once more out of their archive, as on a Windows machine. Makes signed archives and verifies them.
+  and those of x64 again from their archive, as on a Windows machine. Makes signed archives and verifies them.
   --all           also the tests of x86, and --fuzz 20
   --fuzz SECONDS  run the fuzz targets, SECONDS in all
 Exit code: 0 everything passed, 1 something failed, 2 nothing failed but some tests could not run, 64 wrong arguments.
@@ -60,7 +60,7 @@ run_ctest() {
   return "$result"
 }
 
-# Runs the archive of the tests in a new prefix, and looks that it leaves the prefix as it was.
+# Runs the archive of the tests in a new prefix, and checks that it leaves the prefix unchanged.
 run_archive() {
   rm -rf build/wine/archive
   if ./package.sh --tests &&

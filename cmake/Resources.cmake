@@ -1,8 +1,7 @@
-# Building a resource script again when a file has changed that it needs.
+# Rebuilds a resource script when a file that it uses has changed.
 enable_language(RC)
 
-# The files that it includes: windres hands these on to its preprocessor, which lists them. CMake does not do this by
-# itself for windres.
+# windres passes these options to its preprocessor, which lists the included files. CMake does not do this by itself.
 set(CMAKE_DEPFILE_FLAGS_RC "--preprocessor-arg=-MD --preprocessor-arg=-MF<DEP_FILE> --preprocessor-arg=-MT<DEP_TARGET>")
 
 # The files that it puts into the image, such as icons and manifests, which the preprocessor does not see:

@@ -1,4 +1,5 @@
-# The target `strict`, which every other one links: the warnings. They are errors, except with an untried compiler.
+# The target `strict` holds the warnings for all other targets. Switch WARNINGS_ARE_ERRORS off for a compiler that nobody
+# has tried yet.
 option(WARNINGS_ARE_ERRORS "A warning ends the build" ON)
 add_library(strict INTERFACE)
 target_compile_options(strict INTERFACE

@@ -44,7 +44,7 @@ install_packages() {
     "${as_root[@]}" apt-get -q -o Acquire::Retries=3 update ||
     echo "Trying with the lists of packages at hand" >&2
   echo "Missing packages: ${missing[*]}" >&2
-  echo "Beside them, builds and Wine prefixes take 1.5 GB below build/ (4.2 GB after ./test.sh --all)" >&2
+  echo "In addition, builds and Wine prefixes take 1.5 GB below build/ (4.2 GB after ./test.sh --all)" >&2
   run_step "Installing packages ($(size_of_packages "${missing[@]}"))" build/log/packages.txt \
     "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive "${apt_get[@]}" -qq -o Acquire::Retries=3 \
     -o Dpkg::Use-Pty=0 install -y --no-install-recommends "${missing[@]}"

@@ -30,8 +30,8 @@ trap 'rm -rf "$scratch"' EXIT
 TEST_PREMATURE_EXIT_FILE=$(windows_path "$scratch/tests-are-running")
 export TEST_PREMATURE_EXIT_FILE
 
-# Runs the program. For the test runner it starts tests again that fail without a word: on a loaded machine Wine now and
-# then does not start a program, and a test that has begun always prints something.
+# Runs the program. Under the test runner, a test program that fails without output is run again: on a loaded machine
+# Wine now and then does not start a program, and a test that has begun always prints something.
 run_program() {
   local tries=1 result=0
   if [[ $program != *_tests.exe || -t 1 ]]; then

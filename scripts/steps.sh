@@ -49,7 +49,7 @@ watch_step() {
   done
 }
 
-# On a terminal in the current line, which it replaces.
+# On a terminal, overwrites the current line.
 show_status() {
   if [[ -t 2 ]]; then
     printf '\r\e[K%.79s' "$1" >&2
@@ -63,8 +63,8 @@ show_status() {
 # shellcheck disable=SC2034
 apt_get=(bash -c 'exec apt-get -o APT::Status-Fd=3 "$@" 3>&1' apt-get)
 
-# How far the command is that writes this log; nothing if the log does not say. In this order: ninja (and loops of
-# ours that print the same), ctest with its count of failures, and apt-get, which first downloads and then installs.
+# How far the command is that writes this log; nothing if the log does not say. In this order: ninja (our own
+# loops print the same format), ctest with its count of failures, and apt-get, which first downloads and then installs.
 progress_in() {
   local progress failures
   progress=$(sed -n -E -e 's|^\[([0-9]+)/([0-9]+)\] .*|\1 of \2|p' \

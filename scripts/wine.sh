@@ -29,7 +29,7 @@ run_wine() {
   "$WINELOADER" "$@"
 }
 
-# For programs that are expected to end by themselves: run_wine_for SECONDS PROGRAM ARGUMENT...
+# Runs a program with a time limit: run_wine_for SECONDS PROGRAM ARGUMENT...
 run_wine_for() {
   limited "$1" "$WINELOADER" "${@:2}"
 }
@@ -185,7 +185,7 @@ REG
 }
 
 # Runs a command in a prefix on a hidden desktop: in_session PREFIX COMMAND...
-# The command is alone in the prefix, whose registry is as new, and all its processes are ended afterwards. Within a
+# The command is alone in the prefix, which gets a fresh registry; all its processes are ended afterwards. Within a
 # session of the same prefix, this only runs the command.
 in_session() {
   local prefix=$1

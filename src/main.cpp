@@ -11,8 +11,9 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
     // From now on, Windows loads DLLs only from the system folder, because every operator may write into the
     // program's folder. SupportLibrary names the folders for Corvel.dll itself.
     SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
-    DisableProcessWindowsGhosting();      // no "(Not Responding)" while the menu waits for the host
-    SetErrorMode(SEM_FAILCRITICALERRORS); // no question for a disk if a drive is empty
+    DisableProcessWindowsGhosting(); // no "(Not Responding)" while the menu waits for the host
+    // No question for a disk if a drive is empty. The host would inherit the mode from SetErrorMode.
+    SetThreadErrorMode(SEM_FAILCRITICALERRORS, nullptr);
     // At the end of the session, Windows must close the menu before the host (level 0x280), because the menu
     // sends the exit command to the host.
     SetProcessShutdownParameters(0x300, 0);

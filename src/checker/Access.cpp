@@ -15,7 +15,7 @@ DWORD ErrorOfOpening(const std::string& path, DWORD access, DWORD flags) {
                     OPEN_EXISTING, flags, nullptr);
     if (handle == INVALID_HANDLE_VALUE)
         return GetLastError();
-    const UniqueFile closes(handle);
+    const UniqueHandle closes(handle);
     return ERROR_SUCCESS;
 }
 

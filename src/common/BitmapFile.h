@@ -1,4 +1,4 @@
-// Checks the header of a BMP file. Windows trusts it: with a wrong header some versions read beyond the file.
+// Checks the header of a BMP file. Wine trusts it, and reads beyond the end of a file with a wrong header.
 #pragma once
 
 #include <cstddef>

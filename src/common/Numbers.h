@@ -11,10 +11,10 @@ namespace obrin {
 /// Puts a blank in front of a number that is not negative: " 5", "-5".
 std::string SignedDecimal(int number);
 
-/// Adds nothing: "5", "-5".
+/// Writes the digits only: "5", "-5".
 std::string PlainDecimal(int number);
 
-/// Adds zeros in front up to `digits` digits: 5 with two digits is "05".
+/// Adds leading zeros if there are fewer than `digits` digits: 5 with two digits is "05".
 std::string PaddedDecimal(int number, int digits);
 
 /// Writes a number of thousandths as a decimal number without trailing zeros: 500 is "0.5", 1000 is "1".

@@ -25,7 +25,7 @@ std::size_t FindLastCharacter(std::string_view text, char character, LeadByteTes
 /// Returns the first `count` characters of a text.
 std::string_view FirstCharacters(std::string_view text, std::size_t count, LeadByteTest isLeadByte);
 
-/// Returns the text with small letters in the place of A to Z.
+/// Converts A to Z to lower case and leaves all other bytes as they are.
 std::string AsciiLowerCase(std::string_view text);
 
 /// Removes leading and trailing spaces. Keeps tabs and other white space.

@@ -8,11 +8,8 @@
 namespace obrin {
 
 INT_PTR Dialog::ShowModal(HWND owner, int resource) {
-    // noexcept: better to end the program than to unwind through Windows.
-    const INT_PTR result = [&]() noexcept {
-        return DialogBoxParamA(Instance(), MAKEINTRESOURCEA(resource), owner, Procedure,
-                               reinterpret_cast<LPARAM>(this));
-    }();
+    const INT_PTR result = DialogBoxParamA(Instance(), MAKEINTRESOURCEA(resource), owner, Procedure,
+                                           reinterpret_cast<LPARAM>(this));
     if (result == -1 && window == nullptr)
         ThrowLastError("Opening a dialog");
     window = nullptr;

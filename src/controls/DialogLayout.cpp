@@ -21,7 +21,7 @@ SIZE MeasureCharacter(HDC context) {
 }
 
 // A font's average character is four dialog units wide and eight high.
-constexpr SIZE unitsOfCharacter{4, 8};
+constexpr SIZE dialogUnitsPerCharacter{4, 8};
 
 // Converts between pixels and dialog units. `from` and `to` are the size of a character in each unit.
 // Position and size are converted separately, as the dialog manager does.
@@ -39,13 +39,13 @@ RECT& DialogLayout::BoundsOf(HWND control) {
 }
 
 DialogDesign::DialogDesign(HWND dialog) {
-    RECT area{0, 0, unitsOfCharacter.cx, unitsOfCharacter.cy};
+    RECT area{0, 0, dialogUnitsPerCharacter.cx, dialogUnitsPerCharacter.cy};
     MapDialogRect(dialog, &area);
     character = {area.right, area.bottom};
     GetObjectA(reinterpret_cast<HFONT>(SendMessageA(dialog, WM_GETFONT, 0, 0)), sizeof font, &font);
     points = MulDiv(-font.lfHeight, pointsPerInch, static_cast<int>(GetDpiForWindow(dialog)));
     GetClientRect(dialog, &area);
-    area = Convert(area, character, unitsOfCharacter);
+    area = Convert(area, character, dialogUnitsPerCharacter);
     inner = {area.right, area.bottom};
     AddControlsOf(dialog);
 }
@@ -59,7 +59,7 @@ void DialogDesign::AddControlsOf(HWND parent) {
         if (SendMessageA(control, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&bounds)) == 0)
             GetWindowRect(control, &bounds);
         MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&bounds), 2);
-        controls.push_back({control, Convert(bounds, character, unitsOfCharacter)});
+        controls.push_back({control, Convert(bounds, character, dialogUnitsPerCharacter)});
     }
 }
 
@@ -80,10 +80,10 @@ DialogLayout DialogDesign::LayoutAt(UINT dpi) const {
     const SIZE pixels = MeasureCharacter(context.get());
     SelectObject(context.get(), old);
 
-    const RECT area = Convert({0, 0, inner.cx, inner.cy}, unitsOfCharacter, pixels);
+    const RECT area = Convert({0, 0, inner.cx, inner.cy}, dialogUnitsPerCharacter, pixels);
     layout.inner = {area.right, area.bottom};
     for (auto& [control, bounds] : layout.controls)
-        bounds = Convert(bounds, unitsOfCharacter, pixels);
+        bounds = Convert(bounds, dialogUnitsPerCharacter, pixels);
     return layout;
 }
 

@@ -1,7 +1,6 @@
 #include "controls/GroupBox.h"
 
-#include "controls/Theme.h"
-#include "controls/Window.h"
+#include "platform/Handle.h"
 
 namespace obrin {
 
@@ -13,28 +12,29 @@ void FillBackground(HWND box, HDC target) {
     FillRect(target, &inner, GetSysColorBrush(COLOR_BTNFACE));
 }
 
-LRESULT CallOriginal(HWND box, UINT message, WPARAM wParam, LPARAM lParam) {
-    const auto original = reinterpret_cast<WNDPROC>(GetWindowLongPtrA(box, GWLP_USERDATA));
-    return CallWindowProcW(original, box, message, wParam, lParam);
-}
-
 // Draws the background, then the stock group box with its caption and border.
 LRESULT Print(HWND box, HDC target, LPARAM flags) {
     FillBackground(box, target);
-    return CallOriginal(box, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(target), flags);
+    return DefSubclassProc(box, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(target), flags);
 }
 
-// Paints background and border in one step, so that the border does not flicker during a resize.
+// Paints into a bitmap and copies that to the screen, so that the border does not flicker during a resize.
 void Paint(HWND box) {
     PAINTSTRUCT paint;
     const HDC screen = BeginPaint(box, &paint);
     RECT inner;
     GetClientRect(box, &inner);
-    PaintBuffered(screen, inner, [=](HDC target) { Print(box, target, PRF_CLIENT); });
+    const UniqueBitmap bitmap(CreateCompatibleBitmap(screen, inner.right, inner.bottom));
+    const UniqueDc buffer(CreateCompatibleDC(screen));
+    const HGDIOBJ old = SelectObject(buffer.get(), bitmap.get());
+    Print(box, buffer.get(), PRF_CLIENT);
+    BitBlt(screen, 0, 0, inner.right, inner.bottom, buffer.get(), 0, 0, SRCCOPY);
+    SelectObject(buffer.get(), old);
     EndPaint(box, &paint);
 }
 
-LRESULT CALLBACK Procedure(HWND box, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+LRESULT CALLBACK Procedure(HWND box, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                           DWORD_PTR) noexcept {
     const auto target = reinterpret_cast<HDC>(wParam);
     switch (message) {
     case WM_COMMAND:
@@ -53,15 +53,14 @@ LRESULT CALLBACK Procedure(HWND box, UINT message, WPARAM wParam, LPARAM lParam)
         Paint(box);
         return 0;
     default:
-        return CallOriginal(box, message, wParam, lParam);
+        return DefSubclassProc(box, message, wParam, lParam);
     }
 }
 
 } // namespace
 
 void MakeContainer(HWND groupBox) {
-    SetWindowLongPtrA(groupBox, GWLP_USERDATA,
-                      reinterpret_cast<LONG_PTR>(ReplaceWindowProcedure(groupBox, Procedure)));
+    SetWindowSubclass(groupBox, Procedure, 0, 0);
 }
 
 } // namespace obrin

@@ -4,13 +4,7 @@
 
 #include "platform/WindowsApi.h"
 
-#include <functional>
-
 namespace obrin {
-
-/// Calls `paint` with an off-screen buffer and copies the result to the screen. Without visual styles, calls
-/// `paint` with the screen itself.
-void PaintBuffered(HDC screen, const RECT& area, const std::function<void(HDC)>& paint);
 
 /// Gives a dialog on a tab strip the background of the tab strip.
 void UseTabBackground(HWND dialog);

@@ -16,11 +16,6 @@ HWND CreateControl(HWND parent, const char* controlClass, int id, DWORD style, c
     return control;
 }
 
-WNDPROC ReplaceWindowProcedure(HWND control, WNDPROC procedure) {
-    return reinterpret_cast<WNDPROC>(
-        SetWindowLongPtrW(control, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
-}
-
 namespace {
 
 LRESULT CALLBACK HeldEnterProcedure(HWND button, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,

@@ -1,4 +1,4 @@
-// Helpers for windows that are not made from a dialog template.
+// Helpers for windows and controls.
 #pragma once
 
 #include "platform/WindowsApi.h"
@@ -10,10 +10,6 @@ namespace obrin {
 /// Creates a visible control of size 0. Throws RunTimeError.
 HWND CreateControl(HWND parent, const char* controlClass, int id, DWORD style, const char* text = "",
                    DWORD extendedStyle = 0);
-
-/// Subclasses a stock control and returns its original procedure. Call that with CallWindowProcW: stock
-/// controls are Unicode windows. SetWindowSubclass would make filling a large tree several times slower.
-WNDPROC ReplaceWindowProcedure(HWND control, WNDPROC procedure);
 
 /// Makes a dialog button ignore the repeated key messages while Enter is held down.
 void IgnoreHeldEnter(HWND button);

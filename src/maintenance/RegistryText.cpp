@@ -3,6 +3,7 @@
 #include "common/Numbers.h"
 
 #include <algorithm>
+#include <charconv>
 #include <optional>
 
 namespace obrin {
@@ -29,14 +30,9 @@ std::string HexDigitsFromLast(std::string_view bytes) {
 // Returns the value of hexadecimal digits behind "&h". Up to four digits mean a signed 16-bit number, more
 // digits a signed 32-bit number: FFFF is -1, 10000 is 65536. Returns nothing if there is no such number.
 std::optional<int> SignedValue(std::string_view digits) {
-    if (digits.empty())
+    std::uint32_t value = 0;
+    if (std::from_chars(digits.data(), digits.data() + digits.size(), value, 16).ec != std::errc())
         return std::nullopt;
-    std::uint64_t value = 0;
-    for (const char digit : digits) {
-        value = value * 16 + hexDigits.find(digit);
-        if (value > UINT32_MAX)
-            return std::nullopt;
-    }
     if (value <= UINT16_MAX)
         return static_cast<std::int16_t>(value);
     return static_cast<std::int32_t>(value);

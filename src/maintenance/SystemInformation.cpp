@@ -11,25 +11,6 @@ namespace obrin {
 
 namespace {
 
-// Opens a registry key. Closes it also after a failed open, and ignores errors of the close.
-class RegistryKey {
-public:
-    RegistryKey(HKEY root, const char* name) {
-        constexpr REGSAM fullAccess = 0x2003F;
-        opened = RegOpenKeyExA(root, name, 0, fullAccess, &key) == ERROR_SUCCESS;
-    }
-    RegistryKey(const RegistryKey&) = delete;
-    RegistryKey& operator=(const RegistryKey&) = delete;
-    ~RegistryKey() { RegCloseKey(key); }
-
-    bool IsOpen() const { return opened; }
-    HKEY Get() const { return key; }
-
-private:
-    HKEY key = nullptr;
-    bool opened;
-};
-
 // Starts a program in a normal window. The path may contain blanks. Windows searches no other folders.
 bool StartProgram(const std::string& path) {
     STARTUPINFOA window{};
@@ -62,17 +43,18 @@ bool StartTool() try {
 
 bool QueryRegistryString(HKEY root, const char* keyName, const char* valueName, std::string& value) {
     value.clear();
-    const RegistryKey key(root, keyName);
-    if (!key.IsOpen())
-        return false;
+    constexpr REGSAM fullAccess = 0x2003F;
+    HKEY key = nullptr;
     std::array<char, 1024> bytes;
     DWORD size = bytes.size();
     DWORD type = REG_NONE;
-    if (RegQueryValueExA(key.Get(), valueName, nullptr, &type, reinterpret_cast<BYTE*>(bytes.data()),
-                         &size) != ERROR_SUCCESS)
-        return false;
-    value = RegistryText(type, {bytes.data(), size});
-    return true;
+    const bool found = RegOpenKeyExA(root, keyName, 0, fullAccess, &key) == ERROR_SUCCESS &&
+                       RegQueryValueExA(key, valueName, nullptr, &type, reinterpret_cast<BYTE*>(bytes.data()),
+                                        &size) == ERROR_SUCCESS;
+    RegCloseKey(key); // also after a failed open; errors do not matter
+    if (found)
+        value = RegistryText(type, {bytes.data(), size});
+    return found;
 }
 
 void LaunchSystemInfo(HWND owner) {

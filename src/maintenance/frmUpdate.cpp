@@ -15,7 +15,7 @@ namespace obrin {
 
 namespace {
 
-// Starts the first copy. On some platforms the first WM_SIZE arrives too early, before the window is visible.
+// Starts the first copy. Under Wine the first WM_SIZE arrives too early, before the window is visible.
 constexpr UINT firstShown = WM_APP;
 
 constexpr UINT neverSent = WM_APP + 1;
@@ -111,7 +111,7 @@ void frmUpdate::CopyFiles() {
         SetWindowTextA(Label1, (std::string("Updating:\r\n") + what).c_str());
         // Paints now, because a copy can take minutes.
         RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
-        // Some platforms update the screen only when the thread looks for a message.
+        // Wine updates the screen only when the thread looks for a message.
         MSG none;
         PeekMessageA(&none, window, neverSent, neverSent, PM_NOREMOVE);
     };

@@ -1,4 +1,4 @@
-// The fixed items of the menu bar: which host programs they run and which documents they open.
+// The fixed items of the menu bar, and the link: which host programs they run and which documents they open.
 #pragma once
 
 #include "common/Text.h"

@@ -70,7 +70,7 @@ private:
         } else {
             entry.text = line;
             // Forgets deeper headings.
-            headings.resize(std::min(depth, maxEntries) + 1, missing);
+            headings.resize(std::min(depth, maxEntries) + 1, noHeading);
             headings.back() = static_cast<std::int16_t>(definition.entries.size() + 1);
         }
         definition.entries.push_back(std::move(entry));
@@ -78,9 +78,9 @@ private:
 
     std::int16_t ParentAt(std::size_t depth) {
         if (depth == 0)
-            return noParent;
-        const std::int16_t heading = depth <= headings.size() ? headings[depth - 1] : missing;
-        if (heading == missing)
+            return noHeading;
+        const std::int16_t heading = depth <= headings.size() ? headings[depth - 1] : noHeading;
+        if (heading == noHeading)
             AddFault(MenuFault::Kind::NoHeading, "there is no heading one level above this entry");
         return heading;
     }
@@ -101,12 +101,11 @@ private:
             {.kind = kind, .line = lineNumber, .text = std::move(text), .firstLine = firstLine});
     }
 
-    static constexpr std::int16_t noParent = 0;
-    static constexpr std::int16_t missing = 0; // there is no heading at this depth
+    static constexpr std::int16_t noHeading = 0;
 
     LeadByteTest isLeadByte;
     int lineNumber = 1;
-    std::vector<std::int16_t> headings = {missing}; // tree index of the last heading at each depth
+    std::vector<std::int16_t> headings = {noHeading}; // tree index of the last heading at each depth
     std::unordered_map<std::string, int> lineOfKey;
     MenuDefinition definition;
 };

@@ -131,7 +131,8 @@ void frmMain::OnCommand(int id, int notification) {
         mnuTreeView_Click(id);
     else if (id == ID_ABOUT)
         mnuAboutObrin_Click();
-    else if (id == IDC_COMMAND1 || (id == IDOK && GetFocus() == Command1)) // IDOK: Enter after a mouse click
+    // A mouse click does not make the button the default one, so Enter then arrives as IDOK.
+    else if (id == IDC_COMMAND1 || (id == IDOK && GetFocus() == Command1))
         Command1_Click();
     else if (id == IDC_LABEL5 && notification != STN_CLICKED)
         return;

@@ -17,7 +17,7 @@ bool ProcessPendingEvents();
 int RunEvents() noexcept;
 
 /// Tests a condition at least every 15 ms and processes events in between, without a time limit. Returns true
-/// when it is true, or false if `window` is closed or the program quits first. Throws RunTimeError.
+/// when the condition holds, or false if `window` is closed or the program quits first. Throws RunTimeError.
 bool WaitUntil(HWND window, const std::function<bool()>& condition);
 
 } // namespace obrin

@@ -11,7 +11,7 @@ namespace obrin {
 
 namespace {
 
-constexpr std::size_t firstLineBytes = 4096; // longer than most first lines
+constexpr std::size_t blockBytes = 16 * 1024;
 
 bool IsBusy(DWORD error) {
     return error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION ||
@@ -78,15 +78,9 @@ std::string File::Read(std::size_t maxBytes) {
 }
 
 std::string File::ReadToEnd() {
-    constexpr std::uint64_t step = 1 << 30; // one call of Windows cannot read more than 4 GB
-    const std::uint64_t size = Size();
-    std::string bytes = Read(static_cast<std::size_t>(std::min(size, step)));
-    while (bytes.size() < size) {
-        const std::string more = Read(static_cast<std::size_t>(std::min(size - bytes.size(), step)));
-        if (more.empty())
-            break;
-        bytes += more;
-    }
+    std::string bytes;
+    for (std::string block = Read(blockBytes); !block.empty(); block = Read(blockBytes))
+        bytes += block;
     return bytes;
 }
 
@@ -141,7 +135,7 @@ std::optional<std::string> ReadFileIfThere(const std::string& path) {
     try {
         return ReadFileBytes(path);
     } catch (const RunTimeError& error) {
-        // A file that was missing may be there by now.
+        // FILE_NOT_FOUND is enough: somebody may have made the file since.
         if (error.Code() == ERROR_FILE_NOT_FOUND || !FileExists(path))
             return std::nullopt;
         throw;
@@ -150,13 +144,11 @@ std::optional<std::string> ReadFileIfThere(const std::string& path) {
 
 std::string ReadFirstLine(const std::string& path) {
     File file(path, File::Use::Read);
-    std::string start = file.Read(firstLineBytes);
-    // Each step doubles the text, so that a line of megabytes needs few steps.
-    while (start.find('\r') == std::string::npos) {
-        const std::string more = file.Read(start.size());
-        if (more.empty())
+    std::string start;
+    for (std::string block = file.Read(blockBytes); !block.empty(); block = file.Read(blockBytes)) {
+        start += block;
+        if (block.find('\r') != std::string::npos)
             break;
-        start += more;
     }
     const auto line = LineReader(start).Next();
     if (!line)
@@ -174,11 +166,13 @@ void WriteFileBytes(const std::string& path, std::string_view bytes) {
 
 bool FileExists(const std::string& path) {
     const DWORD attributes = GetFileAttributesA(path.c_str());
-    if (const DWORD error = GetLastError(); attributes == INVALID_FILE_ATTRIBUTES &&
-                                            error != ERROR_FILE_NOT_FOUND && error != ERROR_PATH_NOT_FOUND &&
-                                            error != ERROR_INVALID_NAME && error != ERROR_BAD_PATHNAME)
+    if (attributes != INVALID_FILE_ATTRIBUTES)
+        return (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+    const DWORD error = GetLastError();
+    if (error != ERROR_FILE_NOT_FOUND && error != ERROR_PATH_NOT_FOUND && error != ERROR_INVALID_NAME &&
+        error != ERROR_BAD_PATHNAME)
         throw RunTimeError(error, "Looking for " + path); // the file may exist
-    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+    return false;
 }
 
 bool NormalFileExists(const std::string& path) {

@@ -48,7 +48,7 @@ private:
     [[noreturn]] void Fail(const char* action) const;
 
     std::string path;
-    UniqueFile handle;
+    UniqueHandle handle;
 };
 
 /// Reads all bytes of a file. Throws RunTimeError.
@@ -57,7 +57,7 @@ std::string ReadFileBytes(const std::string& path);
 /// Reads all bytes of a file. Returns nothing if there is no file of that name. Throws RunTimeError.
 std::optional<std::string> ReadFileIfThere(const std::string& path);
 
-/// Reads the first line of a file, and not much more than that. Throws RunTimeError, also for an empty file.
+/// Reads a file only as far as its first line, and returns that. Throws RunTimeError, also for an empty file.
 std::string ReadFirstLine(const std::string& path);
 
 /// Writes a whole file in place. Creates it if it is missing. Throws RunTimeError.

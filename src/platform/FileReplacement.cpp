@@ -38,8 +38,8 @@ void WriteAndFlush(File& file, std::string_view bytes) {
     file.Close();
 }
 
-// Tests whether the user may delete the file and whether programs that have it open allow that. On some
-// platforms a replacement that fails half-way leaves files behind.
+// Tests whether the user may delete the file and whether programs that have it open allow that. Under Wine a
+// replacement that fails half-way leaves files behind.
 bool CanBeReplaced(const std::string& path) {
     const HANDLE handle =
         CreateFileA(path.c_str(), DELETE, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
@@ -61,20 +61,18 @@ bool MoveIntoPlace(const std::string& path, const std::string& temporary) {
 }
 
 // The fallback for files that cannot be replaced.
-void WriteInPlace(const std::string& path, std::string_view bytes, const std::optional<std::string>& current,
-                  const std::string& temporary) {
+void WriteInPlace(const std::string& path, std::string_view bytes, const std::string& temporary) {
     std::string action = "Writing " + path;
+    bool opened = false;
     try {
         File file(path, File::Use::Write);
+        opened = true;
         WriteAndFlush(file, bytes);
     } catch (const RunTimeError& error) {
-        // For example, when the user may not write.
-        const bool isUnchanged = current ? TryReadFile(path) == current
-                                         : GetFileAttributesA(path.c_str()) == INVALID_FILE_ATTRIBUTES;
-        if (isUnchanged || temporary.empty())
-            DeleteFileA(temporary.c_str());
-        else
+        if (opened && !temporary.empty())
             action += "\r\nIts new contents are complete in " + temporary;
+        else
+            DeleteFileA(temporary.c_str()); // nothing was written
         throw RunTimeError(error.Code(), action);
     }
     DeleteFileA(temporary.c_str());
@@ -90,7 +88,7 @@ void ReplaceFileBytes(const std::string& path, std::string_view bytes, std::opti
     const DWORD attributes = GetFileAttributesA(path.c_str());
     if (attributes != INVALID_FILE_ATTRIBUTES &&
         (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) != 0)
-        throw RunTimeError(ERROR_ACCESS_DENIED, "Writing " + path); // some platforms would replace it
+        throw RunTimeError(ERROR_ACCESS_DENIED, "Writing " + path); // Wine would replace it
     std::string temporary;
     if (auto file = MakeTemporaryFile(path)) {
         temporary = file->Path();
@@ -109,7 +107,7 @@ void ReplaceFileBytes(const std::string& path, std::string_view bytes, std::opti
             return;
         }
     }
-    WriteInPlace(path, bytes, current, temporary);
+    WriteInPlace(path, bytes, temporary);
 }
 
 } // namespace obrin

@@ -24,7 +24,7 @@ struct FolderEntry {
 /// Returns all entries of a folder in the order of the file system. Throws RunTimeError.
 std::vector<FolderEntry> ListFolder(const std::string& folder);
 
-/// Returns the entries that fit a path whose last part has wildcards. Throws RunTimeError.
+/// Returns the entries that match a pattern such as "C:\Host\*.mnu". Throws RunTimeError.
 std::vector<FolderEntry> ListMatching(const std::string& pattern);
 
 /// Returns the names of the files of a folder in the order of the file system, without hidden files and

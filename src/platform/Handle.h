@@ -10,45 +10,28 @@
 
 namespace obrin {
 
-/// Closes the handle of a file, a process or another kernel object. Do not use it for INVALID_HANDLE_VALUE.
-struct CloseKernelObject {
-    void operator()(HANDLE handle) const { CloseHandle(handle); }
-};
-struct DestroyMenuHandle {
-    void operator()(HMENU menu) const { DestroyMenu(menu); }
-};
-struct CloseSearch {
-    void operator()(HANDLE search) const { FindClose(search); }
-};
-struct DeleteGdiObject {
-    void operator()(HGDIOBJ object) const { DeleteObject(object); }
-};
-struct DestroyIconHandle {
-    void operator()(HICON icon) const { DestroyIcon(icon); }
-};
-struct UnloadLibrary {
-    void operator()(HMODULE library) const { FreeLibrary(library); }
-};
-struct FreeString {
-    void operator()(OLECHAR* text) const { SysFreeString(text); }
+/// Closes a handle with a function of Windows.
+template <auto Close>
+struct Closer {
+    template <class Handle>
+    void operator()(Handle handle) const {
+        Close(handle);
+    }
 };
 struct ReleaseObject {
     void operator()(IUnknown* object) const { object->Release(); }
 };
-struct DeleteMemoryDc {
-    void operator()(HDC context) const { DeleteDC(context); }
-};
 
-using UniqueHandle = std::unique_ptr<void, CloseKernelObject>;
-using UniqueFile = UniqueHandle;
-using UniqueSearch = std::unique_ptr<void, CloseSearch>;
-using UniqueMenu = std::unique_ptr<std::remove_pointer_t<HMENU>, DestroyMenuHandle>;
-using UniqueFont = std::unique_ptr<std::remove_pointer_t<HFONT>, DeleteGdiObject>;
-using UniqueBitmap = std::unique_ptr<std::remove_pointer_t<HBITMAP>, DeleteGdiObject>;
-using UniqueIcon = std::unique_ptr<std::remove_pointer_t<HICON>, DestroyIconHandle>;
-using UniqueDc = std::unique_ptr<std::remove_pointer_t<HDC>, DeleteMemoryDc>;
-using UniqueLibrary = std::unique_ptr<std::remove_pointer_t<HMODULE>, UnloadLibrary>;
-using UniqueString = std::unique_ptr<OLECHAR, FreeString>; // a BSTR
+/// A file, a process or another kernel object. Must not hold INVALID_HANDLE_VALUE.
+using UniqueHandle = std::unique_ptr<void, Closer<CloseHandle>>;
+using UniqueSearch = std::unique_ptr<void, Closer<FindClose>>;
+using UniqueMenu = std::unique_ptr<std::remove_pointer_t<HMENU>, Closer<DestroyMenu>>;
+using UniqueFont = std::unique_ptr<std::remove_pointer_t<HFONT>, Closer<DeleteObject>>;
+using UniqueBitmap = std::unique_ptr<std::remove_pointer_t<HBITMAP>, Closer<DeleteObject>>;
+using UniqueIcon = std::unique_ptr<std::remove_pointer_t<HICON>, Closer<DestroyIcon>>;
+using UniqueDc = std::unique_ptr<std::remove_pointer_t<HDC>, Closer<DeleteDC>>;
+using UniqueLibrary = std::unique_ptr<std::remove_pointer_t<HMODULE>, Closer<FreeLibrary>>;
+using UniqueString = std::unique_ptr<OLECHAR, Closer<SysFreeString>>; // a BSTR
 template <class Interface>
 using UniqueObject = std::unique_ptr<Interface, ReleaseObject>; // a COM object
 

@@ -17,7 +17,6 @@ bool IsDriveLine(std::string_view line, UpperCaser upperCase) {
 
 std::string BlankDriveLines(std::string_view configuration, UpperCaser upperCase) {
     std::string blanked;
-    blanked.reserve(configuration.size());
     LineReader lines(configuration, LoneLf::EndsLine); // some editors write lone LFs
     while (const auto line = lines.Next()) {
         if (!IsDriveLine(*line, upperCase))

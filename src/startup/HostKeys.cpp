@@ -13,7 +13,6 @@ std::vector<std::uint8_t> HostKeyCodes(std::string command, UpperCaser upperCase
         backslash = FindCharacter(text, '\\', isLeadByte, backslash + 1);
     }
     std::vector<std::uint8_t> codes;
-    codes.reserve(text.size());
     for (std::size_t i = 0; i < text.size(); ++i) {
         if (text[i] != '\n' || i == 0 || text[i - 1] != '\r')
             codes.push_back(static_cast<std::uint8_t>(text[i]));

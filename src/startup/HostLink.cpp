@@ -14,7 +14,8 @@ HWND FirstChild(HWND station) {
     return station == nullptr ? nullptr : FindWindowExA(station, nullptr, nullptr, nullptr);
 }
 
-// Tells Windows why the end of the session must wait. A nested command ends this early: nothing follows it.
+// Tells Windows why the end of the session must wait. A command that is typed during another one removes the
+// reason early; it is the exit command, and no other follows.
 class ShutdownBlock {
 public:
     explicit ShutdownBlock(HWND aWindow)
@@ -31,13 +32,14 @@ private:
 
 } // namespace
 
-void HostLink::StartHost(HWND menuWindow, std::int16_t wsid, const std::function<void()>& duringStart) {
+void HostLink::StartHost(HWND menuWindow, std::int16_t wsid,
+                         const std::function<void()>& workWhileHostStarts) {
     menu = menuWindow;
     // After a failed start the menu waits too: the operator may start the host by hand.
     const DWORD startError = Open(menu, hostProgram, HostStartArguments(wsid).c_str());
     if (!IsWindow(menu))
         return; // closed while Windows asked whether it may start the host
-    duringStart();
+    workWhileHostStarts();
     const std::string caption = StationCaption(wsid);
     notice.emplace(menu, caption, startError);
     // The first wait accepts a window of any host, the second one only the window of this workstation.
@@ -47,17 +49,17 @@ void HostLink::StartHost(HWND menuWindow, std::int16_t wsid, const std::function
     HWND station = nullptr;
     if (!WaitWithNotice([&] {
             station = FindWindowA(nullptr, caption.c_str());
-            hostCommandWindow = FirstChild(station);
-            return hostCommandWindow != nullptr;
+            return FirstChild(station) != nullptr;
         }))
         return;
     // Waits until the host shows the window: a window that is hidden earlier would appear after all.
     constexpr ULONGLONG timeLimit = 2000; // milliseconds
     const ULONGLONG start = GetTickCount64();
     WaitUntil(menu, [&] { return IsWindowVisible(station) || GetTickCount64() - start >= timeLimit; });
+    // Waits for the host if that is busy: hidden later, the window would stay on screen during the first
+    // command.
     ShowWindow(station, SW_HIDE);
-    if (const HWND child = FirstChild(station)) // the host may have put another child in front by now
-        hostCommandWindow = child;
+    hostCommandWindow = FirstChild(station); // after the wait: the host may have put another child in front
 }
 
 bool HostLink::WaitWithNotice(const std::function<bool()>& condition) {

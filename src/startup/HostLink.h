@@ -20,9 +20,10 @@ public:
     explicit HostLink(HWND commandWindow = nullptr)
         : hostCommandWindow(commandWindow) {}
 
-    /// Starts the host, calls `duringStart`, waits without a time limit for the host's window and hides it.
-    /// Processes events while it waits. Returns early if the menu window is closed. Throws RunTimeError.
-    void StartHost(HWND menuWindow, std::int16_t wsid, const std::function<void()>& duringStart);
+    /// Starts the host, calls `workWhileHostStarts`, waits without a time limit for the host's window and
+    /// hides it. Processes events while it waits. Returns early if the menu window is closed. Throws
+    /// RunTimeError.
+    void StartHost(HWND menuWindow, std::int16_t wsid, const std::function<void()>& workWhileHostStarts);
 
     /// Closes the notice that StartHost shows during a long wait.
     void CloseNotice() { notice.reset(); }

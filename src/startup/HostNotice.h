@@ -11,12 +11,11 @@ class HostNotice final : public Dialog {
 public:
     /// Shows nothing yet. `hostStartError` is the Windows error code if the host could not be started, or 0.
     HostNotice(HWND menuWindow, std::string stationCaption, DWORD hostStartError);
-    HostNotice(const HostNotice&) = delete;
-    HostNotice& operator=(const HostNotice&) = delete;
     ~HostNotice();
 
-    /// Shows the notice if two seconds are over or the host could not be started. Shows it only once, so it
-    /// can be called again and again. Throws RunTimeError.
+    /// Shows the notice two seconds after the construction, or at once if the host could not be started. Call
+    /// it again and again: it does nothing before, and nothing once the notice was shown. Throws
+    /// RunTimeError.
     void ShowWhenDue();
 
 private:

@@ -16,16 +16,16 @@ namespace obrin {
 
 namespace {
 
-// Looks again for a moment: while another workstation replaces the file, no file has its name.
+// Looks for the file for 0.1 s: while another workstation replaces it, no file has its name.
 std::optional<std::string> ReadHostConfiguration() {
-    constexpr int mostTries = 5;
+    constexpr int maxTries = 5;
     constexpr DWORD pause = 25; // milliseconds
-    std::optional<std::string> current = ReadFileIfThere(hostConfigurationFile);
-    for (int tries = 1; !current && tries < mostTries; ++tries) {
+    for (int tries = 1;; ++tries) {
+        std::optional<std::string> current = ReadFileIfThere(hostConfigurationFile);
+        if (current || tries == maxTries)
+            return current;
         Sleep(pause);
-        current = ReadFileIfThere(hostConfigurationFile);
     }
-    return current;
 }
 
 void RewriteHostConfiguration(std::string current) {

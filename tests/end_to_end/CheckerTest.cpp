@@ -17,8 +17,8 @@ std::pair<std::string, DWORD> RunChecker(const std::string& arguments) {
     SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
     HANDLE readEnd = nullptr, writeEnd = nullptr;
     CreatePipe(&readEnd, &writeEnd, &inherited, 0);
-    const UniqueFile reader(readEnd);
-    UniqueFile writer(writeEnd);
+    const UniqueHandle reader(readEnd);
+    UniqueHandle writer(writeEnd);
     const Started checker =
         Start(OwnProgram().replace_filename("ObrinCheck.exe"), arguments, writeEnd, writeEnd);
     writer.reset();

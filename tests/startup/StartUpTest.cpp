@@ -15,7 +15,7 @@ TEST(StartUp, RewritesTheConfigurationBeforeItShowsTheMenu) {
     const std::string kept = "\t\r\nMyDrive\r\nDriv\r\n Drive\r\n\xE4last\r\n";
     const std::string expected = "Drive S," + ShortPath(CurrentFolder()) + ",X,\\\r\nFiles 1\r\n" + kept;
     EXPECT_TRUE(CreateHardLinkA("before", "FennConfig.Sys", nullptr));
-    UniqueFile reader;
+    UniqueHandle reader;
     const std::string blanked =
         "\r\nFiles 1\r\n\r\n\r\n  \r\n\t\r\n\r\n\r\nMyDrive\r\nDriv\r\n Drive\r\n\r\n\xE4last\r\n";
     for (const std::string& leftOnDisk : {blanked, "\r\nFiles 1\r\n" + kept}) {

@@ -23,7 +23,7 @@ public:
     }
 
 private:
-    UniqueFile handle;
+    UniqueHandle handle;
     std::jthread releaser;
 };
 
