@@ -21,29 +21,15 @@ void SetFont(HWND control, HFONT font) {
     SendMessageA(control, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
 }
 
-namespace {
-
-SIZE Measure(HFONT font, const std::string& text, int wrapWidth, UINT format) {
+SIZE MeasureText(HFONT font, const std::string& text, int wrapWidth) {
     const HDC context = GetDC(nullptr);
     const HGDIOBJ old = SelectObject(context, font);
     RECT area{0, 0, wrapWidth, 0};
     DrawTextA(context, text.data(), static_cast<int>(text.size()), &area,
-              DT_CALCRECT | DT_EXPANDTABS | format | (wrapWidth > 0 ? DT_WORDBREAK : 0U));
+              DT_CALCRECT | DT_EXPANDTABS | DT_NOPREFIX | (wrapWidth > 0 ? DT_WORDBREAK : 0U));
     SelectObject(context, old);
     ReleaseDC(nullptr, context);
     return {area.right, area.bottom};
-}
-
-} // namespace
-
-SIZE MeasureText(HFONT font, const std::string& text, int wrapWidth) {
-    return Measure(font, text, wrapWidth, DT_NOPREFIX);
-}
-
-SIZE MeasureText(HWND label, const std::string& text, int wrapWidth) {
-    const bool hasAccessKey = (GetWindowLongA(label, GWL_STYLE) & SS_NOPREFIX) == 0;
-    return Measure(reinterpret_cast<HFONT>(SendMessageA(label, WM_GETFONT, 0, 0)), text, wrapWidth,
-                   hasAccessKey ? 0 : DT_NOPREFIX);
 }
 
 } // namespace obrin

@@ -32,8 +32,7 @@ UniqueFont MakeMessageFont(UINT dpi);
 void SetFont(HWND control, HFONT font);
 
 /// Returns the size in pixels that a label needs for a text. Wraps the text at `wrapWidth` unless that is 0.
-/// With a font, "&" is an ordinary character; with a label, its style decides.
+/// "&" is an ordinary character.
 SIZE MeasureText(HFONT font, const std::string& text, int wrapWidth = 0);
-SIZE MeasureText(HWND label, const std::string& text, int wrapWidth = 0);
 
 } // namespace obrin

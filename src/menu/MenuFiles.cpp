@@ -13,8 +13,8 @@ namespace obrin {
 std::vector<MenuFile> EnumerateMenuFiles() {
     const LeadByteTest isLeadByte = CodePageLeadByteTest();
     std::vector<MenuFile> files;
-    for (const std::string& name : ListNormalFiles(CurrentFolder())) {
-        if (!IsMenuFileName(name))
+    for (const auto& [name, isFolder, isHidden] : ListFolder(CurrentFolder())) {
+        if (isFolder || isHidden || !IsMenuFileName(name))
             continue;
         const std::string header = ReadFirstLine(name);
         if (files.size() == maxSystems)

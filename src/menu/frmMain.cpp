@@ -223,10 +223,6 @@ void frmMain::Form_Resize() {
     const Box& tree = layout.treeView1;
     constexpr UINT keepOrder = SWP_NOACTIVATE | SWP_NOZORDER;
     HDWP positions = BeginDeferWindowPos(7);
-    const auto apply = [&] {
-        if (!EndDeferWindowPos(positions))
-            ThrowLastError("Laying out the menu window");
-    };
     const auto move = [&](HWND control, double left, double top) {
         positions =
             DeferWindowPos(positions, control, nullptr, px(left), px(top), 0, 0, keepOrder | SWP_NOSIZE);
@@ -244,15 +240,12 @@ void frmMain::Form_Resize() {
     moveBehind(Label5, Label4, layout.label4);
     positions = DeferWindowPos(positions, Frame1, Label4, px(frame.left), px(frame.top), px(frame.width),
                                px(frame.height), SWP_NOACTIVATE);
-    apply();
-
-    positions = BeginDeferWindowPos(2); // one call moves only controls with the same parent
-    positions = DeferWindowPos(positions, TreeView1.Window(), nullptr, px(tree.left), px(tree.top),
-                               px(tree.width), px(tree.height), keepOrder);
-    positions =
-        DeferWindowPos(positions, Command1, nullptr, px(layout.command1.left), px(layout.command1.top),
-                       px(design::command1.width), px(design::command1.height), keepOrder);
-    apply();
+    if (!EndDeferWindowPos(positions))
+        ThrowLastError("Laying out the menu window");
+    SetWindowPos(TreeView1.Window(), nullptr, px(tree.left), px(tree.top), px(tree.width), px(tree.height),
+                 keepOrder);
+    SetWindowPos(Command1, nullptr, px(layout.command1.left), px(layout.command1.top),
+                 px(design::command1.width), px(design::command1.height), keepOrder);
 }
 
 // Uses `newDpi`, because GetDpiForWindow may still return the old DPI.
@@ -348,7 +341,8 @@ void frmMain::ApplyFonts() {
 // Resizes the label to its text. Label4 gets room for one more blank, because Label5 follows without a gap.
 void frmMain::SetLabel(HWND label, const std::string& text) {
     SetWindowTextA(label, text.c_str());
-    const SIZE size = MeasureText(label, label == Label4 ? text + ' ' : text);
+    const auto font = reinterpret_cast<HFONT>(SendMessageA(label, WM_GETFONT, 0, 0));
+    const SIZE size = MeasureText(font, label == Label4 ? text + ' ' : text);
     SetWindowPos(label, nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 

@@ -63,15 +63,6 @@ std::vector<FolderEntry> ListMatching(const std::string& pattern) {
     return entries;
 }
 
-std::vector<std::string> ListNormalFiles(const std::string& folder) {
-    std::vector<std::string> names;
-    for (auto& [name, isFolder, isHidden] : ListFolder(folder)) {
-        if (!isFolder && !isHidden)
-            names.push_back(std::move(name));
-    }
-    return names;
-}
-
 std::string FullPath(const std::string& path) {
     std::string full(GetFullPathNameA(path.c_str(), 0, nullptr, nullptr), '\0');
     const DWORD length =

@@ -27,10 +27,6 @@ std::vector<FolderEntry> ListFolder(const std::string& folder);
 /// Returns the entries that match a pattern such as "C:\Host\*.mnu". Throws RunTimeError.
 std::vector<FolderEntry> ListMatching(const std::string& pattern);
 
-/// Returns the names of the files of a folder in the order of the file system, without hidden files and
-/// system files. Throws RunTimeError.
-std::vector<std::string> ListNormalFiles(const std::string& folder);
-
 /// Returns the absolute path. Throws RunTimeError.
 std::string FullPath(const std::string& path);
 

@@ -82,7 +82,10 @@ TEST_F(MenuWindow, LinkIsInTheLowerRightCornerWithItsLabelBesideIt) {
     EXPECT_NEAR(inner.bottom - PlaceOf(link).bottom, 20 * twips, rounding);
     EXPECT_EQ(PlaceOf(idea).right, PlaceOf(link).left);
     EXPECT_EQ(PlaceOf(idea).top, PlaceOf(link).top);
-    EXPECT_EQ(Size(idea).first, MeasureText(idea, "Got a better idea? ").cx) << "a blank before the link";
+    EXPECT_EQ(
+        Size(idea).first,
+        MeasureText(reinterpret_cast<HFONT>(SendMessageA(idea, WM_GETFONT, 0, 0)), "Got a better idea? ").cx)
+        << "a blank before the link";
 }
 
 TEST_F(MenuWindow, TitleUserNumberAndPictureAreCentredByTheOuterWidth) {

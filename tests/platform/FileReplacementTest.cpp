@@ -12,6 +12,15 @@
 namespace obrin {
 namespace {
 
+std::vector<std::string> FileNames() {
+    std::vector<std::string> names;
+    for (const FolderEntry& entry : ListFolder(".")) {
+        if (!entry.isFolder)
+            names.push_back(entry.name);
+    }
+    return names;
+}
+
 // The file "f" in an otherwise empty folder.
 class FileReplacement : public testing::Test {
 protected:
@@ -20,7 +29,7 @@ protected:
 
     // Of what lies beside the file.
     static std::vector<std::string> OtherFiles() {
-        std::vector<std::string> names = ListNormalFiles(".");
+        std::vector<std::string> names = FileNames();
         std::erase(names, "f");
         return names;
     }
@@ -132,7 +141,7 @@ bool IsWhole(const std::string& path) {
 // Whether the file, or one beside it, is whole: the platform takes two steps to put one in the place of the
 // other.
 bool IsAnyFileWhole() {
-    return std::ranges::any_of(ListNormalFiles("."), IsWhole);
+    return std::ranges::any_of(FileNames(), IsWhole);
 }
 
 // Starts this program, waits until it has changed the file, and ends it some milliseconds later.
