@@ -1,5 +1,5 @@
-// What holds for every window, on screens of several DPI and with large letters: controls lie inside their
-// parents and apart from each other, texts are shown whole, and the Tab key follows the reading order.
+// What holds for every window, on screens of several DPI: controls lie inside their parents and apart from
+// each other, texts are shown whole, and the Tab key follows the reading order.
 
 #include "controls/WindowTest.h"
 
@@ -10,18 +10,6 @@ namespace {
 
 int AtDpi(LONG pixels, UINT dpi, UINT ofDpi = 96) {
     return MulDiv(pixels, static_cast<int>(dpi), static_cast<int>(ofDpi));
-}
-
-// Changes the user's message font while `act` runs.
-void WithMessageFont(int points, const std::function<void()>& act) {
-    NONCLIENTMETRICSA before{};
-    before.cbSize = sizeof before;
-    SystemParametersInfoA(SPI_GETNONCLIENTMETRICS, sizeof before, &before, 0);
-    NONCLIENTMETRICSA changed = before;
-    changed.lfMessageFont.lfHeight = -AtDpi(points, GetDpiForSystem(), 72);
-    SystemParametersInfoA(SPI_SETNONCLIENTMETRICS, sizeof changed, &changed, 0);
-    act();
-    SystemParametersInfoA(SPI_SETNONCLIENTMETRICS, sizeof before, &before, 0);
 }
 
 // Moves a window to a screen as the platform does: first it asks the window for its size there. Then a
@@ -41,25 +29,17 @@ class EveryWindow : public WindowTest, public testing::WithParamInterface<Opened
 protected:
     void WhileOpened(const WindowAction& act) { (this->*GetParam().whileOpen)(act); }
 
-    /// Opens the window, moves it to one screen after the other, and checks it there.
-    void OnScreens(const std::vector<UINT>& dpis, const std::function<void(HWND, UINT)>& check) {
+    /// Opens the window, moves it to screens of several DPI, one after the other, and checks it there.
+    void OnEveryScreen(const std::function<void(HWND, UINT)>& check) {
         WhileOpened([&](HWND window) {
             const SIZE size = SizeOf(PlaceOf(window));
             const UINT from = GetDpiForWindow(window);
-            for (const UINT dpi : dpis) {
+            for (const UINT dpi : {96U, 144U, 192U, 96U}) {
                 SCOPED_TRACE(std::to_string(dpi) + " DPI");
                 MoveToScreen(window, dpi, {AtDpi(size.cx, dpi, from), AtDpi(size.cy, dpi, from)});
                 check(window, dpi);
             }
         });
-    }
-
-    /// Checks the window on screens of three DPI, and then with a large message font. Only the menu window
-    /// uses that font: the dialogs keep "MS Shell Dlg" of 8 points whatever the user has chosen.
-    void OnEveryScreen(const WindowAction& check) {
-        OnScreens({192, 144, 96}, [&](HWND window, UINT) { check(window); });
-        SCOPED_TRACE("message font of 14 points");
-        WithMessageFont(14, [&] { WhileOpened(check); });
     }
 };
 
@@ -80,7 +60,7 @@ RECT Below(RECT place, HWND groupBox) {
 }
 
 TEST_P(EveryWindow, KeepsControlsInsideTheirParent) {
-    OnEveryScreen([](HWND window) {
+    OnEveryScreen([](HWND window, UINT) {
         for (const HWND control : ShownControls(window)) {
             const HWND parent = GetParent(control);
             RECT inside;
@@ -111,7 +91,7 @@ bool Overlap(HWND one, HWND other) {
 }
 
 TEST_P(EveryWindow, KeepsControlsApart) {
-    OnEveryScreen([](HWND window) {
+    OnEveryScreen([](HWND window, UINT) {
         const std::vector<HWND> controls = ShownControls(window);
         for (auto one = controls.begin(); one != controls.end(); ++one) {
             for (auto other = controls.begin(); other != one; ++other)
@@ -133,7 +113,7 @@ SIZE NeededFor(HWND control, LONG width) {
 }
 
 TEST_P(EveryWindow, ShowsItsTextsWhole) {
-    OnEveryScreen([](HWND window) {
+    OnEveryScreen([](HWND window, UINT) {
         for (const HWND control : ShownControls(window)) {
             const SIZE room = SizeOf(PlaceOf(control)), needed = NeededFor(control, room.cx);
             EXPECT_LE(needed.cx, room.cx) << Name(control);
@@ -219,38 +199,22 @@ std::vector<Look> LooksOf(HWND window) {
     return looks;
 }
 
-TEST_P(EveryWindow, GrowsWithTheDpi) {
-    std::vector<Look> at96;
-    OnScreens({96, 144, 192}, [&](HWND window, UINT dpi) {
-        if (dpi == 96)
-            at96 = LooksOf(window);
+TEST_P(EveryWindow, GrowsWithTheDpiAndComesBackAsItWas) {
+    std::vector<Look> first;
+    OnEveryScreen([&](HWND window, UINT dpi) {
         const std::vector<Look> now = LooksOf(window);
+        first = first.empty() ? now : first;
+        // Letters do not grow evenly, and places in dialogs follow the letters.
+        const double factor = dpi / 96.0, uneven = dpi == 96 ? 0 : 0.15, rounding = dpi == 96 ? 1 : 3;
         for (std::size_t i = 0; i < now.size(); ++i) {
             SCOPED_TRACE(Name(now[i].control));
-            const double factor = dpi / 96.0;
-            const RECT &place = now[i].place, &was = at96[i].place;
-            EXPECT_NEAR(now[i].fontHeight / factor, at96[i].fontHeight, 1);
-            // Letters do not grow evenly, and places in dialogs follow the letters.
-            EXPECT_NEAR(place.left / factor, was.left, 0.15 * was.left + 3);
-            EXPECT_NEAR(place.right / factor, was.right, 0.15 * was.right + 3);
+            const RECT &place = now[i].place, &was = first[i].place;
+            EXPECT_NEAR(now[i].fontHeight / factor, first[i].fontHeight, dpi == 96 ? 0 : 1);
+            EXPECT_NEAR(place.left / factor, was.left, uneven * was.left + rounding);
+            EXPECT_NEAR(place.right / factor, was.right, uneven * was.right + rounding);
+            EXPECT_NEAR(place.bottom / factor, was.bottom, uneven * was.bottom + rounding);
         }
     });
-}
-
-TEST_P(EveryWindow, ComesBackFromOtherScreensAsItWas) {
-    std::vector<Look> first, now;
-    OnScreens({96, 144, 192, 96}, [&](HWND window, UINT) {
-        now = LooksOf(window);
-        first = first.empty() ? now : first;
-    });
-    for (std::size_t i = 0; i < now.size(); ++i) {
-        SCOPED_TRACE("control " + std::to_string(i));
-        EXPECT_EQ(now[i].fontHeight, first[i].fontHeight);
-        EXPECT_NEAR(now[i].place.left, first[i].place.left, 1);
-        EXPECT_NEAR(now[i].place.top, first[i].place.top, 1);
-        EXPECT_NEAR(now[i].place.right, first[i].place.right, 1);
-        EXPECT_NEAR(now[i].place.bottom, first[i].place.bottom, 1);
-    }
 }
 
 TEST_P(EveryWindow, IsPaintedAnewWhenTheUserChangesItsLooks) {
@@ -265,14 +229,18 @@ TEST_P(EveryWindow, IsPaintedAnewWhenTheUserChangesItsLooks) {
 }
 
 TEST_F(WindowTest, MenuTakesTheUsersNewMessageFont) {
-    WhileMenu([](HWND menu) {
-        WithMessageFont(14, [menu] {
-            SendMessageA(menu, WM_SETTINGCHANGE, 0, 0);
-            for (const int id : {IDC_FRAME1, IDC_TREEVIEW1, IDC_LABEL2, IDC_LABEL3})
-                EXPECT_EQ(FontShapeOf(ControlOf(menu, id)).lfHeight, -AtDpi(14, GetDpiForWindow(menu), 72))
-                    << id;
-        });
+    NONCLIENTMETRICSA before{};
+    before.cbSize = sizeof before;
+    SystemParametersInfoA(SPI_GETNONCLIENTMETRICS, sizeof before, &before, 0);
+    NONCLIENTMETRICSA changed = before;
+    changed.lfMessageFont.lfHeight = -AtDpi(14, GetDpiForSystem(), 72);
+    WhileMenu([&](HWND menu) {
+        SystemParametersInfoA(SPI_SETNONCLIENTMETRICS, sizeof changed, &changed, 0);
+        SendMessageA(menu, WM_SETTINGCHANGE, 0, 0);
+        for (const int id : {IDC_FRAME1, IDC_TREEVIEW1, IDC_LABEL2, IDC_LABEL3})
+            EXPECT_EQ(FontShapeOf(ControlOf(menu, id)).lfHeight, -AtDpi(14, GetDpiForWindow(menu), 72)) << id;
     });
+    SystemParametersInfoA(SPI_SETNONCLIENTMETRICS, sizeof before, &before, 0);
 }
 
 } // namespace

@@ -18,11 +18,8 @@ struct AboutBox : test::DialogTest {
     HWND box = nullptr;
 };
 
-TEST_F(AboutBox, ShowsTheIcon) {
+TEST_F(AboutBox, ShowsTheIconAndItsTitleInBoldLetters) {
     EXPECT_NE(SendDlgItemMessageA(box, IDC_PIC_ICON, STM_GETICON, 0, 0), 0);
-}
-
-TEST_F(AboutBox, ShowsItsTitleInBoldLetters) {
     EXPECT_EQ(test::FontShapeOf(GetDlgItem(box, IDC_LBL_TITLE)).lfWeight, FW_BOLD);
 }
 

@@ -8,12 +8,4 @@ TEST(VersionText, HasPlainNumbers) {
     EXPECT_EQ(VersionText({.major = 2, .minor = 0, .revision = 38}), "Version 2.0.38");
 }
 
-TEST(ProgramVersion, IsThatOfTheProject) {
-    EXPECT_EQ(VersionText(ProgramVersion()), "Version " OBRIN_PROJECT_VERSION);
-}
-
-TEST(DisclaimerText, StartsWithAWarningLine) {
-    EXPECT_TRUE(std::string(disclaimerText).starts_with("Warning: \r\n"));
-}
-
 } // namespace obrin

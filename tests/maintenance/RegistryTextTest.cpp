@@ -8,7 +8,7 @@ namespace obrin {
 
 constexpr std::uint32_t stringType = 1;
 constexpr std::uint32_t expandableStringType = 2;
-constexpr std::uint32_t numberType = 4; // stored with its lowest byte first
+constexpr std::uint32_t numberType = 4;
 
 TEST(RegistryText, StringLosesOneNulAtItsEnd) {
     EXPECT_EQ(RegistryText(stringType, "C:\\Tools"), "C:\\Tools");
@@ -22,25 +22,24 @@ TEST(RegistryText, OtherTypesAreEmpty) {
 }
 
 TEST(RegistryText, NumberIsDecimal) {
-    EXPECT_EQ(RegistryText(numberType, "\x05\0\0\0"s), "5");
-    EXPECT_EQ(RegistryText(numberType, "\0\0\0\0"s), "0");
-    EXPECT_EQ(RegistryText(numberType, "\xFE\xFF\xFF\x7F"s), "2147483646");
-}
-
-TEST(RegistryText, NumberLosesTheLeadingZeroOfEachByte) {
-    EXPECT_EQ(RegistryText(numberType, "\x05\x01\0\0"s), "21") << "hexadecimal 105, read as 15";
-    EXPECT_EQ(RegistryText(numberType, "\0\x10\0\0"s), "256") << "hexadecimal 1000, read as 100";
-}
-
-TEST(RegistryText, NumberIsSignedIn16BitsOr32) {
-    EXPECT_EQ(RegistryText(numberType, "\xFF\xFF\0\0"s), "-1");
-    EXPECT_EQ(RegistryText(numberType, "\x10\x10\x01\0"s), "69648") << "hexadecimal 11010";
-    EXPECT_EQ(RegistryText(numberType, "\xFE\xFF\xFF\xFF"s), "-2");
-}
-
-TEST(RegistryText, InvalidNumberKeepsItsHexadecimalDigits) {
-    EXPECT_EQ(RegistryText(numberType, "\x10\xBC\x10\x10\x1A"), "&h1A1010BC10") << "more than 32 bits";
-    EXPECT_EQ(RegistryText(numberType, ""), "&h");
+    struct {
+        const char* rule;
+        std::string bytes;
+        const char* text;
+    } const cases[] = {
+        {"the lowest byte comes first", "\xFE\xFF\xFF\x7F"s, "2147483646"},
+        {"a NUL at the end is no part of it", "\x05\0"s, "5"},
+        {"zero", "\0\0\0\0"s, "0"},
+        {"hexadecimal 105 loses the zero of its byte 05", "\x05\x01\0\0"s, "21"},
+        {"hexadecimal 1000 loses that of its byte 00", "\0\x10\0\0"s, "256"},
+        {"16 bits are signed", "\xFF\xFF\0\0"s, "-1"},
+        {"five digits are more than 16 bits", "\x10\x10\x01\0"s, "69648"},
+        {"32 bits are signed", "\xFE\xFF\xFF\xFF"s, "-2"},
+        {"more than 32 bits are no number", "\x10\xBC\x10\x10\x1A"s, "&h1A1010BC10"},
+        {"nor is nothing", ""s, "&h"},
+    };
+    for (const auto& [rule, bytes, text] : cases)
+        EXPECT_EQ(RegistryText(numberType, bytes), text) << rule;
 }
 
 } // namespace obrin

@@ -55,9 +55,9 @@ protected:
     }
 
     /// The same with a second try: Wine now and then fails to start a program on a loaded machine.
-    std::string LaunchTool(const std::string& path, const std::string& toolFolder) const {
-        const std::string result = Launch(path, toolFolder);
-        return result == unavailable ? Launch(path, toolFolder) : result;
+    std::string LaunchTool(const std::string& path) const {
+        const std::string result = Launch(path, here + "Tools");
+        return result == unavailable ? Launch(path, here + "Tools") : result;
     }
 
     const test::ScratchFolder folder;
@@ -68,24 +68,28 @@ protected:
 };
 
 TEST_F(SystemInformation, IsTheToolOfThePath) {
-    EXPECT_EQ(Launch(here + "Tool One.exe", here + "Tools"),
-              '"' + here + "Tool One.exe\" in a normal window");
+    EXPECT_EQ(LaunchTool(here + "Tool One.exe"), '"' + here + "Tool One.exe\" in a normal window");
 }
 
 TEST_F(SystemInformation, IsTheToolInItsFolderWithoutAPath) {
-    EXPECT_EQ(LaunchTool(missing, here + "Tools"), '"' + here + "Tools\\MSINFO32.EXE\" in a normal window");
+    EXPECT_EQ(LaunchTool(missing), '"' + here + "Tools\\MSINFO32.EXE\" in a normal window");
 }
 
-TEST_F(SystemInformation, IsUnavailableWithAPathThatStartsNothingWhateverTheFolderHas) {
-    for (const std::string& path : {here + "gone.exe", std::string(), std::string(1022, 'x')})
-        EXPECT_EQ(Launch(path, here + "Tools"), unavailable) << path;
-    EXPECT_EQ(Launch(here + "Tool One.exe", here + "Tools", REG_EXPAND_SZ), unavailable) << "no plain text";
-}
-
-TEST_F(SystemInformation, IsUnavailableWithoutAToolInItsFolder) {
+TEST_F(SystemInformation, IsUnavailableWhenNothingCanBeStarted) {
     CreateFolder("MSINFO32.EXE"); // a folder of the tool's name
-    for (const std::string& toolFolder : {missing, here + "nowhere", here + "."})
-        EXPECT_EQ(Launch(missing, toolFolder), unavailable) << toolFolder;
+    struct {
+        const char* reason;
+        std::string path, toolFolder;
+        DWORD pathType = REG_SZ;
+    } const cases[] = {
+        {"the path leads nowhere, whatever the folder has", here + "gone.exe", here + "Tools"},
+        {"the path is empty", "", here + "Tools"},
+        {"the path is no plain text", here + "Tool One.exe", here + "Tools", REG_EXPAND_SZ},
+        {"there is neither path nor folder", missing, missing},
+        {"there is no tool in the folder", missing, here + "."},
+    };
+    for (const auto& [reason, path, toolFolder, pathType] : cases)
+        EXPECT_EQ(Launch(path, toolFolder, pathType), unavailable) << reason;
 }
 
 } // namespace

@@ -4,30 +4,30 @@
 
 namespace obrin {
 
-TEST(UpdateKey, IsTheNumberInThreeDigits) {
+TEST(UpdateKey, IsTheNumberInThreeBytes) {
     EXPECT_EQ(UpdateKey(5), "005");
     EXPECT_EQ(UpdateKey(42), "042");
-}
-
-TEST(UpdateKey, IsThreeBytesEvenForANumberOutOfRange) {
-    EXPECT_EQ(UpdateKey(1234), "123");
+    EXPECT_EQ(UpdateKey(1234), "123") << "out of range";
     EXPECT_EQ(UpdateKey(-5), "-00");
 }
 
-TEST(FindUpdateKey, FindsTheRecordThatHoldsTheKey) {
-    EXPECT_TRUE(FindUpdateKey("001002", "002").updated);
-    EXPECT_EQ(FindUpdateKey("001002", "002").record, 2U);
-}
-
-TEST(FindUpdateKey, FindsNothingInARegisterWithoutTheKey) {
-    EXPECT_FALSE(FindUpdateKey("", "002").updated);
-    EXPECT_FALSE(FindUpdateKey("100200", "002").updated) << "only across two records";
-}
-
-TEST(FindUpdateKey, PutsANewKeyAfterTheLastWholeRecord) {
-    EXPECT_EQ(FindUpdateKey("", "003").record, 1U);
-    EXPECT_EQ(FindUpdateKey("001002", "003").record, 3U);
-    EXPECT_EQ(FindUpdateKey("00100", "003").record, 2U);
+TEST(FindUpdateKey, FindsTheRecordOfTheKeyOrThePlaceForIt) {
+    struct {
+        const char* registered;
+        bool updated;
+        std::size_t record;
+        const char* reason;
+    } const cases[] = {
+        {"001002", true, 2, "in the second record"},
+        {"", false, 1, "an empty register"},
+        {"100200", false, 3, "the key is there only across two records"},
+        {"00100", false, 2, "over the damaged end"},
+    };
+    for (const auto& [registered, updated, record, reason] : cases) {
+        const UpdateSearch found = FindUpdateKey(registered, "002");
+        EXPECT_EQ(found.updated, updated) << reason;
+        EXPECT_EQ(found.record, record) << reason;
+    }
 }
 
 } // namespace obrin

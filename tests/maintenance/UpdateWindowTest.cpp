@@ -32,14 +32,6 @@ protected:
         UnhookWindowsHookEx(hook);
     }
 
-    /// Updates it, and sends the window a message after one of the texts, counted from 1.
-    void UpdateAndSend(std::size_t text, UINT message) {
-        Update([=](HWND window) {
-            if (shown.size() == text)
-                SendMessageA(window, message, 0, 0);
-        });
-    }
-
     static inline Texts shown;
     static inline bool isPaintedBeforeCopy;
 
@@ -81,17 +73,6 @@ TEST_F(UpdateWindow, CopiesTheFilesOverOlderOnes) {
         EXPECT_EQ(ReadFileBytes("Local\\" + name + ".exe"), "new " + name);
 }
 
-TEST_F(UpdateWindow, EntersTheWorkstationWhenItIsClosed) {
-    Update([](HWND) { EXPECT_EQ(ReadFileBytes("Updated.txt"), ""); });
-    EXPECT_EQ(ReadFileBytes("Updated.txt"), "005");
-}
-
-TEST_F(UpdateWindow, IsNotShownForAWorkstationThatIsEntered) {
-    WriteFileBytes("Updated.txt", "001005");
-    Update();
-    EXPECT_TRUE(shown.empty());
-}
-
 // A copy can take minutes, in which nothing is painted.
 TEST_F(UpdateWindow, IsPaintedBeforeTheFirstCopy) {
     Update();
@@ -99,12 +80,18 @@ TEST_F(UpdateWindow, IsPaintedBeforeTheFirstCopy) {
 }
 
 TEST_F(UpdateWindow, CopiesAgainAfterAResize) {
-    UpdateAndSend(progress.size(), WM_SIZE);
+    Update([](HWND window) {
+        if (shown.size() == progress.size())
+            SendMessageA(window, WM_SIZE, 0, 0);
+    });
     EXPECT_EQ(shown.size(), 2 * progress.size());
 }
 
 TEST_F(UpdateWindow, ResizedWhileCopyingFinishesThatFirst) {
-    UpdateAndSend(2, WM_SIZE);
+    Update([](HWND window) {
+        if (shown.size() == 2)
+            SendMessageA(window, WM_SIZE, 0, 0);
+    });
     ASSERT_EQ(shown.size(), 2 * progress.size());
     EXPECT_EQ(Texts(shown.begin(), shown.begin() + 6), progress);
 }
@@ -122,20 +109,14 @@ TEST_F(UpdateWindow, GivesOkayTheKeyboardWhenItIsComplete) {
     EXPECT_EQ(focused, IDOK);
 }
 
-TEST_F(UpdateWindow, HasItsProgressLabelInTheSecondQuarterOfItsHeight) {
+TEST_F(UpdateWindow, HasItsProgressLabelInTheSecondQuarterOfItsHeightInGeorgia) {
     Update([](HWND window) {
-        const RECT label = test::PlaceOf(GetDlgItem(window, IDC_LABEL1));
+        const HWND label = GetDlgItem(window, IDC_LABEL1);
         RECT inside;
         GetClientRect(window, &inside);
-        EXPECT_EQ(label.top, inside.bottom / 4);
-        EXPECT_EQ(label.bottom - label.top, inside.bottom / 4);
-    });
-}
-
-TEST_F(UpdateWindow, HasItsLabelsInGeorgia) {
-    Update([](HWND window) {
-        for (const int label : {IDC_LABEL1, IDC_LABEL2})
-            EXPECT_STREQ(test::FontShapeOf(GetDlgItem(window, label)).lfFaceName, "Georgia");
+        EXPECT_EQ(test::PlaceOf(label).top, inside.bottom / 4);
+        EXPECT_EQ(test::SizeOf(test::PlaceOf(label)).cy, inside.bottom / 4);
+        EXPECT_STREQ(test::FontShapeOf(label).lfFaceName, "Georgia");
     });
 }
 

@@ -56,76 +56,67 @@ TEST(SystemCode, IsTheFirstTwoCharactersOfTheFileName) {
 }
 
 TEST(HeaderTitle, IsTheFirstFieldWithItsBlanks) {
-    EXPECT_EQ(HeaderTitle("Utility Billing^x^y", IsLeadByte), "Utility Billing");
-    EXPECT_EQ(HeaderTitle("  Payroll ", IsLeadByte), "  Payroll ");
+    EXPECT_EQ(HeaderTitle("  Payroll ^x^y", IsLeadByte), "  Payroll ");
     EXPECT_EQ(HeaderTitle("\x81^T^x", IsLeadByte), "\x81^T") << "the second byte of a character";
 }
 
 TEST(MenuDefinition, TitleComesFromTheFirstLine) {
     EXPECT_EQ(ParseMenuDefinition(" Payroll ^x\r\nA\r\n", IsLeadByte).title, " Payroll ");
-    EXPECT_EQ(ParseMenuDefinition("\r\nA", IsLeadByte).title, "");
 }
 
-TEST(MenuDefinition, ParentIsTheLastHeadingOneLevelUp) {
-    EXPECT_EQ(EntriesOf("Billing\r\n>Post^UB\\Post\r\n>Reports\r\n>>Journal^UB\\Journal\r\n"),
-              (Entries{Heading("Billing"), Program("Post", "UB\\Post", 1, 1), Heading("Reports", 1, 1),
-                       Program("Journal", "UB\\Journal", 2, 3)}));
-    EXPECT_EQ(EntriesOf("A\r\n>B\r\nC\r\n>D\r\n>>E^K\r\n"),
-              (Entries{Heading("A"), Heading("B", 1, 1), Heading("C"), Heading("D", 1, 3),
-                       Program("E", "K", 2, 4)}));
+TEST(MenuDefinition, LinesBelowTheTitleAreEntries) {
+    struct {
+        const char* rule;
+        const char* lines;
+        Entries entries;
+    } const cases[] = {
+        {"the parent is the last heading one level up",
+         "A\r\n>B\r\nC\r\n>D\r\n>>E^K\r\n>F^L\r\n",
+         {Heading("A"), Heading("B", 1, 1), Heading("C"), Heading("D", 1, 3), Program("E", "K", 2, 4),
+          Program("F", "L", 1, 3)}},
+        {"a program is never a parent",
+         "A\r\nTop^K1\r\n>B^K2\r\n",
+         {Heading("A"), Program("Top", "K1"), Program("B", "K2", 1, 1)}},
+        {"a program loses every depth mark", "A>B^K>1>\r\n", {Program("AB", "K1")}},
+        {"a heading loses only the leading ones", "A>B\r\n>C>D\r\n", {Heading("A>B"), Heading("C>D", 1, 1)}},
+        {"fields after the key are ignored", "A^K^x^y\r\n", {Program("A", "K")}},
+        {"the second byte of a character ends no field",
+         "\x81^\r\n>\x81^^UB\\\x81^^x",
+         {Heading("\x81^"), Program("\x81^", "UB\\\x81^", 1, 1)}},
+        {"an empty line is a heading without text",
+         "A\r\n\r\n>B^K\r\n",
+         {Heading("A"), Heading(""), Program("B", "K", 1, 2)}},
+        {"a CR ends a line, a lone LF does not", "A\nB\rC\r\n", {Heading("A\nB"), Heading("C")}},
+    };
+    for (const auto& [rule, lines, entries] : cases)
+        EXPECT_EQ(EntriesOf(lines), entries) << rule;
 }
 
-TEST(MenuDefinition, ProgramIsNeverAParent) {
-    EXPECT_EQ(EntriesOf("A\r\nTop^K1\r\n>B^K2\r\n"),
-              (Entries{Heading("A"), Program("Top", "K1"), Program("B", "K2", 1, 1)}));
-}
-
-TEST(MenuDefinition, HeadingClosesTheDeeperOnes) {
-    EXPECT_EQ(FaultsOf("T\r\nA\r\n>B\r\nC\r\n>>E^K\r\n"), (Faults{{5, Kind::NoHeading}}));
-    EXPECT_EQ(FaultsOf("T\r\nA\r\n>B\r\n>>C\r\n>D\r\n>>>E^K\r\n"), (Faults{{6, Kind::NoHeading}}));
-}
-
-TEST(MenuDefinition, EntryWithoutAHeadingOneLevelUpIsAFault) {
-    EXPECT_EQ(FaultsOf("T\r\n>A^K\r\n"), (Faults{{2, Kind::NoHeading}}));
-    EXPECT_EQ(FaultsOf("T\r\nA\r\n>>>B\r\n>>C^K\r\n"), (Faults{{3, Kind::NoHeading}, {4, Kind::NoHeading}}));
-}
-
-TEST(MenuDefinition, ProgramLosesEveryDepthMark) {
-    EXPECT_EQ(EntriesOf("A>B^K>1>\r\n"), (Entries{Program("AB", "K1")}));
-}
-
-TEST(MenuDefinition, HeadingLosesOnlyTheLeadingDepthMarks) {
-    EXPECT_EQ(EntriesOf("A>B\r\n>C>D\r\n"), (Entries{Heading("A>B"), Heading("C>D", 1, 1)}));
-}
-
-TEST(MenuDefinition, FieldsAfterTheKeyAreIgnored) {
-    EXPECT_EQ(EntriesOf("A^K^x^y\r\n"), (Entries{Program("A", "K")}));
-}
-
-TEST(MenuDefinition, SecondByteOfACharacterEndsNoField) {
-    EXPECT_EQ(EntriesOf("\x81^\r\n>\x81^^UB\\\x81^^x"),
-              (Entries{Heading("\x81^"), Program("\x81^", "UB\\\x81^", 1, 1)}));
-}
-
-TEST(MenuDefinition, EmptyLineIsAHeadingWithoutText) {
-    EXPECT_EQ(EntriesOf("A\r\n\r\n>B^K\r\n"), (Entries{Heading("A"), Heading(""), Program("B", "K", 1, 2)}));
-}
-
-TEST(MenuDefinition, LoneLfEndsNoLine) {
-    EXPECT_EQ(EntriesOf("A\nB\rC\r\n"), (Entries{Heading("A\nB"), Heading("C")}));
-}
-
-TEST(MenuDefinition, DuplicateKeyIsAFault) {
-    EXPECT_EQ(FaultsOf("T\r\nA^K\r\nB^k\r\nC^K\r\n"), (Faults{{4, Kind::KeyTwice}})) << "case matters";
-    EXPECT_EQ(FaultsOf("T\r\nA^\r\nB^\r\n"), Faults{}) << "an empty key is no key";
+TEST(MenuDefinition, FaultsHaveTheirLines) {
+    struct {
+        const char* rule;
+        const char* file;
+        Faults faults;
+    } const cases[] = {
+        {"a file has a header", "", {{1, Kind::NoHeader}}},
+        {"an entry needs a heading one level up", "T\r\n>A^K\r\n", {{2, Kind::NoHeading}}},
+        {"a heading that is a fault is one all the same",
+         "T\r\nA\r\n>>>B\r\n>>C^K\r\n>>>>D^L\r\n",
+         {{3, Kind::NoHeading}, {4, Kind::NoHeading}}},
+        {"a heading closes the deeper ones",
+         "T\r\nA\r\n>B\r\n>>C\r\n>D\r\n>>>E^K\r\n",
+         {{6, Kind::NoHeading}}},
+        {"also at the top", "T\r\nA\r\n>B\r\nC\r\n>>E^K\r\n", {{5, Kind::NoHeading}}},
+        {"a key comes once; case matters", "T\r\nA^K\r\nB^k\r\nC^K\r\n", {{4, Kind::KeyTwice}}},
+        {"an empty key is no key", "T\r\nA^\r\nB^\r\n", {}},
+        {"a key is not a number", "T\r\nA^12\r\nB^12a\r\n", {{2, Kind::NumberAsKey}}},
+    };
+    for (const auto& [rule, file, faults] : cases)
+        EXPECT_EQ(FaultsOf(file), faults) << rule;
 }
 
 TEST(MenuDefinition, DuplicateKeyNamesItsFirstLine) {
     EXPECT_EQ(ParseMenuDefinition("T\r\nA^K\r\nB^L\r\nC^K\r\n", IsLeadByte).faults.at(0).firstLine, 2);
-}
-
-TEST(MenuDefinition, NumberAsKeyIsAFault) {
-    EXPECT_EQ(FaultsOf("T\r\nA^12\r\nB^12a\r\n"), (Faults{{2, Kind::NumberAsKey}}));
 }
 
 TEST(MenuDefinition, HoldsAtMost32767Entries) {
@@ -135,10 +126,6 @@ TEST(MenuDefinition, HoldsAtMost32767Entries) {
     EXPECT_EQ(FaultsOf("T\r\n" + lines), Faults{});
     EXPECT_EQ(FaultsOf("T\r\n" + lines + "B\r\nC\r\n"), (Faults{{32769, Kind::TooManyEntries}}));
     EXPECT_EQ(EntriesOf(lines + "B\r\nC\r\n").size(), 32767U);
-}
-
-TEST(MenuDefinition, FileWithoutAHeaderIsAFault) {
-    EXPECT_EQ(FaultsOf(""), (Faults{{1, Kind::NoHeader}}));
 }
 
 TEST(ThrowFirstFault, ThrowsTheFirstFaultWithFileNameAndLine) {

@@ -30,32 +30,25 @@ TEST(RecordMargins, AreTheDesignedDistancesInWholeTwips) {
     EXPECT_EQ(recorded.treeHeight, 300);
 }
 
-TEST(RecordMargins, RefuseAnInfiniteSize) {
-    EXPECT_THROW(RecordMargins({.width = infinite, .height = 4000}, designed), RunTimeError);
-}
-
-TEST(Resize, FrameKeepsItsMarginsInTheWindow) {
-    EXPECT_EQ(At({9000, 8000}).frame1.width, 8000);
-    EXPECT_EQ(At({9000, 8000}).frame1.height, 7000);
-}
-
-TEST(Resize, FrameKeepsItsSizeInAWindowThatIsNotLargerThanItsMargins) {
-    EXPECT_EQ(At({1000, 8000}).frame1.width, 4000);
-    EXPECT_EQ(At({1001, 8000}).frame1.width, 1);
-    EXPECT_EQ(At({9000, 1000}).frame1.height, 3000);
-    EXPECT_EQ(At({9000, 1001}).frame1.height, 1);
-}
-
-TEST(Resize, TreeKeepsItsMarginsInTheFrame) {
-    EXPECT_EQ(At({9000, 8000}).treeView1.width, 7800);
-    EXPECT_EQ(At({9000, 8000}).treeView1.height, 6700);
-}
-
-TEST(Resize, TreeKeepsItsSizeInAFrameThatIsNotLargerThanItsMargins) {
-    EXPECT_EQ(At({1200, 8000}).treeView1.width, 3800) << "in a frame 200 wide";
-    EXPECT_EQ(At({1201, 8000}).treeView1.width, 1);
-    EXPECT_EQ(At({9000, 1300}).treeView1.height, 2700) << "in a frame 300 high";
-    EXPECT_EQ(At({9000, 1301}).treeView1.height, 1);
+TEST(Resize, FrameAndTreeKeepTheirMarginsUnlessThereIsNoRoom) {
+    struct {
+        const char* room;
+        Size outer;
+        Size frame, tree;
+    } const cases[] = {
+        {"for all", {9000, 8000}, {8000, 7000}, {7800, 6700}},
+        {"of one twip for the frame", {1001, 1001}, {1, 1}, {3800, 2700}},
+        {"for the margins of the frame only", {1000, 1000}, {4000, 3000}, {3800, 2700}},
+        {"of one twip for the tree", {1201, 1301}, {201, 301}, {1, 1}},
+        {"for the margins of the tree only", {1200, 1300}, {200, 300}, {3800, 2700}},
+    };
+    for (const auto& [room, outer, frame, tree] : cases) {
+        const MenuLayout layout = At(outer);
+        EXPECT_EQ(layout.frame1.width, frame.width) << room;
+        EXPECT_EQ(layout.frame1.height, frame.height) << room;
+        EXPECT_EQ(layout.treeView1.width, tree.width) << room;
+        EXPECT_EQ(layout.treeView1.height, tree.height) << room;
+    }
 }
 
 TEST(Resize, CommandIsBelowTheTree) {
@@ -102,6 +95,7 @@ TEST(Resize, QuestionTouchesTheLinkOnTheLeft) {
 }
 
 TEST(Resize, RefusesAnInfinitePosition) {
+    EXPECT_THROW(RecordMargins({.width = infinite, .height = 4000}, designed), RunTimeError);
     OwnSizes boundless{};
     boundless.label1 = infinite;
     EXPECT_THROW(At({infinite, 8000}), RunTimeError);

@@ -34,17 +34,6 @@ protected:
         return names;
     }
 
-    // Whether ReplaceFile does what its documentation says; Wine's does not.
-    static bool PlatformKeepsAttributes() {
-        WriteFileBytes("bare", "old");
-        WriteFileBytes("bare.tmp", "new");
-        SetFileAttributesA("bare", FILE_ATTRIBUTE_HIDDEN);
-        ReplaceFileA(FullPath("bare").c_str(), FullPath("bare.tmp").c_str(), nullptr, 0, nullptr, nullptr);
-        const bool isHidden = (GetFileAttributesA("bare") & FILE_ATTRIBUTE_HIDDEN) != 0;
-        DeleteFileA("bare");
-        return isHidden;
-    }
-
     // Expects the given refusal, which leaves everything as it was.
     static void ExpectRefusal(const std::string& path, DWORD code) {
         try {
@@ -71,15 +60,6 @@ TEST_F(FileReplacement, MakesAMissingFile) {
     ReplaceFileBytes("f", "new");
     EXPECT_EQ(ReadFileBytes("f"), "new");
     EXPECT_EQ(OtherFiles(), std::vector<std::string>());
-}
-
-TEST_F(FileReplacement, KeepsAttributes) {
-    SetFileAttributesA("f", FILE_ATTRIBUTE_HIDDEN);
-    if (!PlatformKeepsAttributes())
-        GTEST_SKIP() << "this platform's ReplaceFile loses attributes";
-    ReplaceFileBytes("f", "new");
-    EXPECT_EQ(ReadFileBytes("f"), "new");
-    EXPECT_TRUE(GetFileAttributesA("f") & FILE_ATTRIBUTE_HIDDEN);
 }
 
 TEST_F(FileReplacement, LeavesAFileAloneThatHasTheContents) {

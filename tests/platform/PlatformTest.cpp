@@ -35,25 +35,11 @@ TEST_F(Library, ReadsATextThatWasStoredWithoutItsNulAndExpandsNothing) {
     EXPECT_EQ(Get("Open"), "%TEMP%");
 }
 
-TEST_F(Library, StoresATextWithItsNul) {
-    Set("UB.mnu");
-    DWORD type = 0, size = 0;
-    RegGetValueA(HKEY_LOCAL_MACHINE, key, "Text", RRF_RT_ANY, &type, nullptr, &size);
-    EXPECT_EQ(type, DWORD{REG_SZ});
-    EXPECT_EQ(size, sizeof "UB.mnu");
-}
-
 // The suite's programs call the two routines by their names.
 TEST_F(Library, TellsTheSuiteThatATextIsNotStored) {
     const auto set = reinterpret_cast<LONG(__stdcall*)(HKEY, const char*, const char*, const char*)>(
         GetProcAddress(GetModuleHandleA("Corvel.dll"), "SetRegValue"));
     EXPECT_NE(set(nullptr, key, "Text", ""), ERROR_SUCCESS);
-}
-
-TEST_F(Library, GivesTheSuiteAnEmptyStringInsteadOfNone) {
-    const auto get = reinterpret_cast<BSTR(__stdcall*)(HKEY, const char*, const char*)>(
-        GetProcAddress(GetModuleHandleA("Corvel.dll"), "GetRegValue"));
-    EXPECT_NE(UniqueString(get(HKEY_LOCAL_MACHINE, key, "Missing")), nullptr);
 }
 
 TEST(UpperCase, IsThatOfTheCodePage) {

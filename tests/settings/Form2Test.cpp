@@ -49,12 +49,7 @@ struct Properties : ClosedProperties {
 
 // --- Opening ---
 
-TEST_F(Properties, FirstOpeningWritesAFileOfDefaults) {
-    EXPECT_TRUE(FileHas("Program           =     Core\\Programs\\CSBackup"));
-    EXPECT_TRUE(FileHas("RightMargin       =     0.500"));
-}
-
-TEST_F(Properties, FirstOpeningShowsTheDefaults) {
+TEST_F(Properties, FirstOpeningShowsAndSavesTheDefaults) {
     const std::pair<int, const char*> shown[] = {
         {IDC_TXT_PROGRAM_NAME, "Core\\Programs\\CSBackup"},
         {IDC_TXT_HELP_FILE, "Core\\Help\\Core\\Programs\\CSBackup"},
@@ -72,6 +67,7 @@ TEST_F(Properties, FirstOpeningShowsTheDefaults) {
     };
     for (const auto& [box, text] : shown)
         EXPECT_EQ(Text(box), text) << "control " << box;
+    EXPECT_TRUE(FileHas("RightMargin       =     0.500"));
 }
 
 TEST_F(ClosedProperties, ShowTheCodeOfTheLastSystemOnlyToBeRead) {
@@ -79,14 +75,6 @@ TEST_F(ClosedProperties, ShowTheCodeOfTheLastSystemOnlyToBeRead) {
     Open();
     EXPECT_EQ(Text(IDC_TXT_SYSTEM), "WA");
     EXPECT_TRUE(test::HasStyle(Control(IDC_TXT_SYSTEM), ES_READONLY));
-}
-
-TEST_F(ClosedProperties, KeepMarginsOfADamagedFileWithinTheSlidersLimits) {
-    WriteDefaultSettings(path, "");
-    WriteFileBytes(path, "TopMargin=99\r\nBottomMargin=none\r\n");
-    Open();
-    EXPECT_EQ(Text(IDC_TXT_MARGIN), "4");
-    EXPECT_EQ(Text(IDC_TXT_MARGIN + 1), "0.25");
 }
 
 // The platform would need half a minute to lay out the whole value.

@@ -7,39 +7,28 @@
 namespace obrin {
 namespace {
 
-TEST(ParseMargin, IsTheNumberAtTheStartInThousandthsOfAnInch) {
-    EXPECT_EQ(ParseMargin("0.500"), 500);
-    EXPECT_EQ(ParseMargin(" 1.2344 in"), 1234);
-    EXPECT_EQ(ParseMargin("1.2346"), 1235);
-}
-
-TEST(ParseMargin, IsAtLeastAQuarterOfAnInch) {
-    for (const char* text : {"0.2", "0", "-9e999", "none", ""})
-        EXPECT_EQ(ParseMargin(text), 250) << text;
-}
-
-TEST(ParseMargin, IsAtMostFourInches) {
-    for (const char* text : {"4.001", "9e999"})
-        EXPECT_EQ(ParseMargin(text), 4000) << text;
-}
-
-TEST(ParseTypedMargin, IsTheNumberAtTheStartInThousandthsOfAnInch) {
-    EXPECT_EQ(ParseTypedMargin("0.25"), 250);
-    EXPECT_EQ(ParseTypedMargin("1.2346 in"), 1235);
-}
-
-TEST(ParseTypedMargin, IsNothingBelowAQuarterOfAnInch) {
-    for (const char* text : {"0.2499", "0.", "", "abc", "-1"})
-        EXPECT_EQ(ParseTypedMargin(text), std::nullopt) << text;
-}
-
-TEST(ParseTypedMargin, IsAtMostFourInches) {
-    EXPECT_EQ(ParseTypedMargin("4.5"), 4000);
+TEST(Margin, IsTheNumberAtTheStartOfATextInThousandthsOfAnInch) {
+    struct {
+        const char* text;
+        int loaded;
+        std::optional<int> typed;
+    } const cases[] = {
+        {"0.500", 500, 500},           {" 1.2344 in", 1234, 1234},    {"1.2346", 1235, 1235},
+        {"4.001", 4000, 4000},                                        // the largest margin
+        {"9e999", 4000, 4000},         {"0.2499", 250, std::nullopt}, // below the smallest one: perhaps the
+                                                                      // user has not typed all of it
+        {"-9e999", 250, std::nullopt}, {"none", 250, std::nullopt},   {"", 250, std::nullopt},
+    };
+    for (const auto& [text, loaded, typed] : cases) {
+        EXPECT_EQ(ParseMargin(text), loaded) << text;
+        EXPECT_EQ(ParseTypedMargin(text), typed) << text;
+    }
 }
 
 TEST(EqualsMargin, IsTrueForEveryWayOfWritingTheMargin) {
     for (const char* text : {"0.35", ".35", "0.350", "0.35 in"})
         EXPECT_TRUE(EqualsMargin(text, 350)) << text;
+    EXPECT_FALSE(EqualsMargin("2.0501", 2050)) << "only near";
 }
 
 TEST(EqualsMargin, TakesANumberBeyondTheLargestMarginForThatOne) {
@@ -47,31 +36,21 @@ TEST(EqualsMargin, TakesANumberBeyondTheLargestMarginForThatOne) {
     EXPECT_FALSE(EqualsMargin("5", 3990));
 }
 
-TEST(EqualsMargin, IsFalseForANumberThatIsOnlyNear) {
-    EXPECT_FALSE(EqualsMargin("2.0501", 2050));
-}
-
-// Shows the caret as "|", in the text before and in the one that replaces it.
-std::string WithKeptCaret(std::string before, std::string after) {
-    const auto caret = before.find('|');
-    before.erase(caret, 1);
-    return after.insert(CaretAfterChange(before, caret, after), "|");
-}
-
+// "|" is the caret.
 TEST(CaretAfterChange, KeepsItsPlaceRelativeToTheDecimalPoint) {
-    EXPECT_EQ(WithKeptCaret(".5|", "0.5"), "0.5|");
-    EXPECT_EQ(WithKeptCaret("00.7|5", "0.75"), "0.7|5");
-    EXPECT_EQ(WithKeptCaret("01|.5", "1.5"), "1|.5");
-}
-
-TEST(CaretAfterChange, CountsFromTheEndOfATextWithoutAPoint) {
-    EXPECT_EQ(WithKeptCaret("01|", "1"), "1|");
-    EXPECT_EQ(WithKeptCaret("00|3", "3"), "|3");
-}
-
-TEST(CaretAfterChange, StaysInsideTheText) {
-    EXPECT_EQ(WithKeptCaret("|012", "4"), "|4");
-    EXPECT_EQ(WithKeptCaret("0.500|", "0.5"), "0.5|");
+    struct {
+        std::string before, after;
+    } const cases[] = {
+        {".5|", "0.5|"}, {"00.7|5", "0.7|5"}, {"01|.5", "1|.5"},
+        {"01|", "1|"},   {"00|3", "|3"},     // without a point: to the end
+        {"|012", "|4"},  {"0.500|", "0.5|"}, // stays inside the text
+    };
+    for (const auto& [before, after] : cases) {
+        std::string oldText = before, newText = after;
+        oldText.erase(before.find('|'), 1);
+        newText.erase(after.find('|'), 1);
+        EXPECT_EQ(CaretAfterChange(oldText, before.find('|'), newText), after.find('|')) << before;
+    }
 }
 
 } // namespace

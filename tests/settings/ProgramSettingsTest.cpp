@@ -45,35 +45,23 @@ TEST(FormatSettings, TrimsAValue) {
 }
 
 TEST(ParseSettings, ReadsAValueOnEachLine) {
-    const std::string file = "Width=8.5\r\nLines=54\rColumns=220\nHeight=11";
-    EXPECT_EQ(ValueOf("Width", file), "8.5");
-    EXPECT_EQ(ValueOf("Lines", file), "54");
-    EXPECT_EQ(ValueOf("Columns", file), "220") << "a lone LF ends a line too";
-    EXPECT_EQ(ValueOf("Height", file), "11");
-}
-
-TEST(ParseSettings, TrimsKeyOrValue) {
-    EXPECT_EQ(ValueOf("Lines", "  Lines  =  7 8  \r\n"), "7 8");
-}
-
-TEST(ParseSettings, ReadsAnEmptyValue) {
-    EXPECT_EQ(ValueOf("Lines", "Lines =\r\n"), "");
-}
-
-TEST(ParseSettings, ReturnsNothingForAMissingSetting) {
-    EXPECT_EQ(ValueOf("Lines", "Width=8.5\r\n"), std::nullopt);
-}
-
-TEST(ParseSettings, EndsAValueAtASecondEqualsSign) {
-    EXPECT_EQ(ValueOf("Lines", "Lines = a=b=c\r\n"), "a");
-}
-
-TEST(ParseSettings, LastLineOfASettingCounts) {
-    EXPECT_EQ(ValueOf("Lines", "Lines=7\r\nLines=8\r\n"), "8");
-}
-
-TEST(ParseSettings, IgnoresAnUnknownKey) {
-    EXPECT_EQ(ValueOf("Lines", "lines=7\r\nLINES=8\r\nLine=9\r\n\tLines=1\r\n=\r\n"), std::nullopt);
+    struct {
+        const char* rule;
+        const char* file;
+        std::optional<std::string> lines;
+    } const cases[] = {
+        {"CR LF ends a line", "Width=8.5\r\nLines=54\r\nHeight=11", "54"},
+        {"so does a CR", "Width=8.5\rLines=54\rHeight=11", "54"},
+        {"and an LF", "Width=8.5\nLines=54\nHeight=11", "54"},
+        {"key and value are trimmed", "  Lines  =  7 8  \r\n", "7 8"},
+        {"a value may be empty", "Lines =\r\n", ""},
+        {"a second equals sign ends the value", "Lines = a=b=c\r\n", "a"},
+        {"the last line of a setting counts", "Lines=7\r\nLines=8\r\n", "8"},
+        {"a setting may be missing", "Width=8.5\r\n", std::nullopt},
+        {"unknown keys are ignored", "lines=7\r\nLine=9\r\n\tLines=1\r\n=\r\n", std::nullopt},
+    };
+    for (const auto& [rule, file, lines] : cases)
+        EXPECT_EQ(ValueOf("Lines", file), lines) << rule;
 }
 
 TEST(ParseSettings, RefusesALineWithoutAnEqualsSign) {

@@ -11,16 +11,20 @@ namespace {
 
 using Codes = std::vector<std::uint8_t>;
 
-Codes CodesOf(const char* command) {
-    return HostKeyCodes(command, test::UpperCase, test::IsLeadByte);
-}
-
-TEST(HostKeyCodes, AreThoseOfUpperCaseCharacters) {
-    EXPECT_EQ(CodesOf("aZ9 .\xFF"), (Codes{'A', 'Z', '9', ' ', '.', 255}));
-}
-
-TEST(HostKeyCodes, BackslashIsTheKey220) {
-    EXPECT_EQ(CodesOf("\\a\\"), (Codes{220, 'A', 220}));
+TEST(HostKeyCodes, AreThoseOfTheCharacters) {
+    struct {
+        const char* rule;
+        const char* command;
+        Codes codes;
+    } const cases[] = {
+        {"letters become upper case", "aZ9 .\xFF", {'A', 'Z', '9', ' ', '.', 255}},
+        {"a backslash is the key 220", "\\a\\", {220, 'A', 220}},
+        {"a character of two bytes is two codes", "\x81\\\\", {0x81, '\\', 220}},
+        {"CR LF is one Enter key", "a\r\nb\r\r\n", {'A', 13, 'B', 13, 13}},
+        {"a lone LF is its own code", "\na\nb", {10, 'A', 10, 'B'}},
+    };
+    for (const auto& [rule, command, codes] : cases)
+        EXPECT_EQ(HostKeyCodes(command, test::UpperCase, test::IsLeadByte), codes) << rule;
 }
 
 TEST(HostKeyCodes, BackslashIsTheKey220WhereThatIsALowerCaseLetter) {
@@ -29,18 +33,6 @@ TEST(HostKeyCodes, BackslashIsTheKey220WhereThatIsALowerCaseLetter) {
         return text;
     };
     EXPECT_EQ(HostKeyCodes("\\\xDC", greek, nullptr), (Codes{220, 0xA2}));
-}
-
-TEST(HostKeyCodes, TwoByteCharacterIsTwoCodes) {
-    EXPECT_EQ(CodesOf("\x81\\\\"), (Codes{0x81, '\\', 220}));
-}
-
-TEST(HostKeyCodes, CrLfIsOneEnterKey) {
-    EXPECT_EQ(CodesOf("a\r\nb\r\r\n"), (Codes{'A', 13, 'B', 13, 13}));
-}
-
-TEST(HostKeyCodes, LoneLfIsItsOwnCode) {
-    EXPECT_EQ(CodesOf("\na\nb"), (Codes{10, 'A', 10, 'B'}));
 }
 
 TEST(LoadAndRunCommand, IsTwoLines) {

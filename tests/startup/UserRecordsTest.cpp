@@ -48,14 +48,11 @@ TEST(ScanUserRecords, FindsZeroWithoutARecordOfExactlyThatName) {
 
 TEST(ScanUserRecords, CountsTheRecordsOfAllUsers) {
     EXPECT_EQ(ScanUserRecords(anna + bert, "anna").recordsRead, 2U);
-    EXPECT_EQ(ScanUserRecords("", "anna").recordsRead, 0U);
 }
 
 TEST(ParseWsidAnswer, TakesAWholeNumberFromOneToNinetyNine) {
-    EXPECT_EQ(ParseWsidAnswer("1"), 1);
-    EXPECT_EQ(ParseWsidAnswer("99"), 99);
-    EXPECT_EQ(ParseWsidAnswer(" 12 "), 12);
-    EXPECT_EQ(ParseWsidAnswer("5.0"), 5);
+    for (const auto& [answer, wsid] : {std::pair{"1", 1}, {"99", 99}, {" 12 ", 12}, {"5.0", 5}})
+        EXPECT_EQ(ParseWsidAnswer(answer), wsid) << answer;
 }
 
 TEST(ParseWsidAnswer, RefusesEverythingElse) {

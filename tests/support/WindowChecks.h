@@ -1,16 +1,12 @@
-// What a person sees of a window and its controls, and what a screen reader says.
+// What a person sees of a window and its controls.
 #pragma once
 
 #include "controls/Window.h"
 #include "controls/WindowText.h"
-#include "platform/Handle.h"
-
-#include <oleacc.h>
 
 #include <array>
 #include <cstdlib>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace obrin::test {
@@ -106,37 +102,6 @@ inline HWND ControlOf(HWND window, int id) {
             return control;
     }
     return nullptr;
-}
-
-/// Whether a program can tell the platform the roles of its controls. Under Wine it cannot.
-inline bool PlatformTakesRoles(HWND control) {
-    void* created = nullptr;
-    if (FAILED(CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER, IID_IAccPropServices,
-                                &created)))
-        return false;
-    const UniqueObject<IAccPropServices> services(static_cast<IAccPropServices*>(created));
-    VARIANT role{};
-    role.vt = VT_I4;
-    role.lVal = ROLE_SYSTEM_LINK;
-    return SUCCEEDED(services->SetHwndProp(control, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF,
-                                           PROPID_ACC_ROLE, role));
-}
-
-/// The name and the role of a control, as a screen reader asks for them.
-inline std::pair<std::string, LONG> Announced(HWND control) {
-    void* found = nullptr;
-    if (AccessibleObjectFromWindow(control, static_cast<DWORD>(OBJID_CLIENT), __uuidof(IAccessible),
-                                   &found) != S_OK)
-        return {"nothing", 0};
-    const UniqueObject<IAccessible> object(static_cast<IAccessible*>(found));
-    VARIANT self{}, role{};
-    self.vt = VT_I4;
-    self.lVal = CHILDID_SELF;
-    BSTR name = nullptr;
-    object->get_accName(self, &name);
-    object->get_accRole(self, &role);
-    const UniqueString owned(name);
-    return {std::string(name, name + SysStringLen(name)), role.lVal}; // the names have plain letters only
 }
 
 } // namespace obrin::test
