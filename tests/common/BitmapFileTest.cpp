@@ -39,39 +39,33 @@ std::string OldHeader(std::uint32_t pixelsAt, std::uint32_t bits) {
            Bytes(bits, 2);
 }
 
-constexpr std::uint64_t wholeSize = 54 + 2 * 12; // rows of four pixels of three bytes
-constexpr std::uint64_t largeSize = 1ULL << 40;  // larger than any picture
+constexpr std::uint64_t largeSize = 1ULL << 40; // larger than any picture
 constexpr auto runLength8 = 1;
 constexpr auto runLength4 = 2;
 constexpr auto bitFields = 3;
 
-TEST(IsWholeBitmap, FileHoldsEveryRow) {
-    EXPECT_TRUE(IsWholeBitmap(Header{}.Text(), wholeSize));
-    EXPECT_FALSE(IsWholeBitmap(Header{}.Text(), wholeSize - 1));
-    EXPECT_FALSE(IsWholeBitmap(Header{.pixelsAt = wholeSize + 1}.Text(), wholeSize));
-}
-
-TEST(IsWholeBitmap, NegativeHeightIsThatOfAPictureWithTheUpperRowFirst) {
-    const Header header{.height = static_cast<std::uint32_t>(-2)};
-    EXPECT_TRUE(IsWholeBitmap(header.Text(), wholeSize));
-    EXPECT_FALSE(IsWholeBitmap(header.Text(), wholeSize - 1));
-}
-
-TEST(IsWholeBitmap, RowIsWhole32BitWords) {
-    const Header header{.pixelsAt = 54 + 8, .bits = 1, .colours = 2};
-    EXPECT_TRUE(IsWholeBitmap(header.Text(), 54 + 8 + 2 * 4));
-    EXPECT_FALSE(IsWholeBitmap(header.Text(), 54 + 8 + 2 * 4 - 1));
-}
-
-TEST(IsWholeBitmap, CompressedPictureHoldsItsStoredBytes) {
-    const Header header{.pixelsAt = 54 + 1024, .bits = 8, .compression = runLength8, .stored = 100};
-    EXPECT_TRUE(IsWholeBitmap(header.Text(), 54 + 1024 + 100));
-    EXPECT_FALSE(IsWholeBitmap(header.Text(), 54 + 1024 + 99));
+TEST(IsWholeBitmap, FileHoldsAllPixels) {
+    struct {
+        const char* kind;
+        std::string header;
+        std::uint64_t size;
+    } const cases[] = {
+        {"rows of four pixels of three bytes", Header{}.Text(), 54 + 2 * 12},
+        {"the upper row first", Header{.height = static_cast<std::uint32_t>(-2)}.Text(), 54 + 2 * 12},
+        {"rows are whole 32-bit words", Header{.pixelsAt = 54 + 8, .bits = 1, .colours = 2}.Text(),
+         54 + 8 + 2 * 4},
+        {"compressed", Header{.pixelsAt = 2000, .bits = 8, .compression = runLength8, .stored = 100}.Text(),
+         2100},
+        {"the oldest kind of header", OldHeader(26, 24), 26 + 2 * 12},
+    };
+    for (const auto& [kind, header, size] : cases) {
+        EXPECT_TRUE(IsWholeBitmap(header, size)) << kind;
+        EXPECT_FALSE(IsWholeBitmap(header, size - 1)) << kind;
+    }
+    EXPECT_FALSE(IsWholeBitmap(Header{}.Text(), 53)) << "the pixels would be behind the file";
 }
 
 TEST(IsWholeBitmap, OldHeaderHasAPaletteOfThreeBytesAColour) {
-    EXPECT_TRUE(IsWholeBitmap(OldHeader(26, 24), 26 + 24));
-    EXPECT_FALSE(IsWholeBitmap(OldHeader(26, 24), 26 + 23));
     EXPECT_TRUE(IsWholeBitmap(OldHeader(26 + 2 * 3, 1), largeSize));
     EXPECT_FALSE(IsWholeBitmap(OldHeader(26 + 2 * 3 - 1, 1), largeSize));
 }
