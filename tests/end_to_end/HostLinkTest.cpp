@@ -1,7 +1,11 @@
-// The link to a host that the test plays: windows that come late, keys that take long, the end of the
-// session.
+// The link to a host that the test plays itself, window by window: windows that come late, keys that take
+// long, the end of the session.
 
-#include "end_to_end/PlayedHost.h"
+#include "end_to_end/Installation.h"
+
+#include "platform/Events.h"
+
+#include <utility>
 
 namespace obrin::test {
 namespace {
@@ -13,89 +17,129 @@ constexpr const char* firstSystem = "LOAD CORE\xDCSTARTSYS\rRUN\rUB\r";
 constexpr const char* exitCommand = "RUN CORE\xDC"
                                     "EXIT\r";
 
+// The stand-in host that the menu starts never names its window: the station is a window of this thread. The
+// class of the station does not matter.
 struct HostLinkTest : testing::Test {
+    HostLinkTest() {
+        SetEnvironmentVariableA("FENN_NEVER", "caption");
+        typed.clear();
+        WNDCLASSA command{};
+        command.lpfnWndProc = TakeKey;
+        command.lpszClassName = "ObrinTest.Command";
+        RegisterClassA(&command);
+    }
+    ~HostLinkTest() override { DestroyWindow(station); }
+
+    // The station window of workstation 5, hidden and without a child.
+    void MakeStation(const char* windowClass = WC_STATICA) {
+        station = CreateWindowExA(0, windowClass, "Obrin-05", WS_OVERLAPPEDWINDOW, 0, 0, 300, 200, nullptr,
+                                  nullptr, nullptr, nullptr);
+    }
+    // Its child takes the keys.
+    void MakeCommandWindow() const {
+        CreateWindowExA(0, "ObrinTest.Command", "", WS_CHILD, 0, 0, 0, 0, station, nullptr, nullptr, nullptr);
+    }
+    void ShowStation() const { ShowWindow(station, SW_SHOWNOACTIVATE); }
+
+    static LRESULT CALLBACK TakeKey(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+        if (message != WM_KEYDOWN)
+            return DefWindowProcA(window, message, wParam, lParam);
+        if (const auto act = std::exchange(onNextKey, {}))
+            act();
+        typed += static_cast<char>(wParam);
+        return 0;
+    }
+
+    // Processes messages until the condition holds; false when it never did.
+    static bool Until(const std::function<bool()>& condition, DWORD milliseconds = 20'000) {
+        for (const ULONGLONG start = GetTickCount64(); !condition();) {
+            if (GetTickCount64() - start > milliseconds)
+                return false;
+            ProcessPendingEvents();
+            Sleep(5);
+        }
+        return true;
+    }
+    static bool ShowsMenu(const RunningMenu& menu, DWORD milliseconds = 20'000) {
+        return Until([&] { return menu.Shown(menuCaption) != nullptr; }, milliseconds);
+    }
+
+    static inline std::function<void()> onNextKey; // called once, before the key is noted
+    static inline std::string typed;
+
     const Installation installation{5};
-    PlayedHost host;
-
-    static bool IsMenuShown(const RunningMenu& menu) { return menu.Shown("Obrin System Menu") != nullptr; }
-
-    // The host that was running before the menu would be refused.
-    void AwaitStartOfHost() const {
-        EXPECT_TRUE(host.Until([&] { return !installation.Logged("process").empty(); }));
-    }
-
-    // A station with its command window, on the screen.
-    void ShowHost() {
-        host.MakeStation();
-        host.MakeCommandWindow();
-        host.ShowStation();
-    }
+    HWND station = nullptr;
 };
 
 TEST_F(HostLinkTest, WaitsForTheCommandWindowOfTheStation) {
+    MakeStation();
+    ShowStation();
     const RunningMenu menu;
-    AwaitStartOfHost();
-    host.MakeStation();
-    host.ShowStation();
-    EXPECT_FALSE(host.Until([&] { return IsMenuShown(menu); }, 1500)) << "it would type into nothing";
-    host.MakeCommandWindow();
-    EXPECT_TRUE(host.Until([&] { return IsMenuShown(menu); }));
-    EXPECT_EQ(host.Typed(), firstSystem);
+    EXPECT_FALSE(ShowsMenu(menu, 2000)) << "it would type into nothing";
+    MakeCommandWindow();
+    EXPECT_TRUE(ShowsMenu(menu));
+    EXPECT_EQ(typed, firstSystem);
 }
 
 TEST_F(HostLinkTest, HidesAStationThatIsShownALittleLater) {
+    MakeStation();
+    MakeCommandWindow();
     const RunningMenu menu;
-    AwaitStartOfHost();
-    host.MakeStation();
-    host.MakeCommandWindow();
-    EXPECT_FALSE(host.Until([&] { return IsMenuShown(menu); }, 700));
-    host.ShowStation();
-    EXPECT_TRUE(host.Until([&] { return IsMenuShown(menu); }));
-    EXPECT_FALSE(host.IsStationShown());
+    EXPECT_TRUE(installation.StartsHost());
+    EXPECT_FALSE(ShowsMenu(menu, 700));
+    ShowStation();
+    EXPECT_TRUE(ShowsMenu(menu));
+    EXPECT_FALSE(IsWindowVisible(station));
 }
 
 TEST_F(HostLinkTest, GoesOnWithAStationThatIsNeverShown) {
+    MakeStation();
+    MakeCommandWindow();
     const RunningMenu menu;
-    AwaitStartOfHost();
-    host.MakeStation();
-    host.MakeCommandWindow();
-    EXPECT_TRUE(host.Until([&] { return IsMenuShown(menu); }));
+    EXPECT_TRUE(ShowsMenu(menu));
 }
 
 TEST_F(HostLinkTest, NoticeStaysWhileTheHostHandlesTheFirstCommand) {
     const RunningMenu menu;
-    ASSERT_TRUE(host.Until([&] { return menu.Shown(noticeTitle) != nullptr; }));
+    ASSERT_TRUE(Until([&] { return menu.Shown(noticeTitle) != nullptr; }));
     bool isNoticeShown = false;
-    host.onNextKey = [&] { isNoticeShown = menu.Shown(noticeTitle) != nullptr; };
-    ShowHost();
-    EXPECT_TRUE(host.Until([&] { return IsMenuShown(menu); }));
+    onNextKey = [&] { isNoticeShown = menu.Shown(noticeTitle) != nullptr; };
+    MakeStation();
+    MakeCommandWindow();
+    ShowStation();
+    EXPECT_TRUE(ShowsMenu(menu));
     EXPECT_TRUE(isNoticeShown);
-    EXPECT_TRUE(host.Until([&] { return menu.Shown(noticeTitle) == nullptr; }));
+    EXPECT_TRUE(Until([&] { return menu.Shown(noticeTitle) == nullptr; }));
 }
 
 TEST_F(HostLinkTest, EndOfTheSessionDuringACloseFinishesTheClose) {
+    MakeStation();
+    MakeCommandWindow();
+    ShowStation();
     const RunningMenu menu;
-    AwaitStartOfHost();
-    ShowHost();
-    ASSERT_TRUE(host.Until([&] { return IsMenuShown(menu); }));
+    ASSERT_TRUE(ShowsMenu(menu));
     const HWND window = menu.Window();
     std::string typedAtAnswer;
     bool isMarkerThere = true;
-    host.onNextKey = [&] {
-        SendMessageA(window, WM_ENDSESSION, TRUE,
-                     0); // as Windows does; the program may be ended right behind it
-        typedAtAnswer = host.Typed();
+    onNextKey = [&] {
+        // As Windows does; the program may be ended right behind it.
+        SendMessageA(window, WM_ENDSESSION, TRUE, 0);
+        typedAtAnswer = typed;
         isMarkerThere = FileExists("Menu 5.txt");
     };
     PostMessageA(window, WM_CLOSE, 0, 0);
-    EXPECT_TRUE(host.Until([&] { return !IsWindow(window); }));
+    EXPECT_TRUE(Until([&] { return !IsWindow(window); }));
     // The key at which the session ended is noted behind the others.
     EXPECT_EQ(typedAtAnswer, std::string(firstSystem) + (exitCommand + 1));
     EXPECT_FALSE(isMarkerThere);
 }
 
 TEST_F(HostLinkTest, AnsweringYesDoesNotHangWithTheHost) {
-    ShowHost(); // by a thread that processes no messages while the menu runs
+    WNDCLASSA host{};
+    host.lpfnWndProc = DefWindowProcA;
+    host.lpszClassName = hostWindowClass;
+    RegisterClassA(&host);
+    MakeStation(hostWindowClass); // by a thread that processes no messages while the menu runs
     const RunningMenu menu;
     menu.Press("Error Opening Obrin System", IDYES);
     EXPECT_EQ(menu.ExitCode(), 0);

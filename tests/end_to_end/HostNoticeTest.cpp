@@ -1,6 +1,6 @@
 // The wait for a host that comes late or never, and the notice that the operator sees meanwhile.
 
-#include "end_to_end/PlayedHost.h"
+#include "end_to_end/Installation.h"
 
 namespace obrin::test {
 namespace {
@@ -8,10 +8,6 @@ namespace {
 constexpr const char* noticeTitle = "Waiting for Fenn";
 
 struct HostNoticeTest : testing::Test {
-    void AwaitStartOfHost() const {
-        ASSERT_TRUE(Eventually([&] { return !installation.Logged("process").empty(); }));
-    }
-
     // Waits for the menu window. Returns whether the notice was there before.
     static bool SeesNoticeBefore(const RunningMenu& menu) {
         bool noticed = false;
@@ -46,19 +42,9 @@ TEST_F(HostNoticeTest, IsShownWhenTheHostTakesLongerAndGoesAwayByItself) {
 TEST_F(HostNoticeTest, MenuIsHiddenAndHasNoCaptionYet) {
     SetEnvironmentVariableA("FENN_NEVER", "window");
     const RunningMenu menu;
-    AwaitStartOfHost();
+    EXPECT_TRUE(installation.StartsHost());
     EXPECT_FALSE(IsWindowVisible(menu.LoadingWindow()));
     EXPECT_EQ(TextOf(menu.LoadingWindow()), "") << "a second menu must not find an empty window";
-}
-
-TEST_F(HostNoticeTest, WindowOfAnyClassWithTheCaptionOfTheStationEndsTheWait) {
-    SetEnvironmentVariableA("FENN_NEVER", "caption");
-    const HWND station =
-        CreateWindowExA(0, "STATIC", "Obrin-05", WS_VISIBLE, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
-    CreateWindowExA(0, "STATIC", "", WS_CHILD, 0, 0, 0, 0, station, nullptr, nullptr, nullptr);
-    const RunningMenu menu;
-    EXPECT_TRUE(PlayedHost::Until([&] { return menu.Shown(menuCaption) != nullptr; }));
-    DestroyWindow(station);
 }
 
 TEST_F(HostNoticeTest, SaysWhatItWaitsForAndWhere) {
@@ -79,16 +65,13 @@ TEST_F(HostNoticeTest, SaysAtOnceWhyTheHostCouldNotBeStarted) {
 }
 
 TEST_F(HostNoticeTest, ClosingItEndsTheMenu) {
-    struct {
-        const char* way;
-        void (*close)(HWND notice);
-    } const cases[] = {
+    const std::pair<const char*, void (*)(HWND notice)> ways[] = {
         {"its button", [](HWND notice) { SendDlgItemMessageA(notice, IDCANCEL, BM_CLICK, 0, 0); }},
         {"Escape", [](HWND notice) { PostMessageA(notice, WM_KEYDOWN, VK_ESCAPE, 0); }},
         {"its close box", [](HWND notice) { PostMessageA(notice, WM_SYSCOMMAND, SC_CLOSE, 0); }},
     };
     DeleteFileA("Fenn.exe"); // so that the notice is shown at once
-    for (const auto& [way, close] : cases) {
+    for (const auto& [way, close] : ways) {
         SCOPED_TRACE(way);
         const RunningMenu menu;
         close(menu.Window(noticeTitle));
@@ -100,7 +83,7 @@ TEST_F(HostNoticeTest, MenuClosedBeforeItShowsASystemChangesNothing) {
     RememberSystem("UB.mnu ");
     SetEnvironmentVariableA("FENN_NEVER", "caption");
     const RunningMenu menu;
-    AwaitStartOfHost();
+    EXPECT_TRUE(installation.StartsHost());
     menu.Close();
     EXPECT_EQ(menu.ExitCode(), 0);
     ExpectRemembered("UB.mnu ");

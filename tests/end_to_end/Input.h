@@ -28,6 +28,12 @@ inline void HoldKey(HWND control, WPARAM key, int repeats) {
         PostMessageA(control, WM_KEYDOWN, key, repeated);
 }
 
+/// The popup menu on the screen, or null.
+inline HWND ShownPopup() {
+    const HWND popup = FindWindowA("#32768", nullptr); // the class of every popup menu
+    return IsWindowVisible(popup) != FALSE ? popup : nullptr;
+}
+
 /// Clicks in the middle of a control.
 inline void Click(HWND control) {
     EXPECT_TRUE(KeepsForeground(GetAncestor(control, GA_ROOT)));

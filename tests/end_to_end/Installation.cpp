@@ -99,6 +99,10 @@ Lines Installation::Logged(const std::string& word) const {
     return logged;
 }
 
+bool Installation::StartsHost() const {
+    return Eventually([&] { return !Logged("process").empty(); });
+}
+
 bool Installation::HostGets(const Lines& lines) const {
     return Eventually([&] { return Logged("line") == lines; });
 }

@@ -44,6 +44,8 @@ public:
 
     /// The lines of the stand-in host's log that begin with this word, without it.
     Lines Logged(const std::string& word) const;
+    /// Waits until the menu has started the stand-in host.
+    bool StartsHost() const;
     /// Waits until exactly these lines have been typed into the host.
     bool HostGets(const Lines& lines) const;
     /// Waits until this line is the last one typed into the host.

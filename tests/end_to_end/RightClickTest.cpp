@@ -5,11 +5,6 @@
 namespace obrin::test {
 namespace {
 
-HWND ShownPopup() {
-    const HWND popup = FindWindowA("#32768", nullptr); // the class of every popup menu
-    return IsWindowVisible(popup) != FALSE ? popup : nullptr;
-}
-
 // The tree has three rows: the heading Billing, the program Backup, and a program without a text.
 struct RightClick : testing::Test {
     RightClick() {
@@ -68,12 +63,6 @@ TEST_F(RightClick, ThatIsHandledWhenThePointerHasLeftTheTreeDoesNothingToTheNext
     ClickRow(tree, 1, 0, rightClick);
     ExpectPopupNear(PlaceOfRow(tree, 1, 0));
     EXPECT_EQ(TreeView_GetSelection(tree), Backup());
-    PressKey(VK_ESCAPE);
-}
-
-TEST_F(RightClick, MenuKeyOffersThePopupAtTheSelectedProgram) {
-    PressMenuKeyOn(Backup());
-    ExpectPopupNear(PlaceOfRow(tree, 1, 0));
     PressKey(VK_ESCAPE);
 }
 

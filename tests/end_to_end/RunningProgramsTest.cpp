@@ -1,26 +1,22 @@
-// The ways to run a program, and the update of the workstation before the first one.
+// The ways to run a program, keys and clicks at awkward moments, and the update of the workstation before the
+// first program.
 
 #include "end_to_end/Input.h"
+#include "support/HeldFile.h"
 
 namespace obrin::test {
 namespace {
 
+constexpr const char* backup = "CORE\\PROGRAMS\\CSBACKUP";
+
 // UB.mnu has the heading Billing, with the program Post in it, and the program Backup. The menu comes up in
-// front with the keyboard in the tree and all headings closed.
+// front with Backup selected, the keyboard in the tree and all headings closed.
 class RunningPrograms : public testing::Test {
 protected:
     explicit RunningPrograms(int wsid = 5)
-        : installation(wsid) {}
-
-    void SetUp() override {
-        menu.emplace();
+        : installation(wsid) {
         EXPECT_TRUE(installation.HostGets(typed));
-        EXPECT_TRUE(KeepsForeground(menu->Window()));
-        tree = menu->Tree();
-    }
-
-    void SelectHeading() const { TreeView_SelectItem(tree, TreeView_GetRoot(tree)); }
-    void SelectBackup() const {
+        EXPECT_TRUE(KeepsForeground(menu.Window()));
         TreeView_SelectItem(tree, TreeView_GetNextSibling(tree, TreeView_GetRoot(tree)));
     }
 
@@ -30,19 +26,18 @@ protected:
     }
 
     void ExpectNothingRun() const {
-        Sleep(300); // long enough for a command
+        Sleep(500); // long enough for a command
         EXPECT_EQ(installation.Logged("line"), typed);
     }
 
     const Installation installation;
-    std::optional<RunningMenu> menu;
-    HWND tree = nullptr;
+    const RunningMenu menu;
+    const HWND tree = menu.Tree(), button = menu.Button();
     Lines typed{"LOAD CORE\\STARTSYS", "RUN", "UB"};
 };
 
-constexpr const char* backup = "CORE\\PROGRAMS\\CSBACKUP";
-
 TEST_F(RunningPrograms, ClickSelectsAProgramAndEnterRunsIt) {
+    TreeView_SelectItem(tree, TreeView_GetRoot(tree));
     ClickRow(tree, 1, 0, leftClick);
     PressKey(VK_RETURN);
     ExpectRun(backup);
@@ -57,15 +52,14 @@ TEST_F(RunningPrograms, DoubleClickOpensAHeadingAndRunsAProgramInIt) {
 }
 
 TEST_F(RunningPrograms, ButtonBehindTheTreeRunsTheSelectedProgram) {
-    SelectBackup();
     PressKey(VK_TAB);
     PressKey(VK_SPACE);
     ExpectRun(backup);
 }
 
 TEST_F(RunningPrograms, HeadingRunsNothing) {
-    SelectHeading();
-    menu->Command(IDC_COMMAND1);
+    TreeView_SelectItem(tree, TreeView_GetRoot(tree));
+    menu.Command(IDC_COMMAND1);
     ExpectNothingRun();
 }
 
@@ -73,6 +67,82 @@ TEST_F(RunningPrograms, CommandIsSentKeyByKeyAndNotPosted) {
     EXPECT_NE(ReadFileBytes("fenn.log").find("down 76\r\nup 76\r\ndown 79\r\nup 79\r\n"), std::string::npos)
         << "L and O of LOAD; the host logs a posted key with another word";
 }
+
+// --- Awkward moments ---
+
+TEST_F(RunningPrograms, LetterWithoutAltRunsNothing) {
+    for (const char* control : {"the button", "the link"}) {
+        SCOPED_TRACE(control);
+        PressKey(VK_TAB);
+        PressKey('R');
+        ExpectNothingRun();
+    }
+}
+
+TEST_F(RunningPrograms, AltWithTheButtonsLetterRuns) {
+    PressWithAlt('R');
+    ExpectRun(backup);
+}
+
+TEST_F(RunningPrograms, EnterBehindAClickOnTheButtonRuns) {
+    Click(button);
+    ExpectRun(backup);
+    // Closes the window of the program and comes back to the menu.
+    HWND program = nullptr;
+    EXPECT_TRUE(Eventually([&] { return IsWindowVisible(program = FindWindowA("FennProgram", backup)); }));
+    PostMessageA(program, WM_CLOSE, 0, 0);
+    EXPECT_TRUE(Eventually([&] { return !IsWindow(program); }));
+    SetForegroundWindow(menu.Window());
+    EXPECT_TRUE(KeepsForeground(menu.Window()));
+    PressKey(VK_RETURN);
+    ExpectRun(backup);
+}
+
+TEST_F(RunningPrograms, EnterHeldInTheTreeRunsOnce) {
+    HoldKey(tree, VK_RETURN, 3);
+    ExpectRun(backup);
+    ExpectNothingRun();
+}
+
+TEST_F(RunningPrograms, EnterHeldOnTheButtonRunsOnce) {
+    PressKey(VK_TAB);
+    EXPECT_TRUE(Eventually([&] {
+        GUITHREADINFO thread{};
+        thread.cbSize = sizeof thread;
+        GetGUIThreadInfo(GetWindowThreadProcessId(button, nullptr), &thread);
+        return thread.hwndFocus == button;
+    }));
+    HoldKey(button, VK_RETURN, 3);
+    ExpectRun(backup);
+    ExpectNothingRun();
+}
+
+TEST_F(RunningPrograms, ClickThatSlipsByAFewPixelsSelects) {
+    const POINT place = PlaceOfRow(tree, 0, 0);
+    PointAt(place);
+    mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
+    SetCursorPos(place.x + 8, place.y + 2);
+    mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
+    EXPECT_TRUE(Eventually([&] { return TreeView_GetSelection(tree) == TreeView_GetRoot(tree); }));
+}
+
+TEST(BusyFiles, AreWaitedForAtTheStartAndAtARun) {
+    const Installation installation(5);
+    WriteFileBytes("Core\\TempOut.tmp", "");
+    HeldFile configuration("FennConfig.Sys", 0), temporary("Core\\TempOut.tmp", 0);
+    configuration.ReleaseAfter(300);
+    temporary.ReleaseAfter(600);
+    const RunningMenu menu;
+    ASSERT_TRUE(installation.HostGetsLast("UB"));
+    HeldFile updated("Updated.txt", 0);
+    updated.ReleaseAfter(300);
+    const HWND tree = menu.Tree();
+    TreeView_SelectItem(tree, TreeView_GetNextSibling(tree, TreeView_GetRoot(tree)));
+    menu.Command(IDC_COMMAND1);
+    EXPECT_TRUE(installation.HostGetsLast("RUN"));
+}
+
+// --- The update ---
 
 // Workstation 42 has not been updated. The register has a damaged end, and no whole record of three bytes is
 // 042.
@@ -83,53 +153,50 @@ protected:
         WriteFileBytes("Updated.txt", "42042004");
     }
 
-    void RunBackup() const {
-        SelectBackup();
-        menu->Command(IDC_COMMAND1);
-    }
-
     HWND CompleteUpdate() const {
-        EXPECT_TRUE(Eventually([&] { return menu->Texts(title).find("Complete") != std::string::npos; }));
-        return menu->Window(title);
+        EXPECT_TRUE(Eventually([&] { return menu.Texts(title).find("Complete") != std::string::npos; }));
+        return menu.Window(title);
     }
 
     static constexpr const char* title = "Auto Update Utility";
 };
 
-TEST_F(FirstRun, UpdatesTheWorkstationBeforeTheProgram) {
-    RunBackup();
+TEST_F(FirstRun, EntersTheWorkstationAndRunsTheProgramWhenTheUpdateIsClosed) {
+    menu.Command(IDC_COMMAND1);
     CompleteUpdate();
     ExpectNothingRun();
-    menu->Press(title, IDOK);
-    ExpectRun(backup);
-}
-
-TEST_F(FirstRun, EntersTheWorkstationWhenTheUpdateIsClosed) {
-    RunBackup();
-    CompleteUpdate();
     EXPECT_EQ(ReadFileBytes("Updated.txt"), "42042004");
-    menu->Press(title, IDOK);
+    menu.Press(title, IDOK);
     ExpectRun(backup);
     EXPECT_EQ(ReadFileBytes("Updated.txt"), "420420042");
 }
 
 TEST_F(FirstRun, EnterDuringTheUpdateRunsNothing) {
-    SelectBackup();
     // The update that the first Enter begins handles the second one.
     for (int i = 0; i < 2; ++i)
         PostMessageA(tree, WM_CHAR, VK_RETURN, 0);
     CompleteUpdate();
-    menu->Press(title, IDOK);
+    menu.Press(title, IDOK);
     ExpectRun(backup);
     ExpectNothingRun();
-    EXPECT_FALSE(menu->Shown(title)) << "a second update";
+    EXPECT_FALSE(menu.Shown(title)) << "a second update";
+}
+
+TEST_F(FirstRun, EnterHeldThroughTheUpdateLeavesItsWindowOpen) {
+    HoldKey(tree, VK_RETURN, 3);
+    constexpr LPARAM repeated = 1 | LPARAM{KF_REPEAT} << 16;
+    PostMessageA(GetDlgItem(CompleteUpdate(), IDOK), WM_KEYDOWN, VK_RETURN, repeated);
+    ExpectNothingRun();
+    EXPECT_TRUE(menu.Shown(title));
+    PressKey(VK_RETURN);
+    ExpectRun(backup);
 }
 
 TEST_F(FirstRun, ShowsTheUpdateBelowAndRightOfTheMenusCorner) {
-    RunBackup();
+    menu.Command(IDC_COMMAND1);
     RECT corner, update;
     GetWindowRect(CompleteUpdate(), &update);
-    GetWindowRect(menu->Window(), &corner);
+    GetWindowRect(menu.Window(), &corner);
     EXPECT_EQ(update.top - corner.top, (update.bottom - update.top) / 2 / 2) << "a quarter of its height";
     EXPECT_EQ(update.left - corner.left, (update.right - update.left) / 2) << "half its width";
 }

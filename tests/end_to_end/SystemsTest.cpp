@@ -29,11 +29,6 @@ struct Systems : testing::Test {
     std::optional<RunningMenu> menu;
 };
 
-TEST_F(Systems, EveryOneCanBeChosen) {
-    Choose("ZZ.mnu");
-    Choose("UB.mnu");
-}
-
 TEST_F(Systems, ChosenOneIsShownAndStartedInTheHost) {
     Choose("ZZ.mnu");
     EXPECT_EQ(installation.Logged("line"),
@@ -41,6 +36,7 @@ TEST_F(Systems, ChosenOneIsShownAndStartedInTheHost) {
     EXPECT_EQ(TextOf(GetDlgItem(menu->Window(), IDC_LABEL1)), "Zoning") << "without the blanks";
     EXPECT_EQ(TextOf(GetDlgItem(menu->Window(), IDC_FRAME1)), "Zoning");
     EXPECT_EQ(TreeView_GetCount(menu->Tree()), 3U);
+    Choose("UB.mnu");
 }
 
 TEST_F(Systems, TreeOfTheChosenOneKeepsTheKeyboard) {
@@ -60,24 +56,44 @@ TEST_F(Systems, ShownOneIsRememberedAtTheEnd) {
     ExpectRemembered("ZZ.mnu");
 }
 
+TEST(TitleWithMarks, IsShownWithoutThemAndTakesNoKey) {
+    const Installation installation(5);
+    WriteFileBytes("UB.mnu", "R&&D of &Core\r\nA^K\r\n");
+    const RunningMenu menu;
+    ASSERT_TRUE(installation.HostGetsLast("UB"));
+    EXPECT_EQ(TextOf(GetDlgItem(menu.Window(), IDC_LABEL1)), "R&D of Core");
+    EXPECT_EQ(TextOf(menu.Tree()), "R&D of Core") << "for screen readers";
+    EXPECT_EQ(TextOf(GetDlgItem(menu.Window(), IDC_FRAME1)), "R&&D of Core")
+        << "a group box shows this as one &";
+    EXPECT_TRUE(KeepsForeground(menu.Window()));
+    PressWithAlt('C');
+    EXPECT_TRUE(Eventually(ShownPopup)) << "Core Programs opens";
+    PressKey(VK_ESCAPE);
+    PressKey(VK_ESCAPE);
+}
+
 TEST(RememberedSystem, IsShownIfItIsAFile) {
     if (!MayRememberSystem())
         GTEST_SKIP() << "no right to write the registry's local machine";
+    const Installation installation(5);
+    WriteFileBytes("AA.mnu", "Assets\r\n");
+    WriteFileBytes("Ledger.txt", "General Ledger\r\n");
+    const std::string first = EnumerateMenuFiles().front().name.substr(0, 2);
     struct {
-        const char *remembered, *code, *reason;
+        const char* remembered;
+        std::string code;
+        const char* reason;
     } const cases[] = {
-        {"Ledger.txt", "LE", "any name will do"},  {" Ledger.txt ", "LE", "blanks are removed"},
-        {"gone.mnu", "first", "no such file"},     {"Core", "first", "a folder"},
-        {"*.mnu", "first", "the name of no file"},
+        {"Ledger.txt", "LE", "any name will do"}, {" Ledger.txt ", "LE", "blanks are removed"},
+        {"gone.mnu", first, "no such file"},      {"Core", first, "a folder"},
+        {"*.mnu", first, "the name of no file"},
     };
     for (const auto& [remembered, code, reason] : cases) {
-        const Installation installation(5);
-        WriteFileBytes("AA.mnu", "Assets\r\n");
-        WriteFileBytes("Ledger.txt", "General Ledger\r\n");
         RememberSystem(remembered);
-        const std::string first = EnumerateMenuFiles().front().name.substr(0, 2);
         const RunningMenu menu;
-        EXPECT_TRUE(installation.HostGetsLast(code == std::string("first") ? first : code)) << reason;
+        EXPECT_TRUE(menu.Window());
+        EXPECT_TRUE(installation.HostGetsLast(code)) << reason;
+        installation.EndHost();
     }
 }
 
