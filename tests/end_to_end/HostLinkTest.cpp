@@ -102,6 +102,7 @@ TEST_F(HostLinkTest, GoesOnWithAStationThatIsNeverShown) {
 TEST_F(HostLinkTest, NoticeStaysWhileTheHostHandlesTheFirstCommand) {
     const RunningMenu menu;
     ASSERT_TRUE(Until([&] { return menu.Shown(noticeTitle) != nullptr; }));
+    EXPECT_EQ(menu.Texts(noticeTitle).find("could not be started"), std::string::npos);
     bool isNoticeShown = false;
     onNextKey = [&] { isNoticeShown = menu.Shown(noticeTitle) != nullptr; };
     MakeStation();

@@ -8,16 +8,6 @@ namespace {
 constexpr const char* noticeTitle = "Waiting for Fenn";
 
 struct HostNoticeTest : testing::Test {
-    // Waits for the menu window. Returns whether the notice was there before.
-    static bool SeesNoticeBefore(const RunningMenu& menu) {
-        bool noticed = false;
-        EXPECT_TRUE(Eventually([&] {
-            noticed = noticed || menu.Shown(noticeTitle) != nullptr;
-            return menu.Shown(menuCaption) != nullptr;
-        }));
-        return noticed;
-    }
-
     const Installation installation{5};
 };
 
@@ -26,17 +16,14 @@ TEST_F(HostNoticeTest, IsNotShownInTheFirstTwoSeconds) {
     SetEnvironmentVariableA("FENN_START_DELAY_MS", "600"); // from the window to its caption
     const ULONGLONG start = GetTickCount64();
     const RunningMenu menu;
-    const bool noticed = SeesNoticeBefore(menu);
+    bool noticed = false;
+    EXPECT_TRUE(Eventually([&] {
+        noticed = noticed || menu.Shown(noticeTitle) != nullptr;
+        return menu.Shown(menuCaption) != nullptr;
+    }));
     if (GetTickCount64() - start >= 2000)
         GTEST_SKIP() << "The machine is too busy to tell.";
     EXPECT_FALSE(noticed);
-}
-
-TEST_F(HostNoticeTest, IsShownWhenTheHostTakesLongerAndGoesAwayByItself) {
-    SetEnvironmentVariableA("FENN_WINDOW_DELAY_MS", "2800");
-    const RunningMenu menu;
-    EXPECT_TRUE(SeesNoticeBefore(menu));
-    EXPECT_TRUE(Eventually([&] { return menu.Shown(noticeTitle) == nullptr; }));
 }
 
 TEST_F(HostNoticeTest, MenuIsHiddenAndHasNoCaptionYet) {
@@ -45,15 +32,6 @@ TEST_F(HostNoticeTest, MenuIsHiddenAndHasNoCaptionYet) {
     EXPECT_TRUE(installation.StartsHost());
     EXPECT_FALSE(IsWindowVisible(menu.LoadingWindow()));
     EXPECT_EQ(TextOf(menu.LoadingWindow()), "") << "a second menu must not find an empty window";
-}
-
-TEST_F(HostNoticeTest, SaysWhatItWaitsForAndWhere) {
-    SetEnvironmentVariableA("FENN_NEVER", "window");
-    const RunningMenu menu;
-    const std::string texts = menu.Texts(noticeTitle);
-    EXPECT_NE(texts.find("as soon as Fenn.exe shows its window Obrin-05."), std::string::npos) << texts;
-    EXPECT_NE(texts.find(CurrentFolder()), std::string::npos) << texts;
-    EXPECT_EQ(texts.find("could not be started"), std::string::npos) << texts;
 }
 
 TEST_F(HostNoticeTest, SaysAtOnceWhyTheHostCouldNotBeStarted) {
@@ -91,28 +69,13 @@ TEST_F(HostNoticeTest, MenuClosedBeforeItShowsASystemChangesNothing) {
     EXPECT_EQ(installation.Logged("process").size(), 1U) << "no second host";
 }
 
-struct SecondStartDuringTheWait : HostNoticeTest {
-    SecondStartDuringTheWait() { DeleteFileA("Fenn.exe"); }
-
-    void StartSecond() const {
-        SetForegroundWindow(GetDesktopWindow());
-        EXPECT_EQ(RunningMenu().ExitCode(), 0);
-    }
-};
-
-TEST_F(SecondStartDuringTheWait, BringsTheNoticeToTheFront) {
+TEST_F(HostNoticeTest, ComesToTheFrontAtASecondStart) {
+    DeleteFileA("Fenn.exe");
     const RunningMenu first;
     const HWND notice = first.Window(noticeTitle);
-    StartSecond();
+    SetForegroundWindow(GetDesktopWindow());
+    EXPECT_EQ(RunningMenu().ExitCode(), 0);
     EXPECT_TRUE(KeepsForeground(notice));
-}
-
-TEST_F(SecondStartDuringTheWait, LeavesANoticeBehindThatABoxHasDisabled) {
-    const RunningMenu first;
-    const HWND notice = first.Window(noticeTitle);
-    EnableWindow(notice, FALSE);
-    StartSecond();
-    EXPECT_NE(GetForegroundWindow(), notice);
 }
 
 } // namespace

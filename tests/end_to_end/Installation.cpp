@@ -187,10 +187,4 @@ void ExpectRemembered(const std::string& name) {
               MayRememberSystem() ? name : "");
 }
 
-bool HasIcon(HWND box) {
-    // Windows and Wine number the icon's control differently.
-    return SendDlgItemMessageA(box, 20, STM_GETICON, 0, 0) != 0 ||
-           SendDlgItemMessageA(box, 1088, STM_GETICON, 0, 0) != 0;
-}
-
 } // namespace obrin::test

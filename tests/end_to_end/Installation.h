@@ -95,7 +95,4 @@ private:
 void RememberSystem(const std::string& name);
 void ExpectRemembered(const std::string& name);
 
-/// Whether a message box has an icon.
-bool HasIcon(HWND box);
-
 } // namespace obrin::test

@@ -26,18 +26,11 @@ protected:
 TEST_F(MenuWindow, OpensAsDesigned) {
     if (GetDpiForWindow(window) != USER_DEFAULT_SCREEN_DPI)
         GTEST_SKIP() << "The places are those of a screen of 96 DPI.";
-    struct {
-        const char* what;
-        HWND control;
-        RECT designed; // in its parent
-    } const cases[] = {
-        {"frame", frame, {10, 8, 410, 488}},
-        {"tree", tree, {10, 28, 390, 432}},
-        {"button", button, {10, 440, 130, 468}},
-    };
-    for (const auto& [what, control, designed] : cases) {
+    const std::pair<HWND, RECT> places[] = {
+        {frame, {10, 8, 410, 488}}, {tree, {10, 28, 390, 432}}, {button, {10, 440, 130, 468}}};
+    for (const auto& [control, designed] : places) {
         const RECT place = PlaceOf(control);
-        EXPECT_TRUE(EqualRect(&place, &designed)) << what;
+        EXPECT_TRUE(EqualRect(&place, &designed)) << Name(control);
     }
     RECT inner;
     GetClientRect(window, &inner);

@@ -34,7 +34,6 @@ TEST_F(OpenHost, MakesTheMenuAskWhetherToShowIt) {
                   "show the Fenn Window Now?"),
         std::string::npos);
     const HWND box = menu.Window(questionTitle);
-    EXPECT_TRUE(HasIcon(box));
     EXPECT_TRUE(GetDlgItem(box, IDYES));
     EXPECT_FALSE(GetDlgItem(box, IDCANCEL));
     EXPECT_TRUE(SendDlgItemMessageA(box, IDNO, WM_GETDLGCODE, 0, 0) & DLGC_DEFPUSHBUTTON) << "Enter means No";

@@ -23,12 +23,6 @@ TEST_F(AboutBox, ShowsTheIconAndItsTitleInBoldLetters) {
     EXPECT_EQ(test::FontShapeOf(GetDlgItem(box, IDC_LBL_TITLE)).lfWeight, FW_BOLD);
 }
 
-TEST_F(AboutBox, DescribesTheMakerAndWarns) {
-    EXPECT_TRUE(
-        WindowText(GetDlgItem(box, IDC_LBL_DESCRIPTION)).starts_with("Obrin Software Systems writes "));
-    EXPECT_TRUE(WindowText(GetDlgItem(box, IDC_LBL_DISCLAIMER)).starts_with("Warning: \r\nThis program "));
-}
-
 TEST_F(AboutBox, StaysOpenBehindTheMessageThatThereIsNoTool) {
     const test::LocalMachine empty;
     std::string title;

@@ -8,4 +8,8 @@ TEST(VersionText, HasPlainNumbers) {
     EXPECT_EQ(VersionText({.major = 2, .minor = 0, .revision = 38}), "Version 2.0.38");
 }
 
+TEST(DisclaimerText, StartsWithAWarningLine) {
+    EXPECT_TRUE(std::string(disclaimerText).starts_with("Warning: \r\n"));
+}
+
 } // namespace obrin

@@ -79,21 +79,17 @@ TEST_F(UpdateWindow, IsPaintedBeforeTheFirstCopy) {
     EXPECT_TRUE(isPaintedBeforeCopy);
 }
 
-TEST_F(UpdateWindow, CopiesAgainAfterAResize) {
-    Update([](HWND window) {
-        if (shown.size() == progress.size())
-            SendMessageA(window, WM_SIZE, 0, 0);
-    });
-    EXPECT_EQ(shown.size(), 2 * progress.size());
-}
-
-TEST_F(UpdateWindow, ResizedWhileCopyingFinishesThatFirst) {
-    Update([](HWND window) {
-        if (shown.size() == 2)
-            SendMessageA(window, WM_SIZE, 0, 0);
-    });
-    ASSERT_EQ(shown.size(), 2 * progress.size());
-    EXPECT_EQ(Texts(shown.begin(), shown.begin() + 6), progress);
+TEST_F(UpdateWindow, CopiesAgainAfterAResizeWhenItIsComplete) {
+    for (const std::size_t resizedAt : {2U, 6U}) {
+        shown.clear();
+        DeleteFileA("Updated.txt");
+        Update([=](HWND window) {
+            if (shown.size() == resizedAt)
+                SendMessageA(window, WM_SIZE, 0, 0);
+        });
+        ASSERT_EQ(shown.size(), 2 * progress.size());
+        EXPECT_EQ(Texts(shown.begin(), shown.begin() + 6), progress);
+    }
 }
 
 TEST_F(UpdateWindow, HidesOkayWhileItCopies) {

@@ -74,14 +74,6 @@ TEST_F(FileReplacement, WritesInPlaceWhatOthersHoldOpen) {
     EXPECT_EQ(OtherFiles(), std::vector<std::string>());
 }
 
-TEST_F(FileReplacement, WaitsForAFileThatIsHeldForAMoment) {
-    test::HeldFile scanner("f", 0);
-    scanner.ReleaseAfter(300);
-    ReplaceFileBytes("f", "new");
-    EXPECT_EQ(ReadFileBytes("f"), "new");
-    EXPECT_EQ(OtherFiles(), std::vector<std::string>());
-}
-
 TEST_F(FileReplacement, IsRefusedForAFileThatStaysHeld) {
     {
         const test::HeldFile reader("f", FILE_SHARE_READ);

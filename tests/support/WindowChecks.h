@@ -75,13 +75,6 @@ inline bool IsLabel(HWND control) {
     return HasClass(control, WC_STATICA) && (GetWindowStyle(control) & SS_TYPEMASK) <= SS_RIGHT;
 }
 
-/// The place of a tab in its tab strip.
-inline RECT TabPlace(HWND tabStrip, WPARAM index) {
-    RECT place{};
-    SendMessageA(tabStrip, TCM_GETITEMRECT, index, reinterpret_cast<LPARAM>(&place));
-    return place;
-}
-
 /// The controls that a person sees. The pages behind the front page are disabled. The box inside a combo box
 /// is a part of it, not a control.
 inline std::vector<HWND> ShownControls(HWND window) {
