@@ -32,6 +32,14 @@ TEST_F(Link, IsOpenedOnceByEnterOrSpaceAlsoWhenHeld) {
     EXPECT_EQ(OpenedDocuments(), (Lines{shortcut, shortcut}));
 }
 
+TEST_F(Link, TakesEnterFromTheDefaultButtonAndLeavesTab) {
+    for (const WPARAM key : {WPARAM{VK_RETURN}, WPARAM{VK_TAB}}) {
+        MSG typed{link, WM_KEYDOWN, key, 0, 0, {}};
+        const LRESULT code = SendMessageA(link, WM_GETDLGCODE, key, reinterpret_cast<LPARAM>(&typed));
+        EXPECT_EQ((code & DLGC_WANTMESSAGE) != 0, key == VK_RETURN);
+    }
+}
+
 TEST_F(Link, IsOpenedOnceByADoubleClick) {
     SendMessageA(link, WM_LBUTTONDOWN, MK_LBUTTON, 0);
     SendMessageA(link, WM_LBUTTONUP, 0, 0);

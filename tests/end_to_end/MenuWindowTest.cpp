@@ -111,16 +111,6 @@ TEST_F(MenuWindow, ShowsLevelsAndTheSelectionAndCanBeSized) {
     EXPECT_TRUE(HasStyle(window, WS_OVERLAPPEDWINDOW));
 }
 
-TEST_F(MenuWindow, TreeAndLinkTakeEnterAndLeaveTab) {
-    for (const HWND control : {tree, link}) {
-        for (const WPARAM key : {WPARAM{VK_RETURN}, WPARAM{VK_TAB}}) {
-            MSG typed{control, WM_KEYDOWN, key, 0, 0, {}};
-            const LRESULT code = SendMessageA(control, WM_GETDLGCODE, key, reinterpret_cast<LPARAM>(&typed));
-            EXPECT_EQ((code & DLGC_WANTMESSAGE) != 0, key == VK_RETURN);
-        }
-    }
-}
-
 TEST_F(MenuWindow, KeyboardComesBackFromAnotherWindowToItsControl) {
     SetFocus(button);
     SendMessageA(window, WM_ACTIVATE, WA_INACTIVE, 0);

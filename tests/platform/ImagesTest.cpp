@@ -30,11 +30,8 @@ protected:
 
 INSTANTIATE_TEST_SUITE_P(, Image, testing::Values("ObrinMenu.exe", "ObrinCheck.exe", "Corvel.dll"));
 
-TEST_P(Image, NeedsWindows10) {
+TEST_P(Image, HasTheProtectionsOfWindows10AndNeedsIt) {
     EXPECT_EQ(headers.OptionalHeader.MajorSubsystemVersion, 10);
-}
-
-TEST_P(Image, HasTheProtectionsOfThePlatform) {
     const WORD all = IMAGE_DLLCHARACTERISTICS_DYNAMIC_BASE | IMAGE_DLLCHARACTERISTICS_NX_COMPAT |
                      (sizeof(void*) == 8 ? IMAGE_DLLCHARACTERISTICS_HIGH_ENTROPY_VA : 0);
     EXPECT_EQ(headers.OptionalHeader.DllCharacteristics & all, all);

@@ -16,16 +16,6 @@ TEST(UserWsidRecord, CutsALongName) {
     EXPECT_EQ(UserWsidRecord(std::string(120, 'n'), 42).substr(0, 101), std::string(100, 'n') + '\x2A');
 }
 
-TEST(ReadUserRecords, FindsARecordInEachSlot) {
-    const std::string file = anna + bert;
-    const auto records = ReadUserRecords(file);
-    ASSERT_EQ(records.size(), 2U);
-    EXPECT_EQ(records[0].name, "anna");
-    EXPECT_EQ(records[0].wsid, 3);
-    EXPECT_EQ(records[1].name, "bert");
-    EXPECT_EQ(records[1].wsid, 7);
-}
-
 TEST(ReadUserRecords, ReadsNumbersOfTwoBytesWithTheirSign) {
     EXPECT_EQ(ReadUserRecords(UserWsidRecord("anna", 300)).at(0).wsid, 300);
     EXPECT_EQ(ReadUserRecords(UserWsidRecord("anna", -2)).at(0).wsid, -2);
