@@ -12,11 +12,6 @@ TEST(SignedDecimal, HasABlankInPlaceOfAPlusSign) {
     EXPECT_EQ(SignedDecimal(-5), "-5");
 }
 
-TEST(PlainDecimal, HasNeitherBlanksNorLeadingZeros) {
-    EXPECT_EQ(PlainDecimal(5), "5");
-    EXPECT_EQ(PlainDecimal(-5), "-5");
-}
-
 TEST(PaddedDecimal, HasAtLeastThatManyDigits) {
     EXPECT_EQ(PaddedDecimal(5, 3), "005");
     EXPECT_EQ(PaddedDecimal(-7, 2), "-07");

@@ -1,4 +1,4 @@
-// The end of the menu: by its close box, and at the end of the Windows session.
+// The end of the menu: by its close box, at the end of the Windows session, and by an unexpected error.
 
 #include "end_to_end/Installation.h"
 
@@ -48,6 +48,22 @@ TEST_F(Closing, SessionThatGoesOnLeavesTheMenuOpen) {
     SendMessageA(menu->Window(), WM_ENDSESSION, FALSE, 0);
     EXPECT_TRUE(IsWindow(menu->Window()));
     EXPECT_EQ(installation.Logged("line"), typed);
+}
+
+TEST(ErrorBox, EndsTheMenuWithoutTheOrderlyClose) {
+    const Installation installation(5);
+    DeleteFileA("Updated.txt");
+    CreateFolder("Updated.txt"); // running a program fails
+    const RunningMenu menu;
+    ASSERT_TRUE(installation.HostGetsLast("UB"));
+    menu.Command(IDC_COMMAND1);
+    EXPECT_NE(menu.Texts("ObrinMenu").find("Updated.txt"), std::string::npos) << menu.Texts("ObrinMenu");
+    EXPECT_FALSE(IsWindowEnabled(menu.Window()));
+    SendMessageA(menu.Window(), WM_CLOSE, 0, 0); // has no effect any more
+    menu.Press("ObrinMenu", IDOK);
+    EXPECT_EQ(menu.ExitCode(), 1);
+    EXPECT_TRUE(installation.HostGetsLast("UB")) << "no exit command";
+    EXPECT_TRUE(FileExists("Menu 5.txt"));
 }
 
 } // namespace

@@ -99,14 +99,6 @@ Lines Installation::Logged(const std::string& word) const {
     return logged;
 }
 
-bool Installation::StartsHost() const {
-    return Eventually([&] { return !Logged("process").empty(); });
-}
-
-bool Installation::HostGets(const Lines& lines) const {
-    return Eventually([&] { return Logged("line") == lines; });
-}
-
 bool Installation::HostGetsLast(const std::string& line) const {
     return Eventually([&] {
         const Lines typed = Logged("line");
@@ -147,10 +139,6 @@ HWND RunningMenu::LoadingWindow() const {
     HWND window = nullptr;
     EXPECT_TRUE(Eventually([&] { return (window = FindWindowA(menuWindowClass, nullptr)) != nullptr; }));
     return window;
-}
-
-HWND RunningMenu::Tree() const {
-    return GetDlgItem(GetDlgItem(Window(), IDC_FRAME1), IDC_TREEVIEW1);
 }
 
 std::string RunningMenu::Texts(const std::string& caption) const {

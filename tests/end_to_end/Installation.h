@@ -45,9 +45,13 @@ public:
     /// The lines of the stand-in host's log that begin with this word, without it.
     Lines Logged(const std::string& word) const;
     /// Waits until the menu has started the stand-in host.
-    bool StartsHost() const;
+    bool StartsHost() const {
+        return Eventually([this] { return !Logged("process").empty(); });
+    }
     /// Waits until exactly these lines have been typed into the host.
-    bool HostGets(const Lines& lines) const;
+    bool HostGets(const Lines& lines) const {
+        return Eventually([&] { return Logged("line") == lines; });
+    }
     /// Waits until this line is the last one typed into the host.
     bool HostGetsLast(const std::string& line) const;
     void EndHost() const;
@@ -70,7 +74,7 @@ public:
     HWND Window(const std::string& caption = menuCaption) const;
     /// Waits for the menu window, which is hidden until a system is shown.
     HWND LoadingWindow() const;
-    HWND Tree() const;
+    HWND Tree() const { return GetDlgItem(GetDlgItem(Window(), IDC_FRAME1), IDC_TREEVIEW1); }
     HWND Button() const { return GetDlgItem(GetParent(Tree()), IDC_COMMAND1); }
     /// The texts of the controls of a visible window, one a line.
     std::string Texts(const std::string& caption = menuCaption) const;

@@ -1,37 +1,25 @@
-#include "maintenance/frmAbout.h"
+#include "controls/WindowTest.h"
 
-#include "resources/Ids.h"
-#include "support/DialogTest.h"
-#include "support/LocalMachine.h"
-
-namespace obrin {
+namespace obrin::test {
 namespace {
 
-struct AboutBox : test::DialogTest {
-    AboutBox() {
-        about.ShowModeless(owner, IDD_ABOUT);
-        box = DialogOver(owner);
-    }
-    ~AboutBox() override { DestroyWindow(box); }
-
-    frmAbout about;
-    HWND box = nullptr;
-};
+using AboutBox = WindowTest;
 
 TEST_F(AboutBox, ShowsTheIconAndItsTitleInBoldLetters) {
-    EXPECT_NE(SendDlgItemMessageA(box, IDC_PIC_ICON, STM_GETICON, 0, 0), 0);
-    EXPECT_EQ(test::FontShapeOf(GetDlgItem(box, IDC_LBL_TITLE)).lfWeight, FW_BOLD);
+    WhileAboutBox([](HWND box) {
+        EXPECT_NE(SendDlgItemMessageA(box, IDC_PIC_ICON, STM_GETICON, 0, 0), 0);
+        EXPECT_EQ(FontShapeOf(GetDlgItem(box, IDC_LBL_TITLE)).lfWeight, FW_BOLD);
+    });
 }
 
 TEST_F(AboutBox, StaysOpenBehindTheMessageThatThereIsNoTool) {
-    const test::LocalMachine empty;
-    std::string title;
-    ActInDialog(
-        box, [=, this] { SendMessageA(GetDlgItem(box, IDC_CMD_SYS_INFO), BM_CLICK, 0, 0); },
-        [&](HWND message) { title = WindowText(message); });
-    EXPECT_EQ(title, "ObrinMenu");
-    EXPECT_TRUE(IsWindowVisible(box));
+    WhileAboutBox([this](HWND box) {
+        const auto press = [=] { SendDlgItemMessageA(box, IDC_CMD_SYS_INFO, BM_CLICK, 0, 0); };
+        EXPECT_TRUE(
+            ActInDialog(box, press, [](HWND message) { EXPECT_EQ(WindowText(message), "ObrinMenu"); }));
+        EXPECT_TRUE(IsWindowVisible(box));
+    });
 }
 
 } // namespace
-} // namespace obrin
+} // namespace obrin::test

@@ -1,11 +1,8 @@
 #include "maintenance/SystemInformation.h"
 
+#include "controls/WindowTest.h"
 #include "platform/FileReplacement.h"
-#include "platform/Workstation.h"
-#include "support/DialogTest.h"
-#include "support/LocalMachine.h"
 #include "support/Machine.h"
-#include "support/ScratchFolder.h"
 
 namespace obrin {
 namespace {
@@ -25,7 +22,7 @@ const bool startedAsTool = [] {
     ExitProcess(0);
 }();
 
-class SystemInformation : public test::DialogTest {
+class SystemInformation : public test::WindowTest {
 protected:
     SystemInformation() {
         SetEnvironmentVariableA(reportVariable, report.c_str());
@@ -60,8 +57,6 @@ protected:
         return result == unavailable ? Launch(path, here + "Tools") : result;
     }
 
-    const test::ScratchFolder folder;
-    const test::LocalMachine machine;
     const std::string here = folder.path.string() + "\\", report = here + "report.txt";
     const std::string missing = std::string(1025, 'x'); // too long to be read
     const std::string unavailable = "System Information Is Unavailable At This Time";

@@ -1,8 +1,6 @@
 #include "maintenance/WorkstationUpdate.h"
 
-#include "resources/Ids.h"
-#include "support/DialogTest.h"
-#include "support/ScratchFolder.h"
+#include "controls/WindowTest.h"
 
 namespace obrin {
 namespace {
@@ -13,7 +11,7 @@ using Texts = std::vector<std::string>;
 const Texts progress{"Updating:\r\nTessel.exe",       "Updating:\r\nSweeper.exe", "Updating:\r\nNotebox.exe",
                      "Updating:\r\nShowAllFenns.exe", "Updating:\r\nGlass.exe",   "Updating:\r\nComplete"};
 
-class UpdateWindow : public test::DialogTest {
+class UpdateWindow : public test::WindowTest {
 protected:
     UpdateWindow() {
         SetEnvironmentVariableA("Tessel", "Local");
@@ -34,8 +32,6 @@ protected:
 
     static inline Texts shown;
     static inline bool isPaintedBeforeCopy;
-
-    const test::ScratchFolder folder;
 
 private:
     void SetUp() override {

@@ -62,12 +62,6 @@ TEST_F(FileTest, FirstLineIsReadOfAnyLength) {
     EXPECT_THROW(ReadFirstLine("f"), RunTimeError);
 }
 
-TEST_F(FileTest, FolderIsNoFile) {
-    CreateFolder("d");
-    EXPECT_FALSE(FileExists("d"));
-    EXPECT_FALSE(ReadFileIfThere("d"));
-}
-
 TEST_F(FileTest, ShortPathIsEmptyWhenItDoesNotFit) {
     EXPECT_GT(ShortPath(CurrentFolder()).size(), 2U);
     EXPECT_EQ(ShortPath("C:\\missing\\folder"), "");

@@ -1,17 +1,12 @@
 // The Properties dialog: what it shows and saves, its pages, and how boxes and sliders follow each other.
 
-#include "settings/Form2.h"
-
+#include "controls/WindowTest.h"
 #include "settings/SettingsStore.h"
-#include "support/DialogTest.h"
-#include "support/LocalMachine.h"
-#include "support/ScratchFolder.h"
 
 namespace obrin {
 namespace {
 
-struct ClosedProperties : test::DialogTest {
-    ClosedProperties() { SetEnvironmentVariableA("TesselTemp", folder.path.string().c_str()); }
+struct ClosedProperties : test::WindowTest {
     ~ClosedProperties() override { DestroyWindow(dialog); }
 
     /// Opens the dialog modeless, so that the test can go on. A dialog that closes itself is then hidden.
@@ -34,9 +29,6 @@ struct ClosedProperties : test::DialogTest {
         return ReadFileBytes(path).find(line + "\r\n") != std::string::npos;
     }
 
-    const test::ScratchFolder folder;
-    const test::LocalMachine machine;
-    const SupportLibrary corvel;
     std::string programKey = "Core\\Programs\\CSBackup"; // the tree's
     const std::string path = folder.path.string() + "\\Ini\\Core\\Programs\\CSBackup.ini";
     std::optional<Form2> form;

@@ -11,11 +11,8 @@ std::string Blanked(std::string_view configuration) {
     return BlankDriveLines(configuration, test::UpperCase);
 }
 
-TEST(BlankDriveLines, EmptiesDriveLinesInAnyCase) {
+TEST(BlankDriveLines, EmptiesLinesThatBeginWithDriveInAnyCase) {
     EXPECT_EQ(Blanked("Drive S,C:\\OLD,X,\\\r\nFiles 1\r\nDRIVE\r\ndRiVe 2\r\n"), "\r\nFiles 1\r\n\r\n\r\n");
-}
-
-TEST(BlankDriveLines, LooksAtFiveLettersOnly) {
     EXPECT_EQ(Blanked("Drivers 3\r\n"), "\r\n");
 }
 
