@@ -22,31 +22,22 @@ constexpr const char* nameAndVersion = "ObrinCheck " OBRIN_VERSION_TEXT;
 
 constexpr std::string_view usage =
     "usage: ObrinCheck [--tree] [FOLDER | FILE.mnu]...\r\n"
-    "Says what is wrong with installations of the Obrin menu or with single menu files (*.mnu for all of "
-    "a\r\n"
-    "folder); without any, with the installation in the current folder. No file is changed.\r\n"
+    "Says what is wrong with installations of the Obrin menu, or with menu files (*.mnu: all of a "
+    "folder).\r\n"
+    "Without a path it checks the installation in the current folder. It changes no file.\r\n"
     "  --tree     first shows each system as an indented tree, with line numbers, and keys in brackets\r\n"
     "  --help     shows this text\r\n"
     "  --version  shows the version\r\n"
-    "A line for each finding, in the order of files and lines:\r\n"
+    "It prints a line for each finding, in the order of files and lines:\r\n"
     "  FILE:LINE: error: PROBLEM: CONSEQUENCE; REMEDY    stops the menu, for some operators at least\r\n"
     "  FILE:LINE: warning: PROBLEM: CONSEQUENCE; REMEDY  does not, unless the consequence says so\r\n"
-    "What is about a file or folder as a whole has no LINE. The last line counts the findings.\r\n"
-    "Whether files can be read and written is told for the user who runs this: run it as an operator. The\r\n"
-    "variables Tessel and TesselTemp are those of this workstation.\r\n"
-    "Exit code: 0 nothing or warnings only, 1 errors, 2 wrong arguments or a path that cannot be "
-    "checked.\r\n";
+    "A finding on a file or folder as a whole has no LINE. The last line counts the findings.\r\n"
+    "Rights are tested for the user who runs it: run it as an operator. It looks at the variables Tessel\r\n"
+    "and TesselTemp of this workstation.\r\n"
+    "Exit code: 0 nothing or warnings only, 1 errors, 2 wrong options or a path that cannot be checked.\r\n";
 
-struct Arguments {
-    bool tree = false;
-    bool help = false;
-    bool version = false;
-    std::string wrong; // the first argument that is neither an option nor a path
-    std::vector<std::string> paths;
-};
-
-// A quotation mark begins or ends a quotation also behind a "\\": no path holds one, but many that are quoted
-// end in "\\".
+// Splits a command line at blanks. A "\" in front of a quotation mark is part of the path: many quoted paths
+// end with "\", and none holds a quotation mark.
 std::vector<std::string> Split(std::string_view commandLine) {
     std::vector<std::string> parts;
     bool inPart = false, quoted = false;
@@ -67,67 +58,46 @@ std::vector<std::string> Split(std::string_view commandLine) {
     return parts;
 }
 
-Arguments ParseCommandLine(std::string_view commandLine) {
-    Arguments arguments;
-    const auto parts = Split(commandLine);
-    for (std::size_t i = 1; i < parts.size(); ++i) { // the first is the program
-        const std::string& part = parts[i];
-        if (part == "--tree")
-            arguments.tree = true;
-        else if (part == "--help" || part == "/?")
-            arguments.help = true;
-        else if (part == "--version")
-            arguments.version = true;
-        else if (!part.empty() && part.front() != '-')
-            arguments.paths.push_back(part);
-        else if (arguments.wrong.empty())
-            arguments.wrong = '"' + part + '"';
-    }
-    return arguments;
+void Complain(const std::string& text) {
+    Write(STD_ERROR_HANDLE, "ObrinCheck: " + OneLine(text) + "\r\n");
 }
 
-int Check(const Arguments& arguments, const Stream& output, const Stream& complaints) {
-    const auto paths = arguments.paths.empty() ? std::vector<std::string>(1) : arguments.paths;
-    CheckResult result;
-    {
-        ProgressLine line;
-        result = CheckPaths(paths, arguments.tree,
-                            [&](std::size_t done, std::size_t all) { line.Show(done, all); });
-    }
-    output.Write(result.trees);
-    output.Write(Report(result.findings));
+int Check(const std::vector<std::string>& paths, bool withTrees) {
+    const CheckResult result = CheckPaths(paths, withTrees, ShowProgress);
     for (const std::string& failure : result.failures)
-        complaints.Write("ObrinCheck: " + failure + "\r\n");
+        Complain(failure);
     const std::string where = FullPath(paths.size() == 1 && !paths[0].empty() ? paths[0] : ".");
-    output.Write(Summary(result.findings, result.menuFiles,
-                         where + ", user " + LoginName() + ", code page " + std::to_string(GetACP()) + ", " +
-                             nameAndVersion));
+    Write(STD_OUTPUT_HANDLE, result.trees + Report(result.findings) +
+                                 Summary(result.findings, result.menuFiles,
+                                         where + ", user " + LoginName() + ", code page " +
+                                             std::to_string(GetACP()) + ", " + nameAndVersion));
     return !result.failures.empty() ? notChecked : HasErrors(result.findings) ? errorsFound : 0;
 }
 
 int Run() {
-    const Stream output(STD_OUTPUT_HANDLE);
-    const Stream complaints(STD_ERROR_HANDLE);
-    int exitCode = notChecked;
-    try {
-        const Arguments arguments = ParseCommandLine(GetCommandLineA());
-        if (!arguments.wrong.empty()) {
-            complaints.Write("ObrinCheck: " + OneLine(arguments.wrong) +
-                             " is neither an option nor a path; --help shows the options\r\n");
-        } else if (arguments.help || arguments.version) {
-            output.Write(arguments.help ? usage : std::string(nameAndVersion) + "\r\n");
-            exitCode = 0;
+    bool withTrees = false;
+    std::vector<std::string> paths;
+    const auto arguments = Split(GetCommandLineA());
+    for (std::size_t i = 1; i < arguments.size(); ++i) { // the first is the program
+        const std::string& argument = arguments[i];
+        if (argument == "--tree") {
+            withTrees = true;
+        } else if (argument == "--help" || argument == "/?") {
+            Write(STD_OUTPUT_HANDLE, usage);
+            return 0;
+        } else if (argument == "--version") {
+            Write(STD_OUTPUT_HANDLE, std::string(nameAndVersion) + "\r\n");
+            return 0;
+        } else if (argument.empty() || argument.front() == '-') {
+            Complain('"' + argument + "\" is neither an option nor a path; --help shows the options");
+            return notChecked;
         } else {
-            exitCode = Check(arguments, output, complaints);
+            paths.push_back(argument);
         }
-    } catch (const RunTimeError& error) {
-        complaints.Write(std::string("ObrinCheck: ") + error.what() + ": " + PlatformText(error.Code()) +
-                         "\r\n");
-    } catch (const std::exception& error) {
-        complaints.Write(std::string("ObrinCheck: ") + error.what() + "\r\n");
     }
-    KeepOwnConsoleOpen(output);
-    return exitCode;
+    if (paths.empty())
+        paths.emplace_back();
+    return Check(paths, withTrees);
 }
 
 } // namespace
@@ -135,7 +105,14 @@ int Run() {
 } // namespace obrin
 
 int main() {
-    // As the menu: nothing is loaded from the shared folder.
+    // As in the menu, nothing is loaded from the shared folder.
     SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
-    return obrin::Run();
+    int exitCode = obrin::notChecked;
+    try {
+        exitCode = obrin::Run();
+    } catch (const std::exception& error) {
+        obrin::Complain(error.what());
+    }
+    obrin::KeepOwnConsoleOpen();
+    return exitCode;
 }

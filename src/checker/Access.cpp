@@ -8,50 +8,36 @@ namespace obrin {
 
 namespace {
 
-// ERROR_SUCCESS when the path can be opened so.
 DWORD ErrorOfOpening(const std::string& path, DWORD access, DWORD flags) {
     const HANDLE handle =
         CreateFileA(path.c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
                     OPEN_EXISTING, flags, nullptr);
     if (handle == INVALID_HANDLE_VALUE)
         return GetLastError();
-    const UniqueHandle closes(handle);
+    CloseHandle(handle);
     return ERROR_SUCCESS;
 }
 
-DWORD ErrorOfOpening(const std::string& path, File::Use use) {
-    try {
-        File(path, use).Close();
-        return ERROR_SUCCESS;
-    } catch (const RunTimeError& error) {
-        return error.Code();
-    }
+bool IsReadOnlyFile(const std::string& path) {
+    const DWORD attributes = GetFileAttributesA(path.c_str());
+    constexpr DWORD isFolder = FILE_ATTRIBUTE_DIRECTORY; // for which the attribute means nothing
+    return attributes != INVALID_FILE_ATTRIBUTES &&
+           (attributes & (FILE_ATTRIBUTE_READONLY | isFolder)) == FILE_ATTRIBUTE_READONLY;
 }
 
-bool MeansMissing(DWORD error) {
-    return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;
-}
-
-Trouble Refused(const std::string& done, DWORD error, const std::string& right) {
-    const std::string rights = "give the operators the right to " + right + " it";
+Trouble Refused(DWORD error, const std::string& done, const std::string& right) {
     const bool isBusy = error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION;
     return {"cannot be " + done + " (" + PlatformText(error) + ")",
-            isBusy ? "close the program that keeps it open" : rights};
+            isBusy ? "close the program that keeps it open"
+                   : "give the operators the right to " + right + " it"};
 }
 
-Trouble FolderInPlace() {
-    return {"a folder has this name", "remove the folder"};
-}
-
-Trouble ReadOnly() {
-    return {"read-only", "take this attribute away (attrib -r)"};
-}
-
-bool IsReadOnly(const std::string& path) {
-    const DWORD attributes = GetFileAttributesA(path.c_str());
-    constexpr DWORD isFolder = FILE_ATTRIBUTE_DIRECTORY; // for which it means nothing
-    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & isFolder) == 0 &&
-           (attributes & FILE_ATTRIBUTE_READONLY) != 0;
+Trouble FileTrouble(const std::string& path, DWORD error, const char* done, const char* right) {
+    if (FolderExists(path))
+        return {"a folder has this name", "remove the folder"};
+    if (error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND)
+        return {"missing", "put it there"};
+    return Refused(error, done, right);
 }
 
 } // namespace
@@ -64,53 +50,51 @@ bool MayBeFile(const std::string& path) {
     }
 }
 
-std::optional<Trouble> ReadTrouble(const std::string& path, const char* remedyIfMissing) {
-    if (FolderExists(path))
-        return FolderInPlace();
-    const DWORD error = ErrorOfOpening(path, File::Use::Read);
-    if (MeansMissing(error))
-        return Trouble{"missing", remedyIfMissing};
-    if (error != ERROR_SUCCESS)
-        return Refused("read", error, "read");
-    return std::nullopt;
+bool IsMissing(const std::string& path) {
+    return !MayBeFile(path) && !FolderExists(path);
+}
+
+std::optional<Trouble> ReadTrouble(const std::string& path) {
+    try {
+        File(path, File::Use::Read).Close();
+        return std::nullopt;
+    } catch (const RunTimeError& error) {
+        return FileTrouble(path, error.Code(), "read", "read");
+    }
 }
 
 std::optional<std::string> ReadOrAdd(Findings& findings, Effect effect, const std::string& path) {
-    auto trouble = ReadTrouble(path);
     try {
-        if (!trouble)
-            return ReadFileBytes(path);
+        return ReadFileBytes(path);
     } catch (const RunTimeError& error) {
-        trouble = Refused("read", error.Code(), "read");
+        Add(findings, effect, {path}, FileTrouble(path, error.Code(), "read", "read"));
+        return std::nullopt;
     }
-    Add(findings, effect, {path}, *trouble);
-    return std::nullopt;
 }
 
 std::optional<Trouble> WriteTrouble(const std::string& path) {
-    if (FolderExists(path))
-        return FolderInPlace();
-    // Opened so, a missing file would be made.
-    const DWORD error = MayBeFile(path) ? ErrorOfOpening(path, File::Use::Write) : ERROR_SUCCESS;
-    if (error == ERROR_SUCCESS)
+    if (IsReadOnlyFile(path))
+        return Trouble{"read-only", "take this attribute away (attrib -r)"};
+    if (IsMissing(path))
+        return std::nullopt; // opening it for writing would make it
+    try {
+        File(path, File::Use::Write).Close();
         return std::nullopt;
-    return IsReadOnly(path) ? ReadOnly() : Refused("written", error, "modify");
-}
-
-std::optional<Trouble> ReplaceTrouble(const std::string& path) {
-    if (IsReadOnly(path))
-        return ReadOnly();
-    auto trouble = WriteTrouble(path);
-    const bool canBeReplaced = !FolderExists(path) && ErrorOfOpening(path, DELETE, 0) == ERROR_SUCCESS;
-    return canBeReplaced ? std::nullopt : trouble;
+    } catch (const RunTimeError& error) {
+        return FileTrouble(path, error.Code(), "written", "modify");
+    }
 }
 
 std::optional<Trouble> DeleteTrouble(const std::string& path) {
     const DWORD error = ErrorOfOpening(path, DELETE, 0);
-    // A program that keeps it from being deleted closes it again.
-    if (error == ERROR_SUCCESS || error == ERROR_SHARING_VIOLATION)
+    if (error == ERROR_SUCCESS)
         return std::nullopt;
-    return Refused("replaced", error, "modify");
+    return FileTrouble(path, error, "replaced", "modify");
+}
+
+std::optional<Trouble> ReplaceTrouble(const std::string& path) {
+    // A read-only file cannot be replaced either.
+    return IsReadOnlyFile(path) || DeleteTrouble(path) ? WriteTrouble(path) : std::nullopt;
 }
 
 std::optional<Trouble> StartTrouble(const std::string& path) {
@@ -127,9 +111,8 @@ std::optional<Trouble> FolderTrouble(const std::string& path) {
         return Trouble{"a file has the name of this folder", "remove the file"};
     if (!FolderExists(path))
         return Trouble{"this folder is missing", "make it, with what belongs in it"};
-    const DWORD error = ErrorOfNewFilesIn(path);
-    if (error != ERROR_SUCCESS)
-        return Refused("used for new files", error, "modify");
+    if (const DWORD error = ErrorOfNewFilesIn(path); error != ERROR_SUCCESS)
+        return Refused(error, "used for new files", "modify");
     return std::nullopt;
 }
 

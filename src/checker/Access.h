@@ -1,4 +1,4 @@
-// Whether files and folders can be used as the menu uses them, found out without changing them.
+// Finds out without a change whether files and folders can be used as the menu uses them.
 #pragma once
 
 #include "checker/Finding.h"
@@ -8,31 +8,34 @@
 
 namespace obrin {
 
-/// Whether a file has that name; also when that cannot be told, as a look at the file itself then will.
+/// Returns whether there is a file of that name. Also true if Windows cannot tell: opening it then shows why.
 bool MayBeFile(const std::string& path);
 
-/// Nothing for a file that can be read.
-std::optional<Trouble> ReadTrouble(const std::string& path, const char* remedyIfMissing = "put it there");
+/// Returns whether there is neither a file nor a folder of that name.
+bool IsMissing(const std::string& path);
 
-/// The bytes of a file; nothing when it cannot be read, and then `findings` has one about that.
+/// Returns why a file cannot be read; nothing if it can.
+std::optional<Trouble> ReadTrouble(const std::string& path);
+
+/// Returns the bytes of a file. If it cannot be read, adds a finding about that and returns nothing.
 std::optional<std::string> ReadOrAdd(Findings& findings, Effect effect, const std::string& path);
 
-/// Nothing for a file that can be written in place, or made: for one that is missing.
+/// Returns why a file cannot be written in place; nothing if it can, or if it is missing and would be made.
 std::optional<Trouble> WriteTrouble(const std::string& path);
 
-/// The same for a file that is replaced by a new one: a read-only file is not, whatever its users may do.
-std::optional<Trouble> ReplaceTrouble(const std::string& path);
-
-/// Nothing for a file that can be deleted, and so replaced with the old contents kept to the last moment.
+/// Returns why a file cannot be deleted, and so not be replaced by a new one; nothing if it can.
 std::optional<Trouble> DeleteTrouble(const std::string& path);
 
-/// Nothing for a program that Windows can start.
+/// Returns why a file can get no new contents, neither as a new file nor in place; nothing if it can.
+std::optional<Trouble> ReplaceTrouble(const std::string& path);
+
+/// Returns why Windows cannot start a program; nothing if it can.
 std::optional<Trouble> StartTrouble(const std::string& path);
 
-/// Nothing for a folder in which files can be made.
+/// Returns why no files can be made in a folder; nothing if they can.
 std::optional<Trouble> FolderTrouble(const std::string& path);
 
-/// The code of the platform's error; 0 for a folder in which files can be made.
+/// Returns the error of Windows for making files in a folder; 0 if they can be made.
 unsigned long ErrorOfNewFilesIn(const std::string& folder);
 
 } // namespace obrin

@@ -4,15 +4,19 @@
 
 #include <algorithm>
 #include <array>
+#include <cwctype>
 #include <string>
 
 namespace obrin {
 
 namespace {
 
-constexpr std::size_t lineWidth = 60;
+bool IsConsole(DWORD stream) {
+    DWORD mode = 0;
+    return GetConsoleMode(GetStdHandle(stream), &mode) != FALSE;
+}
 
-// Without the characters that would move the cursor or change colours; line ends stay.
+// With "?" in the place of control characters, which could move the cursor or change colours. Line ends stay.
 std::wstring Characters(std::string_view text) {
     std::wstring wide(text.size(), L'\0');
     wide.resize(static_cast<std::size_t>(MultiByteToWideChar(
@@ -20,8 +24,7 @@ std::wstring Characters(std::string_view text) {
     std::ranges::replace_if(
         wide,
         [](wchar_t character) {
-            const bool isControl = character < L' ' || (character >= 0x7F && character < 0xA0);
-            return isControl && character != L'\r' && character != L'\n';
+            return std::iswcntrl(character) != 0 && character != L'\r' && character != L'\n';
         },
         L'?');
     return wide;
@@ -29,47 +32,33 @@ std::wstring Characters(std::string_view text) {
 
 } // namespace
 
-Stream::Stream(DWORD which)
-    : handle(GetStdHandle(which)) {
-    DWORD mode = 0;
-    isConsole = GetConsoleMode(handle, &mode) != FALSE;
-}
-
-void Stream::Write(std::string_view text) const {
-    DWORD done = 0;
-    if (isConsole) {
-        constexpr std::size_t most = 8192; // characters that every console takes at once
-        const std::wstring characters = Characters(text);
-        for (std::size_t place = 0; place < characters.size(); place += most) {
-            const auto part = std::wstring_view(characters).substr(place, most);
-            WriteConsoleW(handle, part.data(), static_cast<DWORD>(part.size()), &done, nullptr);
-        }
+void Write(DWORD stream, std::string_view text) {
+    const HANDLE handle = GetStdHandle(stream);
+    DWORD written = 0;
+    if (!IsConsole(stream)) {
+        WriteFile(handle, text.data(), static_cast<DWORD>(text.size()), &written, nullptr);
         return;
     }
-    while (!text.empty() && WriteFile(handle, text.data(), static_cast<DWORD>(text.size()), &done, nullptr))
-        text.remove_prefix(done);
+    constexpr std::size_t most = 8192; // a console takes 64 KB at once
+    const std::wstring characters = Characters(text);
+    for (std::size_t start = 0; start < characters.size(); start += most) {
+        const auto part = std::wstring_view(characters).substr(start, most);
+        WriteConsoleW(handle, part.data(), static_cast<DWORD>(part.size()), &written, nullptr);
+    }
 }
 
-ProgressLine::~ProgressLine() {
-    if (shown)
-        console.Write("\r" + std::string(lineWidth, ' ') + "\r");
+void ShowProgress(std::size_t done, std::size_t all) {
+    static const ULONGLONG start = GetTickCount64();
+    if (GetTickCount64() - start > 1000 && IsConsole(STD_ERROR_HANDLE))
+        Write(STD_ERROR_HANDLE, "\rChecked " + std::to_string(done) + " of " + std::to_string(all) +
+                                    " menu files" + (done == all ? "\r\n" : ""));
 }
 
-void ProgressLine::Show(std::size_t done, std::size_t all) {
-    if (!console.IsConsole() || Clock::now() < due)
-        return;
-    std::string text = "Checked " + std::to_string(done) + " of " + std::to_string(all) + " menu files";
-    text.resize(lineWidth, ' ');
-    console.Write("\r" + text);
-    due = Clock::now() + std::chrono::milliseconds(200);
-    shown = true;
-}
-
-void KeepOwnConsoleOpen(const Stream& output) {
+void KeepOwnConsoleOpen() {
     std::array<DWORD, 2> programs{};
-    if (!output.IsConsole() || GetConsoleProcessList(programs.data(), programs.size()) != 1)
+    if (!IsConsole(STD_OUTPUT_HANDLE) || GetConsoleProcessList(programs.data(), programs.size()) != 1)
         return;
-    output.Write("\r\nPress any key to close this window.\r\n");
+    Write(STD_OUTPUT_HANDLE, "\r\nPress any key to close this window.\r\n");
     _getch();
 }
 

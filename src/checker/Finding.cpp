@@ -1,6 +1,7 @@
 #include "checker/Finding.h"
 
 #include <algorithm>
+#include <iterator>
 #include <tuple>
 #include <utility>
 
@@ -35,6 +36,10 @@ const char* WordsFor(Effect effect) {
 
 void Add(Findings& findings, Effect effect, Place place, Trouble trouble, std::string consequence) {
     findings.push_back({effect, std::move(place), std::move(trouble), std::move(consequence)});
+}
+
+void Add(Findings& findings, Findings more) {
+    std::ranges::move(more, std::back_inserter(findings));
 }
 
 bool IsError(const Finding& finding) {
@@ -73,8 +78,7 @@ std::string OneLine(std::string text) {
 }
 
 std::string Quoted(std::string_view text, LeadByteTest isLeadByte) {
-    constexpr std::size_t most = 200;
-    const auto start = FirstCharacters(text, most, isLeadByte);
+    const auto start = FirstCharacters(text, 200, isLeadByte);
     return std::string(start) + (start.size() < text.size() ? "..." : "");
 }
 

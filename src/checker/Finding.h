@@ -11,18 +11,18 @@ namespace obrin {
 
 /// What the menu does because of a finding.
 enum class Effect {
-    None,            ///< it works, and the finding says what is odd about it
-    EndsEveryStart,  ///< ends with an error
-    EndsShownSystem, ///< ends with an error when it shows the system of the menu file
-    EndsProgramRun,  ///< ends with an error when an operator runs a program
-    EndsProperties,  ///< ends with an error in the Properties dialog of a program
-    WaitsForEver,    ///< starts, and never shows its window
-    FailsForOthers,  ///< one of the above, for another user or on another workstation
+    None,            ///< it works, but something is odd
+    EndsEveryStart,  ///< it ends with an error
+    EndsShownSystem, ///< it ends with an error when it shows the system of the menu file
+    EndsProgramRun,  ///< it ends with an error when an operator runs a program
+    EndsProperties,  ///< it ends with an error in the Properties dialog of a program
+    WaitsForEver,    ///< it starts and never shows its window
+    FailsForOthers,  ///< one of these, for another user or on another workstation
 };
 
 struct Place {
-    std::string file; ///< or folder, or variable
-    int line = 0;     ///< 0 for the file as a whole
+    std::string file; ///< or a folder or a variable
+    int line = 0;     ///< counted from 1; 0 for the file as a whole
 };
 
 struct Trouble {
@@ -34,27 +34,28 @@ struct Finding {
     Effect effect;
     Place place;
     Trouble trouble;
-    std::string consequence; ///< the effect's own words when empty
+    std::string consequence; ///< if empty, the report has words for the effect
 };
 
 using Findings = std::vector<Finding>;
 
 void Add(Findings& findings, Effect effect, Place place, Trouble trouble, std::string consequence = {});
+void Add(Findings& findings, Findings more);
 
-/// The dialog opens for one program at a time: alone, what ends it is a warning.
+/// Returns whether a finding stops more than the Properties dialog of some programs. Others are warnings.
 bool IsError(const Finding& finding);
 bool HasErrors(const Findings& findings);
 
-/// In the order of files and lines: "FILE:LINE: error: PROBLEM: CONSEQUENCE; REMEDY". Each is one line.
+/// Returns the lines "FILE:LINE: error: PROBLEM: CONSEQUENCE; REMEDY", sorted by file and line.
 std::string Report(Findings findings);
 
-/// "2 errors, 1 warning in 5 menu files (DETAILS)".
+/// Returns the line "2 errors, 1 warning in 5 menu files (DETAILS)".
 std::string Summary(const Findings& findings, std::size_t menuFiles, std::string_view details);
 
-/// With "?" in the place of control characters, so that it is one line and moves no cursor.
+/// Replaces control characters by "?", so that the text is one line and moves no cursor.
 std::string OneLine(std::string text);
 
-/// A quotation from a file, of 200 characters at most.
+/// Shortens a quotation from a file to 200 characters and "...".
 std::string Quoted(std::string_view text, LeadByteTest isLeadByte);
 
 } // namespace obrin

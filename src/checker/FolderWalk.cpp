@@ -18,16 +18,14 @@
 
 #include <algorithm>
 #include <array>
-#include <iterator>
 #include <map>
+#include <optional>
 #include <set>
 #include <utility>
 
 namespace obrin {
 
 namespace {
-
-constexpr Machine ownMachine = sizeof(void*) == 8 ? Machine::Bits64 : Machine::Bits32;
 
 class Walk {
 public:
@@ -51,27 +49,18 @@ public:
 
 private:
     void FindMenuFiles() {
-        const std::string notListed = "the menu does not list this system";
-        for (const auto& [name, isFolder, isHidden] : ListFolder(folder)) {
-            const std::string path = base + name;
-            present.insert(UpperCase(name));
-            const bool isMenuFile = IsMenuFileName(name);
-            if (!IsMenuFileNameInAnyCase(name))
+        for (const FolderEntry& entry : ListFolder(folder)) {
+            present.insert(UpperCase(entry.name));
+            if (!IsMenuFileNameInAnyCase(entry.name))
                 continue;
-            if (isFolder) {
-                Add(findings, Effect::None, {path},
-                    {"a folder", "remove it, or put the menu file in its place"}, notListed);
-                continue;
-            }
-            menuFiles.push_back({path, isMenuFile && !isHidden});
-            if (menuFiles.back().isShown)
-                names.push_back(name);
-            else if (isMenuFile)
-                Add(findings, Effect::None, {path},
-                    {"hidden or a system file", "take the attribute away (attrib -h -s)"}, notListed);
+            const std::string path = base + entry.name;
+            const auto trouble = ListingTrouble(entry);
+            if (trouble)
+                Add(findings, Effect::None, {path}, *trouble, "the menu does not list this system");
             else
-                Add(findings, Effect::None, {path},
-                    {"the name does not end in .mnu in small letters", "rename the file"}, notListed);
+                names.push_back(entry.name);
+            if (!entry.isFolder)
+                menuFiles.push_back({path, !trouble});
         }
         if (names.empty())
             Add(findings, Effect::EndsEveryStart, {folder},
@@ -83,11 +72,21 @@ private:
         std::ranges::sort(names);
     }
 
+    static std::optional<Trouble> ListingTrouble(const FolderEntry& entry) {
+        if (entry.isFolder)
+            return Trouble{"a folder", "remove it, or put the menu file in its place"};
+        if (entry.isHidden)
+            return Trouble{"hidden or a system file", "take the attribute away (attrib -h -s)"};
+        if (!IsMenuFileName(entry.name))
+            return Trouble{"the name does not end in .mnu in small letters", "rename the file"};
+        return std::nullopt;
+    }
+
     void CheckSystemCodes() {
         std::map<std::string, std::string> nameOfCode;
         for (const auto& name : names) {
             const std::string code(SystemCode(name, isLeadByte));
-            // As the host is told it.
+            // The menu types it into the host in capitals.
             if (const auto [first, isNew] = nameOfCode.try_emplace(UpperCase(code), name); !isNew)
                 Add(findings, Effect::None, {base + name},
                     {"the system code " + code + " is that of " + first->second + " too", "rename one file"},
@@ -134,14 +133,16 @@ private:
                 "the host may not find it by the drive line of FennConfig.Sys");
 
         const std::string path = base + hostConfigurationFile;
-        if (const auto trouble =
-                ReadTrouble(path, "restore the file, or start the menu in the host's folder")) {
-            Add(findings, Effect::EndsEveryStart, {path}, *trouble,
-                MayBeFile(path) ? "" : "the menu ends at every start with \"Config File Not found!\"");
+        if (!MayBeFile(path)) {
+            const Trouble missing{"missing", "restore the file, or start the menu in the host's folder"};
+            Add(findings, Effect::EndsEveryStart, {path}, IsMissing(path) ? missing : *ReadTrouble(path),
+                "the menu ends at every start with \"Config File Not found!\"");
             return;
         }
-        const std::string bytes = ReadFileBytes(path);
-        const bool isRight = AddDriveLine(shortFolder, BlankDriveLines(bytes, UpperCase)) == bytes;
+        const auto bytes = ReadOrAdd(findings, Effect::EndsEveryStart, path);
+        if (!bytes)
+            return;
+        const bool isRight = AddDriveLine(shortFolder, BlankDriveLines(*bytes, UpperCase)) == *bytes;
         if (const auto trouble = ReplaceTrouble(path))
             Add(findings, isRight ? Effect::None : Effect::EndsEveryStart, {path}, *trouble,
                 "the menu ends with an error at a start that finds another folder in it");
@@ -150,45 +151,45 @@ private:
                 "the menu writes over it, which a lost connection may cut off in the middle");
     }
 
-    // The menu may lie in another folder than the host's: then this program lies there, too.
+    // The menu may lie in another folder than the host. Then this program lies beside the menu.
+    std::string ProgramFolder() const {
+        const bool isBesideThis = !MayBeFile(base + menuProgram) && MayBeFile(OwnFolder() + menuProgram);
+        return isBesideThis ? OwnFolder() : base;
+    }
+
     void CheckPrograms() {
         if (const auto trouble = StartTrouble(base + hostProgram))
             Add(findings, Effect::WaitsForEver, {base + hostProgram}, *trouble,
                 "the menu waits for the host for ever");
-        const bool elsewhere = !MayBeFile(base + menuProgram) && MayBeFile(OwnFolder() + menuProgram);
-        programFolder = elsewhere ? OwnFolder() : base;
-        const std::string menu = programFolder + menuProgram;
-        if (const auto trouble = MayBeFile(menu) ? StartTrouble(menu) : std::nullopt)
+        const std::string menu = ProgramFolder() + menuProgram;
+        if (const auto trouble = IsMissing(menu) ? std::nullopt : StartTrouble(menu))
             Add(findings, Effect::WaitsForEver, {menu}, *trouble, "the menu does not start");
     }
 
-    // The menu looks for it in its own folder and in that of Windows.
     void CheckLibrary() {
+        const std::string programFolder = ProgramFolder(), path = programFolder + supportLibraryFile;
         const char* putThere = "put the library there that came with ObrinMenu.exe";
-        const std::string menu = programFolder + menuProgram;
-        const Machine machine =
-            (ReadTrouble(menu) ? std::nullopt : ImageMachine(ReadFileBytes(menu))).value_or(ownMachine);
-        std::string path = programFolder + supportLibraryFile;
-        const std::string ofWindows = SystemFolder(machine == Machine::Bits32) + '\\' + supportLibraryFile;
-        if (!MayBeFile(path) && MayBeFile(ofWindows))
-            path = ofWindows;
-        if (const auto trouble = ReadTrouble(path, putThere)) {
-            Add(findings, Effect::EndsEveryStart, {path}, *trouble);
-        } else if (machine != ownMachine) { // this program cannot load it
-            if (ImageMachine(ReadFileBytes(path)) != machine)
-                Add(findings, Effect::EndsEveryStart, {path},
-                    {"not a library for the bits of ObrinMenu.exe", putThere});
-        } else {
-            try {
+        const std::string machine = MachineOf(programFolder + menuProgram);
+        try {
+            if (machine.empty() || machine == MachineOf(OwnFile())) {
                 const SupportLibrary library(FullPath(programFolder.empty() ? "." : programFolder));
                 FindRememberedSystem(
                     library.GetRegValue(HKEY_LOCAL_MACHINE, menuRegistryKey, lastSystemValue));
-            } catch (const RunTimeError& error) {
-                Add(findings, Effect::EndsEveryStart, {path},
-                    {std::string("cannot be used (") + error.what() + ": " + PlatformText(error.Code()) + ")",
-                     putThere});
+            } else if (MachineOf(path) != machine) { // this program cannot load it
+                throw RunTimeError(PlatformError::InvalidData, "not a library for the bits of ObrinMenu.exe");
             }
+        } catch (const RunTimeError& error) {
+            const std::string reason = std::string(error.what()) + ": " + PlatformText(error.Code());
+            auto trouble = ReadTrouble(path).value_or(Trouble{"cannot be used (" + reason + ")", putThere});
+            if (IsMissing(path))
+                trouble.remedy = putThere;
+            Add(findings, Effect::EndsEveryStart, {path}, trouble);
         }
+    }
+
+    // Empty for a file that is missing or no program.
+    static std::string MachineOf(const std::string& path) {
+        return ReadTrouble(path) ? "" : ImageMachine(ReadFileBytes(path));
     }
 
     // The menu shows it first, also when it does not list it.
@@ -220,10 +221,8 @@ private:
     void CheckSharedFiles() {
         const std::string users = base + userRecordsFile, updated = base + updateRegisterFile;
         const std::string records = CheckSharedFile(users, Effect::EndsEveryStart);
-        std::ranges::move(CheckUserRecords(users, records, LoginName(), isLeadByte),
-                          std::back_inserter(findings));
-        std::ranges::move(CheckUpdateRegister(updated, CheckSharedFile(updated, Effect::EndsProgramRun)),
-                          std::back_inserter(findings));
+        Add(findings, CheckUserRecords(users, records, LoginName(), isLeadByte));
+        Add(findings, CheckUpdateRegister(updated, CheckSharedFile(updated, Effect::EndsProgramRun)));
         const int ownWsid = ScanUserRecords(records, LoginName()).wsid;
         for (int wsid = 1; wsid <= maxWsid; ++wsid) {
             const std::string name = MarkerFileName(wsid);
@@ -236,10 +235,9 @@ private:
         }
     }
 
-    // Returns the bytes of a file that the menu reads and writes; none for one that it makes when it needs
-    // it.
+    // Returns the bytes of a file that the menu reads and writes. The menu makes it if it is missing.
     std::string CheckSharedFile(const std::string& path, Effect effect) {
-        if (!MayBeFile(path) && !FolderExists(path))
+        if (IsMissing(path))
             return "";
         auto bytes = ReadOrAdd(findings, effect, path);
         if (const auto trouble = bytes ? WriteTrouble(path) : std::nullopt)
@@ -268,9 +266,8 @@ private:
                 noCopy + "anything");
     }
 
-    std::string base;          // in front of the names of files
-    std::string folder;        // the same as a folder
-    std::string programFolder; // in front of the names of the menu's program and library
+    std::string base;   // in front of the names of files
+    std::string folder; // the same as a folder
     LeadByteTest isLeadByte = CodePageLeadByteTest();
     std::set<std::string> present;  // names of everything in the folder, in capitals
     std::vector<std::string> names; // of the menu files that the menu lists

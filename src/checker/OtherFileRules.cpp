@@ -4,23 +4,12 @@
 #include "maintenance/UpdateRegister.h"
 #include "startup/UserRecords.h"
 
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
 #include <map>
 
 namespace obrin {
-
-namespace {
-
-// Little-endian; nothing beyond the end.
-std::optional<std::uint32_t> Number(std::string_view bytes, std::size_t place, std::size_t size) {
-    if (place > bytes.size() || bytes.size() - place < size)
-        return std::nullopt;
-    std::uint32_t number = 0;
-    for (std::size_t i = size; i-- > 0;)
-        number = number << 8 | static_cast<unsigned char>(bytes[place + i]);
-    return number;
-}
-
-} // namespace
 
 Findings CheckUserRecords(const std::string& path, std::string_view bytes, std::string_view ownName,
                           LeadByteTest isLeadByte) {
@@ -90,14 +79,15 @@ Findings CheckUpdateRegister(const std::string& path, std::string_view bytes) {
     return findings;
 }
 
-std::optional<Machine> ImageMachine(std::string_view image) {
-    // The header's place is in the bytes at 3C; the machine is behind its signature.
-    const auto header = Number(image, 0x3C, 4).value_or(0);
-    const auto signature = Number(image, header, 4), machine = Number(image, std::size_t{header} + 4, 2);
-    constexpr std::uint32_t pe = 0x4550; // "PE" and two zeros
-    return image.starts_with("MZ") && signature == pe && machine
-               ? std::optional(static_cast<Machine>(*machine))
-               : std::nullopt;
+std::string ImageMachine(std::string_view image) {
+    constexpr std::size_t headerPlace = 0x3C; // of a number of four bytes
+    constexpr std::string_view signature("PE\0\0", 4);
+    std::uint32_t header = 0;
+    if (!image.starts_with("MZ") || image.size() < headerPlace + sizeof header)
+        return {};
+    std::memcpy(&header, image.data() + headerPlace, sizeof header);
+    image.remove_prefix(std::min<std::size_t>(header, image.size()));
+    return std::string(image.starts_with(signature) ? image.substr(signature.size(), 2) : "");
 }
 
 } // namespace obrin

@@ -5,7 +5,6 @@
 #include "checker/MenuFileRules.h"
 #include "checker/SettingsWalk.h"
 #include "platform/Failure.h"
-#include "platform/File.h"
 #include "platform/Folder.h"
 #include "platform/Workstation.h"
 
@@ -16,55 +15,48 @@ namespace obrin {
 
 namespace {
 
-// The menu files that a path without a folder of that name leads to.
+bool IsFolder(const std::string& path) {
+    return path.empty() || FolderExists(path);
+}
+
+// Returns the menu files of a path, whose last part may hold wildcards.
 std::vector<FoundMenuFile> FindMenuFiles(const std::string& path) {
-    const LeadByteTest isLeadByte = CodePageLeadByteTest();
-    const auto nameStart =
-        std::max(FindLastCharacter(path, '\\', isLeadByte) + 1, path.rfind('/') + 1); // npos + 1 is 0
-    std::vector<FoundMenuFile> files;
-    if (path.find_first_of("*?") != std::string::npos) {
-        for (const FolderEntry& entry : ListMatching(path)) {
-            if (!entry.isFolder && IsMenuFileNameInAnyCase(entry.name))
-                files.push_back({path.substr(0, nameStart) + entry.name, true});
-        }
-    } else if (!FileExists(path)) {
+    const auto entries = ListMatching(path);
+    if (entries.empty())
         throw RunTimeError(ERROR_FILE_NOT_FOUND, path);
-    } else if (IsMenuFileNameInAnyCase(path.substr(nameStart))) {
-        files.push_back({path, true});
+    const auto nameStart = std::max(FindLastCharacter(path, '\\', CodePageLeadByteTest()) + 1,
+                                    path.rfind('/') + 1); // npos + 1 is 0
+    std::vector<FoundMenuFile> files;
+    for (const FolderEntry& entry : entries) {
+        if (!entry.isFolder && IsMenuFileNameInAnyCase(entry.name))
+            files.push_back({path.substr(0, nameStart) + entry.name, true});
     }
     if (files.empty())
         throw RunTimeError(PlatformError::InvalidData, path + " is no menu file: its name must end in .mnu");
     return files;
 }
 
-// What a path leads to: an installation, checked but for its menu files, or menu files alone.
-FolderFindings Find(const std::string& path) {
-    return path.empty() || FolderExists(path)
-               ? WalkFolder(path)
-               : FolderFindings{.findings = {}, .menuFiles = FindMenuFiles(path)};
-}
-
 // The faults of a system that the menu does not show here may stop it on other workstations.
 void MakeWarning(Finding& finding) {
+    if (!IsError(finding))
+        return;
     finding.effect = Effect::None;
     finding.consequence = "the menu ends with an error on a workstation that shows this system";
 }
 
 void CheckContents(const FoundMenuFile& file, bool withTree, SettingsWalk& settings, CheckResult& result) {
-    const auto& [path, isShown] = file;
-    const auto bytes = ReadOrAdd(result.findings, Effect::EndsEveryStart, path);
+    const auto bytes = ReadOrAdd(result.findings, Effect::EndsEveryStart, file.path);
     if (!bytes)
         return;
     const CodePage codePage{.isLeadByte = CodePageLeadByteTest(), .isUtf8 = GetACP() == CP_UTF8};
     const MenuDefinition definition = ParseMenuDefinition(*bytes, codePage.isLeadByte);
-    for (Finding& finding : CheckMenuFile(path, *bytes, definition, codePage)) {
-        if (!isShown && IsError(finding))
-            MakeWarning(finding);
-        result.findings.push_back(std::move(finding));
-    }
-    settings.CheckPrograms(path, definition);
+    Findings findings = CheckMenuFile(file.path, *bytes, definition, codePage);
+    if (!file.isShown)
+        std::ranges::for_each(findings, MakeWarning);
+    Add(result.findings, std::move(findings));
+    settings.CheckPrograms(file.path, definition);
     if (withTree)
-        result.trees += OneLine(path) + ": " + MenuTreeText(definition, codePage.isLeadByte);
+        result.trees += OneLine(file.path) + ": " + MenuTreeText(definition, codePage.isLeadByte);
 }
 
 } // namespace
@@ -75,20 +67,24 @@ CheckResult CheckPaths(const std::vector<std::string>& paths, bool withTrees, co
     std::vector<FoundMenuFile> menuFiles;
     for (const auto& path : paths) {
         try {
-            auto found = Find(path);
-            std::ranges::move(found.findings, std::back_inserter(result.findings));
-            std::ranges::move(found.menuFiles, std::back_inserter(menuFiles));
+            if (IsFolder(path)) {
+                auto walk = WalkFolder(path);
+                Add(result.findings, std::move(walk.findings));
+                std::ranges::move(walk.menuFiles, std::back_inserter(menuFiles));
+            } else {
+                std::ranges::move(FindMenuFiles(path), std::back_inserter(menuFiles));
+            }
         } catch (const RunTimeError& error) {
-            result.failures.push_back(OneLine(std::string(error.what()) + ": " + PlatformText(error.Code())));
+            result.failures.push_back(std::string(error.what()) + ": " + PlatformText(error.Code()));
         }
     }
-    if (std::ranges::any_of(paths, [](auto& path) { return path.empty() || FolderExists(path); }))
+    if (std::ranges::any_of(paths, IsFolder))
         settings.CheckTemporaryFolder();
     for (const FoundMenuFile& file : menuFiles) {
-        progress(result.menuFiles++, menuFiles.size());
         CheckContents(file, withTrees, settings, result);
+        progress(++result.menuFiles, menuFiles.size());
     }
-    std::ranges::move(settings.findings, std::back_inserter(result.findings));
+    Add(result.findings, std::move(settings.findings));
     return result;
 }
 

@@ -17,11 +17,11 @@ struct CheckResult {
     std::vector<std::string> failures; ///< of paths that cannot be checked, a line each
 };
 
-/// Called before each menu file, with how many have been checked and how many there are.
+/// Called after each menu file, with how many have been checked and how many there are.
 using Progress = std::function<void(std::size_t done, std::size_t all)>;
 
-/// Checks each path: a folder as an installation, empty for the current one; a file, or every file that fits
-/// a name with wildcards, as a menu file. Changes no file.
+/// Checks each path: a folder as an installation (an empty path is the current folder), a file or every file
+/// of a name with wildcards as a menu file. Changes no file.
 CheckResult CheckPaths(const std::vector<std::string>& paths, bool withTrees, const Progress& progress);
 
 } // namespace obrin

@@ -6,34 +6,29 @@
 #include "platform/Failure.h"
 #include "platform/Folder.h"
 #include "platform/Workstation.h"
-#include "settings/FrameWork.h"
 #include "settings/ProgramSettings.h"
-
-#include <algorithm>
 
 namespace obrin {
 
 namespace {
 
-// The folder in which the platform looks for a path, with its separator; empty for the current folder. Other
-// than for the dialog's walk, "/" separates as well.
-std::string ParentOf(const std::string& path, LeadByteTest isLeadByte) {
-    const std::string_view name = std::string_view(path).substr(0, path.size() - 1); // without a last "\"
-    const auto backslash = FindLastCharacter(name, '\\', isLeadByte), slash = name.rfind('/');
-    auto end = std::max(backslash + 1, slash + 1); // npos + 1 is 0
-    while (end > 1 && path[end - 1] == '/' && (path[end - 2] == '\\' || path[end - 2] == '/'))
-        --end; // several separators are one
-    return path.substr(0, end);
-}
-
-void RequireNewFilesIn(const std::string& folder) {
-    if (const DWORD error = ErrorOfNewFilesIn(folder); error != ERROR_SUCCESS)
-        throw RunTimeError(error, folder);
-}
-
 bool HasDrive(const std::string& path) {
     return path.starts_with("\\\\") ||
            (path.size() > 2 && path[1] == ':' && (path[2] == '\\' || path[2] == '/'));
+}
+
+// New contents are first written to a file beside the settings file, with such an ending.
+bool IsTooLong(const std::string& settingsPath) {
+    constexpr std::size_t ending = std::string_view(".1234567890.tmp").size();
+    return settingsPath.size() >= MAX_PATH || FullPath(settingsPath).size() + ending >= MAX_PATH;
+}
+
+// Returns the folder above one that ends with "\". Empty for the first folder of a path (a drive or a
+// server), which the dialog does not make.
+std::string ParentOf(const std::string& folder, LeadByteTest isLeadByte) {
+    const std::string_view name = std::string_view(folder).substr(0, folder.size() - 1);
+    const auto end = FindLastCharacter(name, '\\', isLeadByte) + 1; // npos + 1 is 0
+    return folder.starts_with("\\\\") && end <= 2 ? "" : folder.substr(0, end);
 }
 
 } // namespace
@@ -41,17 +36,9 @@ bool HasDrive(const std::string& path) {
 SettingsWalk::SettingsWalk()
     : temporaryFolder(EnvironmentVariable(temporaryFolderVariable))
     , isLeadByte(CodePageLeadByteTest()) {
-    // New contents lie beside the file at first, under its name and such an ending.
-    constexpr std::size_t ending = std::string_view(".1234567890.tmp").size();
     const std::string base = temporaryFolder + settingsFolder;
     whyUnusable = WhyNoFileName(HasDrive(temporaryFolder) ? base.substr(2) : base, isLeadByte);
-    try {
-        longestPath = base.size() + MAX_PATH - 1;
-        longestPath -= std::min(longestPath, FullPath(base).size() + ending);
-    } catch (const RunTimeError&) {
-        longestPath = 0;
-    }
-    if (longestPath < base.size() && whyUnusable.empty())
+    if (whyUnusable.empty() && IsTooLong(base))
         whyUnusable = "is too long";
 }
 
@@ -67,7 +54,7 @@ void SettingsWalk::CheckTemporaryFolder() {
              "give it the whole path of a folder"},
             "settings lie in another place for each folder that the menu is started in");
     if (whyUnusable.empty())
-        FolderOf(SettingsPath(temporaryFolder, ""));
+        IsUsable(temporaryFolder + settingsFolder);
     else
         Add(findings, Effect::EndsProperties, {temporaryFolderVariable},
             {"this variable leads to " + Quoted(temporaryFolder, isLeadByte) + ", which " + whyUnusable,
@@ -77,89 +64,30 @@ void SettingsWalk::CheckTemporaryFolder() {
 void SettingsWalk::CheckPrograms(const std::string& menuFile, const MenuDefinition& definition) {
     for (std::size_t i = 0; i < definition.entries.size() && whyUnusable.empty(); ++i) {
         if (const std::string& key = definition.entries[i].key; !key.empty())
-            CheckProgram(menuFile, LineOfEntry(i), key);
+            CheckProgram({menuFile, LineOfEntry(i)}, key);
     }
 }
 
-void SettingsWalk::CheckProgram(const std::string& menuFile, int line, const std::string& key) {
+void SettingsWalk::CheckProgram(const Place& place, const std::string& key) {
     const std::string path = SettingsPath(temporaryFolder, key);
-    const auto report = [&](const char* problem, const char* remedy) {
-        Add(findings, Effect::EndsProperties, {menuFile, line},
-            {"the key " + Quoted(key, isLeadByte) + problem, remedy});
-    };
-    if (path.size() > longestPath) {
-        report(" makes the path of its settings file too long", "shorten the key, or the path in TesselTemp");
-        return;
-    }
-    const Folder& folder = FolderOf(path);
-    if (folder.isMissing)
-        report(" leads to a folder that is missing, and only those at \"\\\" are made",
-               "write \"\\\" in the place of \"/\"");
-    else if (!folder.files.empty() &&
-             folder.files.contains(UpperCase(path.substr(ParentOf(path, isLeadByte).size()))))
+    const std::string folder = path.substr(0, FindLastCharacter(path, '\\', isLeadByte) + 1);
+    const auto slash = key.find('/') == std::string::npos ? std::string::npos : path.rfind('/');
+    if (IsTooLong(path))
+        Add(findings, Effect::EndsProperties, place,
+            {"the key " + Quoted(key, isLeadByte) + " makes the path of its settings file too long",
+             "shorten the key, or the path in TesselTemp"});
+    // Windows takes "/" as a separator, too, but the dialog makes only the folders in front of a "\".
+    else if (slash != std::string::npos && !FolderExists(path.substr(0, slash)))
+        Add(findings, Effect::EndsProperties, place,
+            {"the key " + Quoted(key, isLeadByte) +
+                 " leads to a folder that is missing, and only those at \"\\\" are made",
+             "write \"\\\" in the place of \"/\""});
+    else if (IsUsable(folder) && checked.insert(UpperCase(path)).second)
         CheckSettingsFile(path);
 }
 
-// Many programs share a folder.
-const SettingsWalk::Folder& SettingsWalk::FolderOf(const std::string& settingsPath) {
-    const std::string folder = ParentOf(settingsPath, isLeadByte);
-    const auto [place, isNew] = folders.try_emplace(folder);
-    if (isNew)
-        place->second = Examine(folder, settingsPath);
-    return place->second;
-}
-
-// Follows the dialog on its way along the path, and notes the folders that it would make.
-SettingsWalk::Folder SettingsWalk::Examine(const std::string& folder, const std::string& settingsPath) {
-    std::set<std::string> made;
-    const auto exists = [&](const std::string& path) {
-        return path.empty() || made.contains(path) || FolderExists(path);
-    };
-    std::string troubled = folder;
-    const auto make = [&](const std::string& path) {
-        const std::string parent = ParentOf(path, isLeadByte);
-        troubled = exists(parent) ? path : parent;
-        if (!exists(parent))
-            throw RunTimeError(ERROR_PATH_NOT_FOUND, path);
-        if (MayBeFile(path.substr(0, path.size() - 1)))
-            throw RunTimeError(ERROR_ALREADY_EXISTS, path);
-        if (!made.contains(parent))
-            RequireNewFilesIn(parent.empty() ? "." : parent);
-        made.insert(path);
-    };
-    Folder found;
-    try {
-        EnsurePath(settingsPath, true, {.exists = exists, .create = make, .isLeadByte = isLeadByte});
-        found.isMissing = !exists(folder);
-        if (found.isMissing || made.contains(folder))
-            return found;
-        troubled = folder;
-        RequireNewFilesIn(folder);
-        for (const FolderEntry& entry : ListFolder(folder))
-            found.files.insert(UpperCase(entry.name));
-    } catch (const RunTimeError& error) {
-        ReportFolder(troubled, error.Code());
-    }
-    return found;
-}
-
-void SettingsWalk::ReportFolder(const std::string& folder, unsigned long error) {
-    if (!reported.insert(UpperCase(folder)).second)
-        return;
-    const std::string reason = " (" + PlatformText(error) + ")";
-    if (folder.size() <= temporaryFolder.size() + 1)
-        Add(findings, Effect::EndsProperties, {temporaryFolderVariable},
-            {"this variable leads to " + temporaryFolder + ", which cannot be used" + reason,
-             "make that folder, or correct the variable, without quotation marks"});
-    else
-        Add(findings, Effect::EndsProperties, {folder},
-            {"this folder cannot be made or used" + reason,
-             error == ERROR_ALREADY_EXISTS ? "remove the file of this name"
-                                           : "give the operators the right to modify the one above it"});
-}
-
 void SettingsWalk::CheckSettingsFile(const std::string& path) {
-    if (!reported.insert(UpperCase(path)).second)
+    if (IsMissing(path))
         return;
     const auto bytes = ReadOrAdd(findings, Effect::EndsProperties, path);
     if (!bytes)
@@ -174,6 +102,39 @@ void SettingsWalk::CheckSettingsFile(const std::string& path) {
     if (const auto trouble = ReplaceTrouble(path))
         Add(findings, Effect::EndsProperties, {path}, *trouble,
             "OK and Apply in the Properties dialog end the menu with an error");
+}
+
+// Returns whether the dialog can use a folder, or make it. Reports the one that it cannot.
+bool SettingsWalk::IsUsable(const std::string& folder) {
+    const auto [place, isNew] = usable.try_emplace(UpperCase(folder), false);
+    if (!isNew)
+        return place->second;
+    const std::string parent = ParentOf(folder, isLeadByte);
+    DWORD error = ERROR_SUCCESS;
+    if (FolderExists(folder))
+        error = ErrorOfNewFilesIn(folder);
+    else if (MayBeFile(folder.substr(0, folder.size() - 1)))
+        error = ERROR_ALREADY_EXISTS;
+    else if (parent.empty())
+        error = ERROR_PATH_NOT_FOUND;
+    else
+        return place->second = IsUsable(parent); // and then the dialog makes this one
+    if (error != ERROR_SUCCESS)
+        ReportFolder(folder, error);
+    return place->second = error == ERROR_SUCCESS;
+}
+
+void SettingsWalk::ReportFolder(const std::string& folder, unsigned long error) {
+    const std::string reason = " (" + PlatformText(error) + ")";
+    if (folder.size() <= temporaryFolder.size() + 1)
+        Add(findings, Effect::EndsProperties, {temporaryFolderVariable},
+            {"this variable leads to " + temporaryFolder + ", which cannot be used" + reason,
+             "make that folder, or correct the variable, without quotation marks"});
+    else
+        Add(findings, Effect::EndsProperties, {folder},
+            {"this folder cannot be made or used" + reason,
+             error == ERROR_ALREADY_EXISTS ? "remove the file of this name"
+                                           : "give the operators the right to modify it"});
 }
 
 } // namespace obrin

@@ -5,9 +5,9 @@
 #include "common/Text.h"
 #include "menu/MenuDefinition.h"
 
+#include <map>
 #include <set>
 #include <string>
-#include <unordered_map>
 
 namespace obrin {
 
@@ -16,30 +16,24 @@ class SettingsWalk {
 public:
     SettingsWalk();
 
-    /// The variable itself, and the folders that all settings files need.
+    /// Checks the variable itself, and the folder that all settings files need.
     void CheckTemporaryFolder();
+    /// Checks the settings file of each program of a menu file.
     void CheckPrograms(const std::string& menuFile, const MenuDefinition& definition);
 
     Findings findings;
 
 private:
-    struct Folder {
-        bool isMissing = false;      ///< also when the dialog has made what it makes
-        std::set<std::string> files; ///< in capitals
-    };
-
-    const Folder& FolderOf(const std::string& settingsPath);
-    Folder Examine(const std::string& folder, const std::string& settingsPath);
-    void CheckProgram(const std::string& menuFile, int line, const std::string& key);
+    void CheckProgram(const Place& place, const std::string& key);
     void CheckSettingsFile(const std::string& path);
+    bool IsUsable(const std::string& folder);
     void ReportFolder(const std::string& folder, unsigned long error);
 
     std::string temporaryFolder;
     LeadByteTest isLeadByte;
-    std::string whyUnusable; // the variable's value, for all programs
-    std::size_t longestPath; // of a settings file as the dialog names it, from the variable's value on
-    std::unordered_map<std::string, Folder> folders;
-    std::set<std::string> reported; // folders and files
+    std::string whyUnusable;            // the variable's value, for all programs
+    std::map<std::string, bool> usable; // folders in capitals
+    std::set<std::string> checked;      // settings files in capitals
 };
 
 } // namespace obrin
