@@ -106,19 +106,22 @@ std::optional<Trouble> StartTrouble(const std::string& path) {
     return Trouble{"not a program that Windows can start", "install it again"};
 }
 
+bool HasOtherBits(const std::string& program) {
+    constexpr DWORD ownType = sizeof(void*) == 8 ? SCS_64BIT_BINARY : SCS_32BIT_BINARY;
+    DWORD type = 0;
+    return GetBinaryTypeA(program.c_str(), &type) && type != ownType;
+}
+
 std::optional<Trouble> FolderTrouble(const std::string& path) {
-    if (MayBeFile(path))
+    if (MayBeFile(path.substr(0, path.find_last_not_of('\\') + 1)))
         return Trouble{"a file has the name of this folder", "remove the file"};
     if (!FolderExists(path))
         return Trouble{"this folder is missing", "make it, with what belongs in it"};
-    if (const DWORD error = ErrorOfNewFilesIn(path); error != ERROR_SUCCESS)
-        return Refused(error, "used for new files", "modify");
-    return std::nullopt;
-}
-
-unsigned long ErrorOfNewFilesIn(const std::string& folder) {
     // Without the right to delete in it: users who may modify a folder delete by their right to each file.
-    return ErrorOfOpening(folder, FILE_ADD_FILE, FILE_FLAG_BACKUP_SEMANTICS);
+    const DWORD error = ErrorOfOpening(path, FILE_ADD_FILE, FILE_FLAG_BACKUP_SEMANTICS);
+    if (error == ERROR_SUCCESS)
+        return std::nullopt;
+    return Refused(error, "used for new files", "modify");
 }
 
 } // namespace obrin

@@ -32,10 +32,10 @@ std::optional<Trouble> ReplaceTrouble(const std::string& path);
 /// Returns why Windows cannot start a program; nothing if it can.
 std::optional<Trouble> StartTrouble(const std::string& path);
 
-/// Returns why no files can be made in a folder; nothing if they can.
-std::optional<Trouble> FolderTrouble(const std::string& path);
+/// Returns whether a program has 32 bits and this one 64, or the other way round.
+bool HasOtherBits(const std::string& program);
 
-/// Returns the error of Windows for making files in a folder; 0 if they can be made.
-unsigned long ErrorOfNewFilesIn(const std::string& folder);
+/// Returns why no files can be made in a folder, whose name may end with "\"; nothing if they can.
+std::optional<Trouble> FolderTrouble(const std::string& path);
 
 } // namespace obrin

@@ -34,6 +34,11 @@ const char* WordsFor(Effect effect) {
 
 } // namespace
 
+Trouble VariableTrouble(const std::string& value, const Trouble& ofFolder) {
+    return {"this variable leads to " + value + ": " + ofFolder.problem,
+            ofFolder.remedy + ", or correct the variable"};
+}
+
 void Add(Findings& findings, Effect effect, Place place, Trouble trouble, std::string consequence) {
     findings.push_back({effect, std::move(place), std::move(trouble), std::move(consequence)});
 }

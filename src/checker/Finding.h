@@ -30,6 +30,9 @@ struct Trouble {
     std::string remedy;
 };
 
+/// Returns the trouble of a variable that leads to a folder with a trouble.
+Trouble VariableTrouble(const std::string& value, const Trouble& ofFolder);
+
 struct Finding {
     Effect effect;
     Place place;

@@ -40,7 +40,6 @@ public:
         CheckFolders();
         CheckConfiguration();
         CheckPrograms();
-        CheckLibrary();
         CheckPicture();
         CheckSharedFiles();
         CheckWorkstationUpdate();
@@ -102,15 +101,15 @@ private:
             {ID_USER_SITE, "Obrin User Website"},
             {IDC_LABEL5, "E-Mail us!"},
         }};
-        std::map<std::string, const char*> captionOf; // by document: most are the same for every system
-        for (const auto& [id, caption] : items) {
-            for (const auto& name : names)
-                captionOf.emplace(DocumentOf(id, name, isLeadByte).value_or(""), caption);
-        }
-        for (const auto& [document, caption] : captionOf) {
-            if (const auto trouble = ReadTrouble(base + document))
-                Add(findings, Effect::None, {base + document}, *trouble,
-                    std::string(caption) + " does not open the document");
+        std::set<std::string> documents; // most are the same for every system
+        for (const auto& name : names) {
+            for (const auto& [id, caption] : items) {
+                const std::string document = base + DocumentOf(id, name, isLeadByte).value_or("");
+                const bool isNew = documents.insert(document).second;
+                if (const auto trouble = isNew ? ReadTrouble(document) : std::nullopt)
+                    Add(findings, Effect::None, {document}, *trouble,
+                        std::string(caption) + " does not open the document");
+            }
         }
     }
 
@@ -135,7 +134,8 @@ private:
         const std::string path = base + hostConfigurationFile;
         if (!MayBeFile(path)) {
             const Trouble missing{"missing", "restore the file, or start the menu in the host's folder"};
-            Add(findings, Effect::EndsEveryStart, {path}, IsMissing(path) ? missing : *ReadTrouble(path),
+            Add(findings, Effect::EndsEveryStart, {path},
+                FolderExists(path) ? Trouble{"a folder has this name", "remove the folder"} : missing,
                 "the menu ends at every start with \"Config File Not found!\"");
             return;
         }
@@ -151,45 +151,37 @@ private:
                 "the menu writes over it, which a lost connection may cut off in the middle");
     }
 
-    // The menu may lie in another folder than the host. Then this program lies beside the menu.
-    std::string ProgramFolder() const {
-        const bool isBesideThis = !MayBeFile(base + menuProgram) && MayBeFile(OwnFolder() + menuProgram);
-        return isBesideThis ? OwnFolder() : base;
-    }
-
     void CheckPrograms() {
         if (const auto trouble = StartTrouble(base + hostProgram))
             Add(findings, Effect::WaitsForEver, {base + hostProgram}, *trouble,
                 "the menu waits for the host for ever");
-        const std::string menu = ProgramFolder() + menuProgram;
+        // The menu may lie in another folder than the host. Then this program lies beside the menu.
+        const bool isBesideThis = !MayBeFile(base + menuProgram) && MayBeFile(OwnFolder() + menuProgram);
+        const std::string programFolder = isBesideThis ? OwnFolder() : base;
+        const std::string menu = programFolder + menuProgram;
         if (const auto trouble = IsMissing(menu) ? std::nullopt : StartTrouble(menu))
             Add(findings, Effect::WaitsForEver, {menu}, *trouble, "the menu does not start");
+        if (HasOtherBits(menu))
+            Add(findings, Effect::None, {menu},
+                {"not from the same archive as this ObrinCheck (32 or 64 bits)",
+                 "use the ObrinCheck that came with ObrinMenu.exe"},
+                "Corvel.dll has not been checked");
+        else
+            CheckLibrary(programFolder);
     }
 
-    void CheckLibrary() {
-        const std::string programFolder = ProgramFolder(), path = programFolder + supportLibraryFile;
-        const char* putThere = "put the library there that came with ObrinMenu.exe";
-        const std::string machine = MachineOf(programFolder + menuProgram);
+    void CheckLibrary(const std::string& programFolder) {
+        const std::string path = programFolder + supportLibraryFile;
         try {
-            if (machine.empty() || machine == MachineOf(OwnFile())) {
-                const SupportLibrary library(FullPath(programFolder.empty() ? "." : programFolder));
-                FindRememberedSystem(
-                    library.GetRegValue(HKEY_LOCAL_MACHINE, menuRegistryKey, lastSystemValue));
-            } else if (MachineOf(path) != machine) { // this program cannot load it
-                throw RunTimeError(PlatformError::InvalidData, "not a library for the bits of ObrinMenu.exe");
-            }
+            const SupportLibrary library(FullPath(programFolder.empty() ? "." : programFolder));
+            FindRememberedSystem(library.GetRegValue(HKEY_LOCAL_MACHINE, menuRegistryKey, lastSystemValue));
         } catch (const RunTimeError& error) {
             const std::string reason = std::string(error.what()) + ": " + PlatformText(error.Code());
-            auto trouble = ReadTrouble(path).value_or(Trouble{"cannot be used (" + reason + ")", putThere});
-            if (IsMissing(path))
-                trouble.remedy = putThere;
-            Add(findings, Effect::EndsEveryStart, {path}, trouble);
+            const char* remedy = "put the library there that came with ObrinMenu.exe";
+            const Trouble unusable{"cannot be used (" + reason + ")", remedy};
+            Add(findings, Effect::EndsEveryStart, {path},
+                IsMissing(path) ? Trouble{"missing", remedy} : ReadTrouble(path).value_or(unusable));
         }
-    }
-
-    // Empty for a file that is missing or no program.
-    static std::string MachineOf(const std::string& path) {
-        return ReadTrouble(path) ? "" : ImageMachine(ReadFileBytes(path));
     }
 
     // The menu shows it first, also when it does not list it.
@@ -221,7 +213,7 @@ private:
     void CheckSharedFiles() {
         const std::string users = base + userRecordsFile, updated = base + updateRegisterFile;
         const std::string records = CheckSharedFile(users, Effect::EndsEveryStart);
-        Add(findings, CheckUserRecords(users, records, LoginName(), isLeadByte));
+        Add(findings, CheckUserRecords(users, records, LoginName()));
         Add(findings, CheckUpdateRegister(updated, CheckSharedFile(updated, Effect::EndsProgramRun)));
         const int ownWsid = ScanUserRecords(records, LoginName()).wsid;
         for (int wsid = 1; wsid <= maxWsid; ++wsid) {
@@ -260,9 +252,7 @@ private:
                 {"this variable is not set here", "set it on every workstation"},
                 "the update of a workstation copies to the root of the current drive");
         else if (const auto trouble = FolderTrouble(local))
-            Add(findings, Effect::None, {localHostVariable},
-                {"this variable leads to " + local + ": " + trouble->problem,
-                 trouble->remedy + ", or correct the variable"},
+            Add(findings, Effect::None, {localHostVariable}, VariableTrouble(local, *trouble),
                 noCopy + "anything");
     }
 

@@ -12,7 +12,8 @@ namespace {
 
 constexpr std::string_view utf8Mark = "\xEF\xBB\xBF";
 
-// Whether text is well-formed UTF-8. Text of another code page with letters beyond ASCII hardly ever is.
+// Returns whether text is well-formed UTF-8. Text of another code page with letters beyond ASCII hardly ever
+// is.
 bool IsUtf8(std::string_view text) {
     std::size_t more = 0; // bytes of the character that has begun
     for (const char letter : text) {
@@ -67,20 +68,24 @@ bool NamesDevice(std::string_view part) {
     return isPort || std::ranges::find(devices, name) != devices.end();
 }
 
-struct Checker {
+struct MenuFileCheck {
     const std::string& path;
     std::string_view bytes;
     const MenuDefinition& definition;
     const CodePage& codePage;
     Findings findings = {};
 
-    Findings Check() {
+    Findings Run() {
         CheckHeader();
         CheckBytes();
         CheckHeadings();
         CheckKeys();
         CheckFaults();
         return std::move(findings);
+    }
+
+    void Warn(int line, Trouble trouble, std::string consequence) {
+        Add(findings, Effect::None, {path, line}, std::move(trouble), std::move(consequence));
     }
 
     std::string Quote(std::string_view text) const { return Quoted(text, codePage.isLeadByte); }
@@ -90,14 +95,13 @@ struct Checker {
             return;
         const bool utf16 = bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF");
         if (utf16 || bytes.starts_with(utf8Mark))
-            Add(findings, Effect::None, {path, 1},
-                {std::string("a byte-order mark of ") + (utf16 ? "UTF-16" : "UTF-8"),
-                 codePage.isUtf8 ? "save the file as UTF-8 without it" : "save the file as ANSI text"},
-                "the menu takes it for letters of the title");
+            Warn(1,
+                 {std::string("a byte-order mark of ") + (utf16 ? "UTF-16" : "UTF-8"),
+                  codePage.isUtf8 ? "save the file as UTF-8 without it" : "save the file as ANSI text"},
+                 "the menu takes it for letters of the title");
         if (TrimBlanks(definition.title).empty())
-            Add(findings, Effect::None, {path, 1},
-                {"the title is empty", "write it in front of the first \"^\""},
-                "the System List shows this system without a name");
+            Warn(1, {"the title is empty", "write it in front of the first \"^\""},
+                 "the System List shows this system without a name");
     }
 
     // Of each kind only the first line is reported.
@@ -112,17 +116,15 @@ struct Checker {
                 keepFirst(IsUtf8(*line) ? utf8 : notUtf8);
         }
         if (loneLineFeed != 0)
-            Add(findings, Effect::None, {path, loneLineFeed},
-                {"a line end of LF alone", "save the file with line ends of CR LF"},
-                "the menu reads on as if there were none");
+            Warn(loneLineFeed, {"a line end of LF alone", "save the file with line ends of CR LF"},
+                 "the menu reads on as if there were none");
         const char* otherLetters = "the menu shows other letters than are meant";
         if (codePage.isUtf8 && notUtf8 != 0)
-            Add(findings, Effect::None, {path, notUtf8},
-                {"text that is not UTF-8", "save the file as UTF-8, the code page of this workstation"},
-                otherLetters);
+            Warn(notUtf8,
+                 {"text that is not UTF-8", "save the file as UTF-8, the code page of this workstation"},
+                 otherLetters);
         if (!codePage.isUtf8 && utf8 != 0 && notUtf8 == 0)
-            Add(findings, Effect::None, {path, utf8}, {"text in UTF-8", "save the file as ANSI text"},
-                otherLetters);
+            Warn(utf8, {"text in UTF-8", "save the file as ANSI text"}, otherLetters);
     }
 
     void CheckHeadings() {
@@ -139,13 +141,13 @@ struct Checker {
         for (std::size_t i = 0; i < entries.size(); ++i) {
             const auto parent = static_cast<std::size_t>(entries[i].parent);
             if (IsEmptyLine(i))
-                Add(findings, Effect::None, {path, LineOfEntry(i)}, {"an empty line", "remove it"},
-                    "the menu shows it as a heading without text");
+                Warn(LineOfEntry(i), {"an empty line", "remove it"},
+                     "the menu shows it as a heading without text");
             else if (!used[i + 1] && used[parent]) // only the outermost of headings within each other
-                Add(findings, Effect::None, {path, LineOfEntry(i)},
-                    {"the heading \"" + Quote(entries[i].text) + "\" holds no program",
-                     "put programs below it, or remove it"},
-                    "operators open it in vain");
+                Warn(LineOfEntry(i),
+                     {"the heading \"" + Quote(entries[i].text) + "\" holds no program",
+                      "put programs below it, or remove it"},
+                     "operators open it in vain");
         }
     }
 
@@ -156,24 +158,24 @@ struct Checker {
 
     void CheckKeys() {
         for (std::size_t i = 0; i < definition.entries.size(); ++i) {
-            const std::string& key = definition.entries[i].key;
-            if (key.empty())
-                continue;
-            const Place place{path, LineOfEntry(i)};
-            const auto parts = PathParts(key, codePage.isLeadByte);
-            if (std::ranges::find(parts, "..") != parts.end())
-                Add(findings, Effect::None, place,
-                    {"the key " + Quote(key) + " holds \"..\"", "write the program's path without it"},
-                    "the program's settings file may lie outside of the folder for these");
-            if (const auto reason = WhyNoFileName(key, codePage.isLeadByte); !reason.empty())
-                Add(findings, Effect::EndsProperties, place,
-                    {"the key " + Quote(key) + ' ' + reason,
-                     "name the program by a path from the host's folder on, of letters and digits"});
-            if (TrimBlanks(key).size() != key.size())
-                Add(findings, Effect::None, place,
-                    {"the key " + Quote(key) + " begins or ends with a blank", "remove it"},
-                    "the blank is typed into the host too");
+            if (!definition.entries[i].key.empty())
+                CheckKey(LineOfEntry(i), definition.entries[i].key);
         }
+    }
+
+    void CheckKey(int line, const std::string& key) {
+        const std::string theKey = "the key " + Quote(key);
+        const auto parts = PathParts(key, codePage.isLeadByte);
+        if (std::ranges::find(parts, "..") != parts.end())
+            Warn(line, {theKey + " holds \"..\"", "write the program's path without it"},
+                 "the program's settings file may lie outside of the folder for these");
+        if (const auto reason = WhyNoFileName(key, codePage.isLeadByte); !reason.empty())
+            Add(findings, Effect::EndsProperties, {path, line},
+                {theKey + ' ' + reason,
+                 "name the program by a path from the host's folder on, of letters and digits"});
+        if (TrimBlanks(key).size() != key.size())
+            Warn(line, {theKey + " begins or ends with a blank", "remove it"},
+                 "the blank is typed into the host too");
     }
 
     void CheckFaults() {
@@ -190,8 +192,8 @@ struct Checker {
         }
     }
 
-    // The last heading of depth 0 above an entry without its heading, when that is an empty line; otherwise
-    // 0.
+    // Returns the line of the last top-level heading above an entry without its heading, if that is an empty
+    // line; otherwise 0.
     int EmptyLineAbove(const MenuFault& fault) const {
         if (fault.kind != MenuFault::Kind::NoHeading)
             return 0;
@@ -212,7 +214,7 @@ bool IsMenuFileNameInAnyCase(std::string_view name) {
 
 Findings CheckMenuFile(const std::string& path, std::string_view bytes, const MenuDefinition& definition,
                        const CodePage& codePage) {
-    return Checker{path, bytes, definition, codePage}.Check();
+    return MenuFileCheck{path, bytes, definition, codePage}.Run();
 }
 
 std::string WhyNoFileName(std::string_view key, LeadByteTest isLeadByte) {

@@ -16,23 +16,21 @@ struct CodePage {
     bool isUtf8 = false;
 };
 
-/// Whether somebody may take a file of this name for a menu file. The menu does when it ends in small
-/// letters.
+/// Returns whether a file name ends with ".mnu" in any case. The menu lists only those in small letters.
 bool IsMenuFileNameInAnyCase(std::string_view name);
 
-/// What is wrong, with an error when, and only when, the menu refuses the file.
+/// Returns what is wrong or odd. There is an error if, and only if, the menu refuses the file.
 Findings CheckMenuFile(const std::string& path, std::string_view bytes, const MenuDefinition& definition,
                        const CodePage& codePage);
 
-/// Why no file of Windows can have the name that a program key leads to, such as "holds the character *";
-/// empty when one can.
+/// Returns why Windows can have no settings file for a key, such as "holds the character *"; empty if it can.
 std::string WhyNoFileName(std::string_view key, LeadByteTest isLeadByte);
 
-/// The title as the System List shows it, and behind the numbers of their lines the entries as the tree shows
-/// them, with keys in brackets.
+/// Returns the title, and a line for each entry: its line number, its text as the tree shows it, and its key
+/// in brackets.
 std::string MenuTreeText(const MenuDefinition& definition, LeadByteTest isLeadByte);
 
-/// The line of an entry, counted from 1.
+/// Returns the line of an entry, counted from 1.
 constexpr int LineOfEntry(std::size_t index) {
     return static_cast<int>(index) + 2;
 }

@@ -4,39 +4,32 @@
 #include "maintenance/UpdateRegister.h"
 #include "startup/UserRecords.h"
 
-#include <algorithm>
 #include <cstdint>
-#include <cstring>
 #include <map>
 
 namespace obrin {
 
-Findings CheckUserRecords(const std::string& path, std::string_view bytes, std::string_view ownName,
-                          LeadByteTest isLeadByte) {
+Findings CheckUserRecords(const std::string& path, std::string_view bytes, std::string_view ownName) {
     Findings findings;
-    const auto quoted = [&](std::string_view name) { return Quoted(name, isLeadByte); };
-
     const auto records = ReadUserRecords(bytes);
-    std::map<std::string_view, std::size_t> lastOfUser; // record, counted from 1
+    std::map<std::string, std::size_t> lastOfUser; // record, counted from 1
     for (std::size_t i = 1; i <= records.size(); ++i) {
-        const std::string_view name = records[i - 1].name;
+        const std::string name(records[i - 1].name);
         const auto [earlier, isNew] = lastOfUser.try_emplace(name, i);
         if (!isNew)
             Add(findings, Effect::None, {path},
-                {"the user " + quoted(name) + " has the records " + std::to_string(earlier->second) +
-                     " and " + std::to_string(i),
+                {"the user " + name + " has the records " + std::to_string(earlier->second) + " and " +
+                     std::to_string(i),
                  "remove the others"},
                 "the last one counts");
         earlier->second = i;
     }
-    std::map<std::int16_t, std::string_view> userOfNumber;
-    // Windows tells a user's name as it was typed to sign in.
-    std::map<std::string, std::string_view> userInAnyCase;
+    std::map<std::int16_t, std::string> userOfNumber;
+    std::map<std::string, std::string> userInAnyCase; // Windows may report a name as it was typed
     for (const auto& [name, record] : lastOfUser) {
         const auto wsid = records[record - 1].wsid;
         const std::string number = "the workstation number " + std::to_string(wsid);
-        const Trouble given{"record " + std::to_string(record) + " gives the user " + quoted(name) + ' ' +
-                                number,
+        const Trouble given{"record " + std::to_string(record) + " gives the user " + name + ' ' + number,
                             "remove the record, and the menu asks"};
         if (wsid < 0)
             Add(findings, name == TrimBlanks(ownName) ? Effect::WaitsForEver : Effect::FailsForOthers, {path},
@@ -48,8 +41,7 @@ Findings CheckUserRecords(const std::string& path, std::string_view bytes, std::
         if (!isNewName) {
             if (records[lastOfUser.at(spelling->second) - 1].wsid != wsid)
                 Add(findings, Effect::None, {path},
-                    {"the users " + quoted(spelling->second) + " and " + quoted(name) +
-                         " differ in case alone",
+                    {"the users " + spelling->second + " and " + name + " differ in case alone",
                      "give both records the same number"},
                     "Windows takes them for one user, whose number depends on how the name is typed");
             continue; // one user has one number
@@ -57,7 +49,7 @@ Findings CheckUserRecords(const std::string& path, std::string_view bytes, std::
         const auto [other, isNewNumber] = userOfNumber.try_emplace(wsid, name);
         if (!isNewNumber && wsid >= 1 && wsid <= maxWsid)
             Add(findings, Effect::None, {path},
-                {"the users " + quoted(other->second) + " and " + quoted(name) + " both have " + number,
+                {"the users " + other->second + " and " + name + " both have " + number,
                  "remove one's record, and the menu asks"},
                 "they cannot work at the same time");
     }
@@ -77,17 +69,6 @@ Findings CheckUpdateRegister(const std::string& path, std::string_view bytes) {
              "cut the file to " + std::to_string(bytes.size() - rest) + " bytes"},
             "the next workstation that is updated overwrites it");
     return findings;
-}
-
-std::string ImageMachine(std::string_view image) {
-    constexpr std::size_t headerPlace = 0x3C; // of a number of four bytes
-    constexpr std::string_view signature("PE\0\0", 4);
-    std::uint32_t header = 0;
-    if (!image.starts_with("MZ") || image.size() < headerPlace + sizeof header)
-        return {};
-    std::memcpy(&header, image.data() + headerPlace, sizeof header);
-    image.remove_prefix(std::min<std::size_t>(header, image.size()));
-    return std::string(image.starts_with(signature) ? image.substr(signature.size(), 2) : "");
 }
 
 } // namespace obrin

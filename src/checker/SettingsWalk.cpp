@@ -104,37 +104,21 @@ void SettingsWalk::CheckSettingsFile(const std::string& path) {
             "OK and Apply in the Properties dialog end the menu with an error");
 }
 
-// Returns whether the dialog can use a folder, or make it. Reports the one that it cannot.
+// Returns whether the dialog can use a folder, or make it. Reports the one that it cannot use.
 bool SettingsWalk::IsUsable(const std::string& folder) {
     const auto [place, isNew] = usable.try_emplace(UpperCase(folder), false);
     if (!isNew)
         return place->second;
     const std::string parent = ParentOf(folder, isLeadByte);
-    DWORD error = ERROR_SUCCESS;
-    if (FolderExists(folder))
-        error = ErrorOfNewFilesIn(folder);
-    else if (MayBeFile(folder.substr(0, folder.size() - 1)))
-        error = ERROR_ALREADY_EXISTS;
-    else if (parent.empty())
-        error = ERROR_PATH_NOT_FOUND;
-    else
-        return place->second = IsUsable(parent); // and then the dialog makes this one
-    if (error != ERROR_SUCCESS)
-        ReportFolder(folder, error);
-    return place->second = error == ERROR_SUCCESS;
-}
-
-void SettingsWalk::ReportFolder(const std::string& folder, unsigned long error) {
-    const std::string reason = " (" + PlatformText(error) + ")";
-    if (folder.size() <= temporaryFolder.size() + 1)
+    if (!parent.empty() && IsMissing(folder.substr(0, folder.size() - 1)))
+        return place->second = IsUsable(parent); // the dialog then makes this one
+    const auto trouble = FolderTrouble(folder);
+    if (trouble && folder.size() <= temporaryFolder.size() + 1)
         Add(findings, Effect::EndsProperties, {temporaryFolderVariable},
-            {"this variable leads to " + temporaryFolder + ", which cannot be used" + reason,
-             "make that folder, or correct the variable, without quotation marks"});
-    else
-        Add(findings, Effect::EndsProperties, {folder},
-            {"this folder cannot be made or used" + reason,
-             error == ERROR_ALREADY_EXISTS ? "remove the file of this name"
-                                           : "give the operators the right to modify it"});
+            VariableTrouble(temporaryFolder, *trouble));
+    else if (trouble)
+        Add(findings, Effect::EndsProperties, {folder}, *trouble);
+    return place->second = !trouble;
 }
 
 } // namespace obrin

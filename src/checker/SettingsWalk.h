@@ -27,7 +27,6 @@ private:
     void CheckProgram(const Place& place, const std::string& key);
     void CheckSettingsFile(const std::string& path);
     bool IsUsable(const std::string& folder);
-    void ReportFolder(const std::string& folder, unsigned long error);
 
     std::string temporaryFolder;
     LeadByteTest isLeadByte;

@@ -27,14 +27,6 @@ std::string LoginName() {
     return buffer.data();
 }
 
-std::string SystemFolder(bool of32Bits) {
-    std::array<char, MAX_PATH> buffer{};
-    // 32-bit Windows has only one system folder.
-    if (!of32Bits || GetSystemWow64DirectoryA(buffer.data(), buffer.size()) == 0)
-        GetSystemDirectoryA(buffer.data(), buffer.size());
-    return buffer.data();
-}
-
 std::string OwnFile() {
     std::array<char, MAX_PATH> path;
     return {path.data(), GetModuleFileNameA(nullptr, path.data(), path.size())};

@@ -16,9 +16,6 @@ LeadByteTest CodePageLeadByteTest();
 /// Returns the name of the Windows user, at most 99 bytes; empty if Windows does not return it.
 std::string LoginName();
 
-/// Returns the system folder of Windows for 32-bit programs or for native programs.
-std::string SystemFolder(bool of32Bits);
-
 /// Returns the path of the running program.
 std::string OwnFile();
 

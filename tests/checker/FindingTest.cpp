@@ -15,16 +15,6 @@ TEST(Finding, IsReportedInTheOrderOfFilesAndLines) {
         "r\r\n");
 }
 
-TEST(Finding, IsAnErrorWhenItStopsTheMenu) {
-    EXPECT_EQ(Report({{Effect::EndsProgramRun, {"A", 0}, {"p", "r"}, ""}}),
-              "A: error: p: the menu ends with an error when an operator runs a program; r\r\n");
-}
-
-TEST(Finding, IsAWarningWhenItStopsOneDialog) {
-    EXPECT_EQ(Report({{Effect::EndsProperties, {"A", 0}, {"p", "r"}, ""}}),
-              "A: warning: p: the Properties dialog ends the menu with an error; r\r\n");
-}
-
 TEST(Finding, IsOneLineWhateverItNames) {
     EXPECT_EQ(Report({{Effect::None, {"A\x1B", 0}, {"p\r\n\x7F\xE4", "r"}, "c"}}),
               "A?: warning: p???\xE4: c; r\r\n");

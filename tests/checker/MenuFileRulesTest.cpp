@@ -26,30 +26,10 @@ std::vector<std::string> Problems(Findings findings) {
 
 using Lines = std::vector<std::string>;
 
-TEST(MenuFileRules, FindNothingInAGoodFile) {
-    EXPECT_EQ(Problems(Check("T\r\nA^K\r\nB\r\n>C^L\xE4")), Lines{});
-}
-
-TEST(MenuFileRules, NameEveryEntryWithoutItsHeading) {
-    const std::string noHeading = "there is no heading one level above this entry";
-    EXPECT_EQ(Problems(Check("T\r\n>A^K\r\nB\r\n>C^M\r\n>>>D^N")),
-              (Lines{"2 " + noHeading, "5 " + noHeading}));
-}
-
-TEST(MenuFileRules, NameTheEmptyLineThatClosesTheHeadings) {
-    EXPECT_EQ(Problems(Check("T\r\nA\r\n>B\r\n>>C^K\r\n\r\n>>D^L")),
-              (Lines{"5 an empty line", "6 there is no heading one level above this entry: the empty line 5 "
-                                        "has closed the headings above it"}));
-}
-
 TEST(MenuFileRules, BlameNoEmptyLineAboveAnotherHeading) {
     EXPECT_EQ(Problems(Check("T\r\n\r\nA\r\n>>B^K")),
               (Lines{"2 an empty line", "3 the heading \"A\" holds no program",
                      "4 there is no heading one level above this entry"}));
-}
-
-TEST(MenuFileRules, NameTheFirstLineOfAKey) {
-    EXPECT_EQ(Problems(Check("T\r\nA^K\r\nB^L\r\nC^K")), Lines{"4 the key K is there already, in line 2"});
 }
 
 TEST(MenuFileRules, ReadDoubleByteCharactersAsOne) {
@@ -59,10 +39,6 @@ TEST(MenuFileRules, ReadDoubleByteCharactersAsOne) {
 TEST(MenuFileRules, NameTheOutermostHeadingWithoutPrograms) {
     EXPECT_EQ(Problems(Check("T\r\nA\r\n>B\r\n>>C\r\nD\r\n>E^K\r\n>F")),
               (Lines{"2 the heading \"A\" holds no program", "7 the heading \"F\" holds no program"}));
-}
-
-TEST(MenuFileRules, WarnOfEmptyTitles) {
-    EXPECT_EQ(Problems(Check("\r\nA^K")), Lines{"1 the title is empty"});
 }
 
 TEST(MenuFileRules, WarnOfTheFirstLoneLineFeed) {

@@ -127,6 +127,54 @@ TEST(Checker, PredictsTheMenuWithFaultySettings) {
     Compare(FaultySettings());
 }
 
+void ExpectLine(const Findings& findings, const std::string& line) {
+    const std::string report = Report(findings);
+    EXPECT_NE(report.find(line + "\r\n"), std::string::npos) << line << '\n' << report;
+}
+
+TEST(Checker, PredictsTheMenuWithTooManySystems) {
+    const SoundInstallation installation;
+    for (int i = 1; i <= 99; ++i) // beside UB.mnu
+        WriteFileBytes(std::to_string(i) + ".mnu", "T");
+    const Findings findings = Check();
+    ExpectLine(findings,
+               ".mnu: error: at most 99 menu files are allowed, and this is one more: the menu ends "
+               "with an error at every start; remove those that nobody uses");
+    EXPECT_EQ(TryMenu(Predicted(findings)), Effect::EndsEveryStart);
+}
+
+TEST(Checker, WarnsOfAFolderWithoutAShortForm) {
+    const SoundInstallation installation;
+    std::string deep = "deep";
+    while (FullPath(deep).size() <= 200) // the short form may have 163 characters
+        deep += "\\deeper";
+    std::filesystem::create_directories(deep);
+    ExpectLine(CheckPaths({deep}, false, [](std::size_t, std::size_t) {}).findings,
+               deep + ": warning: this folder has no short form without blanks and commas: the host may not "
+                      "find it by the drive line of FennConfig.Sys; move the installation to a short path "
+                      "without them");
+}
+
+TEST(Checker, WarnsWithoutAFolderForSettings) {
+    const SoundInstallation installation;
+    SetEnvironmentVariableA(temporaryFolderVariable, nullptr);
+    ExpectLine(Check(), "TesselTemp: warning: this variable is not set here: the Properties dialog keeps "
+                        "settings in \\Ini of the current drive, or ends the menu with an error where that "
+                        "cannot be written; set it on every workstation");
+}
+
+TEST(Checker, SaysThatItCannotTryTheLibraryOfTheOtherArchive) {
+    const std::string otherBits =
+        sizeof(void*) == 8 ? "C:\\Windows\\SysWOW64\\cmd.exe" : "C:\\Windows\\Sysnative\\cmd.exe";
+    if (!FileExists(otherBits))
+        GTEST_SKIP() << "this computer runs programs of one kind alone";
+    const SoundInstallation installation;
+    WriteFileBytes(menuProgram, ReadFileBytes(otherBits));
+    ExpectLine(Check(),
+               "ObrinMenu.exe: warning: not from the same archive as this ObrinCheck (32 or 64 bits): "
+               "Corvel.dll has not been checked; use the ObrinCheck that came with ObrinMenu.exe");
+}
+
 TEST(Menu, LeavesNoHostHiddenWithoutItsLibrary) {
     const SoundInstallation installation;
     DeleteFileA(supportLibraryFile);

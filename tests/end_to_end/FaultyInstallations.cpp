@@ -226,6 +226,10 @@ std::vector<FaultyInstallation> FaultyFiles() {
         {"a configuration that another program holds",
          [] { Hold(hostConfigurationFile); },
          {"FennConfig.Sys: error: " + Sharing() + atStart + closeProgram}},
+        {"a configuration that another program keeps from being replaced",
+         [] { Hold(hostConfigurationFile, FILE_SHARE_READ | FILE_SHARE_WRITE); },
+         {"FennConfig.Sys: warning: cannot be replaced (" + PlatformText(ERROR_SHARING_VIOLATION) +
+          "): the menu writes over it, which a lost connection may cut off in the middle; " + closeProgram}},
         {"no Core",
          [] { Delete(coreFolder); },
          {"Core: error: this folder is missing" + atStart + "make it, with what belongs in it"}},
@@ -265,6 +269,11 @@ std::vector<FaultyInstallation> FaultyFiles() {
          [] { PutFolderInPlaceOf(hostProgram); },
          {"Fenn.exe: error: a folder has this name" + waitsForHost + removeFolder},
          checkerOnly}, // Windows shows what is in the folder
+        {"an empty menu program",
+         [] { Write(menuProgram, ""); },
+         {"ObrinMenu.exe: error: not a program that Windows can start: the menu does not start; install it "
+          "again"},
+         checkerOnly},
         {"a picture that is none",
          [] { Write(startupPictureFile, "no picture"); },
          {"Startup.bmp: error: no picture that can be shown (" + PlatformText(ERROR_INVALID_DATA) + ")" +
@@ -284,6 +293,10 @@ std::vector<FaultyInstallation> FaultyFiles() {
         {"a folder in the place of the user records",
          [] { PutFolderInPlaceOf(userRecordsFile); },
          {"UserWSID.sys: error: a folder has this name" + atStart + removeFolder}},
+        {"user records that another program only lets others read",
+         [] { Hold(userRecordsFile, FILE_SHARE_READ); },
+         {"UserWSID.sys: error: cannot be written (" + PlatformText(ERROR_SHARING_VIOLATION) + ")" + atStart +
+          closeProgram}},
         {"a negative number of this user",
          [] { Write(userRecordsFile, UserWsidRecord(LoginName(), -7)); },
          {"UserWSID.sys: error: record 1 gives the user " + LoginName() +
@@ -306,6 +319,10 @@ std::vector<FaultyInstallation> FaultyFiles() {
         {"a register that another program holds",
          [] { Hold(updateRegisterFile); },
          {"Updated.txt: error: " + Sharing() + whenRun + closeProgram}},
+        {"a read-only register",
+         [] { SetAttributes(updateRegisterFile, FILE_ATTRIBUTE_READONLY); },
+         {"Updated.txt: error: read-only" + whenRun + "take this attribute away (attrib -r)"},
+         checkerOnly}, // Wine lets some users write it
         {"a register with a part of a record",
          [] { Write(updateRegisterFile, "0050"); },
          {"Updated.txt: warning: the last record is cut off: the next workstation that is updated overwrites "
@@ -361,12 +378,9 @@ std::vector<FaultyInstallation> FaultyFiles() {
 
 std::vector<FaultyInstallation> FaultySettings() {
     const std::string leads = "TesselTemp: warning: this variable leads to ";
-    const std::string correct =
-        inProperties + "make that folder, or correct the variable, without quotation marks";
-    const std::string cannotBeUsed = ", which cannot be used (" + PlatformText(ERROR_PATH_NOT_FOUND) + ")";
-    const std::string fileExists = "this folder cannot be made or used (" +
-                                   PlatformText(ERROR_ALREADY_EXISTS) + ")" + inProperties +
-                                   "remove the file of this name";
+    const std::string isMissing = ": this folder is missing" + inProperties +
+                                  "make it, with what belongs in it, or correct the variable";
+    const std::string isFile = "a file has the name of this folder" + inProperties + "remove the file";
     return {
         {"settings that the dialog has saved",
          [] {
@@ -385,14 +399,13 @@ std::vector<FaultyInstallation> FaultySettings() {
          [] { Set(temporaryFolderVariable, "Nowhere"); },
          {"TesselTemp: warning: this variable holds no drive or share: Nowhere: settings lie in another "
           "place for each folder that the menu is started in; give it the whole path of a folder",
-          leads + "Nowhere" + cannotBeUsed + correct}},
+          leads + "Nowhere" + isMissing}},
         {"a file in the place of the folder",
          [] { Set(temporaryFolderVariable, CurrentFolder() + "\\UB.mnu"); },
-         {leads + "HERE\\UB.mnu, which cannot be used (" + PlatformText(ERROR_ALREADY_EXISTS) + ")" +
-          correct}},
+         {leads + "HERE\\UB.mnu: " + isFile + ", or correct the variable"}},
         {"a missing drive",
          [] { Set(temporaryFolderVariable, "Q:\\Temp"); },
-         {leads + "Q:\\Temp" + cannotBeUsed + correct}},
+         {leads + "Q:\\Temp" + isMissing}},
         {"a folder whose path is too long",
          [] { Set(temporaryFolderVariable, "C:\\" + std::string(250, 'x')); },
          {leads + "C:\\" + std::string(197, 'x') + "..., which is too long" + inProperties +
@@ -418,13 +431,13 @@ std::vector<FaultyInstallation> FaultySettings() {
         {"a folder that is made", [] { Set(temporaryFolderVariable, CurrentFolder() + "\\New\\Temp"); }, {}},
         {"a file in the place of Ini",
          [] { Write("Temp\\Ini", "x"); },
-         {Settings("") + ": warning: " + fileExists}},
+         {Settings("") + ": warning: " + isFile}},
         {"a file in the place of a folder of the key",
          [] {
              MakeFolder("Temp\\Ini");
              Write("Temp\\Ini\\Core", "x");
          },
-         {Settings("Core\\") + ": warning: " + fileExists}},
+         {Settings("Core\\") + ": warning: " + isFile}},
         {"settings without an equals sign",
          [] {
              MakeFolder("Temp\\Ini\\Core\\Programs");
