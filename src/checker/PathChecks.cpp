@@ -24,8 +24,9 @@ std::vector<FoundMenuFile> FindMenuFiles(const std::string& path) {
     const auto entries = ListMatching(path);
     if (entries.empty())
         throw RunTimeError(ERROR_FILE_NOT_FOUND, path);
-    const auto nameStart = std::max(FindLastCharacter(path, '\\', CodePageLeadByteTest()) + 1,
-                                    path.rfind('/') + 1); // npos + 1 is 0
+    const auto backslash = FindLastCharacter(path, '\\', CodePageLeadByteTest());
+    const auto nameStart =
+        std::max({backslash + 1, path.rfind('/') + 1, path.rfind(':') + 1}); // npos + 1 is 0
     std::vector<FoundMenuFile> files;
     for (const FolderEntry& entry : entries) {
         if (!entry.isFolder && IsMenuFileNameInAnyCase(entry.name))
@@ -45,18 +46,18 @@ void MakeWarning(Finding& finding) {
 }
 
 void CheckContents(const FoundMenuFile& file, bool withTree, SettingsWalk& settings, CheckResult& result) {
-    const auto bytes = ReadOrAdd(result.findings, Effect::EndsEveryStart, file.path);
-    if (!bytes)
-        return;
     const CodePage codePage{.isLeadByte = CodePageLeadByteTest(), .isUtf8 = GetACP() == CP_UTF8};
-    const MenuDefinition definition = ParseMenuDefinition(*bytes, codePage.isLeadByte);
-    Findings findings = CheckMenuFile(file.path, *bytes, definition, codePage);
+    Findings findings;
+    if (const auto bytes = ReadOrAdd(findings, Effect::EndsEveryStart, file.path)) {
+        const MenuDefinition definition = ParseMenuDefinition(*bytes, codePage.isLeadByte);
+        Add(findings, CheckMenuFile(file.path, *bytes, definition, codePage));
+        settings.CheckPrograms(file.path, definition);
+        if (withTree)
+            result.trees += OneLine(file.path) + ": " + MenuTreeText(definition, codePage.isLeadByte);
+    }
     if (!file.isShown)
         std::ranges::for_each(findings, MakeWarning);
     Add(result.findings, std::move(findings));
-    settings.CheckPrograms(file.path, definition);
-    if (withTree)
-        result.trees += OneLine(file.path) + ": " + MenuTreeText(definition, codePage.isLeadByte);
 }
 
 } // namespace

@@ -116,9 +116,8 @@ std::vector<FaultyInstallation> FaultyMenuFiles() {
          {"UB.mnu:2: error: " + noHeading + whenShown + removeMark}},
         {"an empty line above a deeper entry",
          [] { WriteMenu("T\r\nA\r\n>B\r\n\r\n>>C^K\r\nD\r\n>E^L"); },
-         {"UB.mnu:2: warning: the heading \"A\" holds no program: operators open it in vain; put programs "
-          "below "
-          "it, or remove it",
+         {"UB.mnu:2: warning: the heading \"A\" holds no program: operators open it in vain; put "
+          "programs below it, or remove it",
           "UB.mnu:4: warning: an empty line: the menu shows it as a heading without text; remove it",
           "UB.mnu:5: error: " + noHeading + ": the empty line 4 has closed the headings above it" +
               whenShown + removeMark}},
@@ -173,6 +172,15 @@ std::vector<FaultyInstallation> FaultyMenuFiles() {
          {"ZZ.mnu: warning: hidden or a system file" + notListed + "take the attribute away (attrib -h -s)",
           "ZZ.mnu:2: warning: " + noHeading +
               ": the menu ends with an error on a workstation that shows this system; " + removeMark}},
+        {"a hidden system that another program holds",
+         [] {
+             Write("ZZ.mnu", "T");
+             SetAttributes("ZZ.mnu", FILE_ATTRIBUTE_HIDDEN);
+             Hold("ZZ.mnu");
+         },
+         {"ZZ.mnu: warning: hidden or a system file" + notListed + "take the attribute away (attrib -h -s)",
+          "ZZ.mnu: warning: " + Sharing() +
+              ": the menu ends with an error on a workstation that shows this system; " + closeProgram}},
         {"a name in capitals",
          [] { Write("ZZ.MNU", "T"); },
          {"ZZ.MNU: warning: the name does not end in .mnu in small letters" + notListed + "rename the file"}},
@@ -305,8 +313,7 @@ std::vector<FaultyInstallation> FaultyFiles() {
         {"a negative number of another user",
          [] { AddUser("bert", -7); },
          {"UserWSID.sys: error: record 2 gives the user bert the workstation number -7: the menu of this "
-          "user "
-          "waits without a window; remove the record, and the menu asks"}},
+          "user waits without a window; remove the record, and the menu asks"}},
         {"two users of one number",
          [] { AddUser("bert", 5); },
          {"UserWSID.sys: warning: the users bert and " + LoginName() +
