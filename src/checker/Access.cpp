@@ -25,6 +25,10 @@ bool IsReadOnlyFile(const std::string& path) {
            (attributes & (FILE_ATTRIBUTE_READONLY | isFolder)) == FILE_ATTRIBUTE_READONLY;
 }
 
+bool MeansMissing(DWORD error) {
+    return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;
+}
+
 Trouble Refused(DWORD error, const std::string& done, const std::string& right) {
     const bool isBusy = error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION;
     return {"cannot be " + done + " (" + PlatformText(error) + ")",
@@ -35,7 +39,7 @@ Trouble Refused(DWORD error, const std::string& done, const std::string& right) 
 Trouble FileTrouble(const std::string& path, DWORD error, const char* done, const char* right) {
     if (FolderExists(path))
         return {"a folder has this name", "remove the folder"};
-    if (error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND)
+    if (MeansMissing(error))
         return {"missing", "put it there"};
     return Refused(error, done, right);
 }
@@ -113,14 +117,15 @@ bool HasOtherBits(const std::string& program) {
 }
 
 std::optional<Trouble> FolderTrouble(const std::string& path) {
-    if (MayBeFile(path.substr(0, path.find_last_not_of('\\') + 1)))
+    // Windows opens a file in this way, but no folder.
+    if (ErrorOfOpening(path.substr(0, path.find_last_not_of('\\') + 1), 0, 0) == ERROR_SUCCESS)
         return Trouble{"a file has the name of this folder", "remove the file"};
-    if (!FolderExists(path))
-        return Trouble{"this folder is missing", "make it, with what belongs in it"};
     // Without the right to delete in it: users who may modify a folder delete by their right to each file.
     const DWORD error = ErrorOfOpening(path, FILE_ADD_FILE, FILE_FLAG_BACKUP_SEMANTICS);
     if (error == ERROR_SUCCESS)
         return std::nullopt;
+    if (MeansMissing(error))
+        return Trouble{"this folder is missing", "make it, with what belongs in it"};
     return Refused(error, "used for new files", "modify");
 }
 

@@ -365,6 +365,12 @@ std::vector<FaultyInstallation> FaultyFiles() {
          {"Tessel: warning: this variable leads to UB.mnu: a file has the name of this folder" + noCopy +
           "anything; remove the file, or correct the variable"},
          checkerOnly},
+        {"Tessel is quoted",
+         [] { Set(localHostVariable, "\"Local\""); },
+         {"Tessel: warning: this variable leads to \"Local\": cannot be used for new files (" +
+          PlatformText(ERROR_INVALID_NAME) + ")" + noCopy +
+          "anything; give the operators the right to modify it, or correct the variable"},
+         checkerOnly},
         {"a folder in the place of a help page",
          [] { PutFolderInPlaceOf("Help\\Index.html"); },
          {"Help\\Index.html: warning: a folder has this name: Core Help does not open the document; " +
