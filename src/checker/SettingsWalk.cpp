@@ -110,7 +110,8 @@ bool SettingsWalk::IsUsable(const std::string& folder) {
     if (!isNew)
         return place->second;
     const std::string parent = ParentOf(folder, isLeadByte);
-    if (!parent.empty() && IsMissing(folder.substr(0, folder.size() - 1)))
+    const bool isFile = FolderExists(parent) && MayBeFile(folder.substr(0, folder.size() - 1));
+    if (!parent.empty() && !isFile && !FolderExists(folder))
         return place->second = IsUsable(parent); // the dialog then makes this one
     const auto trouble = FolderTrouble(folder);
     if (trouble && folder.size() <= temporaryFolder.size() + 1)

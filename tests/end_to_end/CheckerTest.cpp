@@ -163,6 +163,14 @@ TEST(Checker, WarnsWithoutAFolderForSettings) {
                         "cannot be written; set it on every workstation");
 }
 
+TEST(Checker, NamesTheVariableOnceForAShareThatCannotBeReached) {
+    const SoundInstallation installation;
+    SetEnvironmentVariableA(temporaryFolderVariable, "\\\\localhost\\missing\\Temp");
+    const Findings findings = Check();
+    ASSERT_EQ(findings.size(), 1U) << Report(findings);
+    EXPECT_EQ(findings[0].place.file, temporaryFolderVariable);
+}
+
 TEST(Checker, SaysThatItCannotTryTheLibraryOfTheOtherArchive) {
     const std::string otherBits =
         sizeof(void*) == 8 ? "C:\\Windows\\SysWOW64\\cmd.exe" : "C:\\Windows\\Sysnative\\cmd.exe";
