@@ -5,7 +5,7 @@ string(REPLACE "-O3" "-Os" CMAKE_CXX_FLAGS_RELEASE "${CMAKE_CXX_FLAGS_RELEASE}")
 if(WIN32)
   add_compile_options(-fstack-protector-strong -fcf-protection -ffunction-sections -fdata-sections)
   add_compile_definitions(_FORTIFY_SOURCE=2 _GLIBCXX_ASSERTIONS)
-  # Windows 10: the calls for windows of different DPI.
+  # Windows 10: the calls for windows of different DPI, which version 1607 brought.
   add_compile_definitions(_WIN32_WINNT=0x0A00 NOMINMAX WIN32_LEAN_AND_MEAN)
   # Static: MinGW's three run-time DLLs are on no workstation. Stripped: symbols double the size.
   add_link_options(-fstack-protector-strong -static -s -Wl,--gc-sections -Wl,--no-insert-timestamp
