@@ -11,7 +11,7 @@ namespace obrin {
 
 namespace {
 
-constexpr std::size_t blockBytes = 16 * 1024;
+constexpr std::size_t blockBytes = 16'384;
 
 bool IsBusy(DWORD error) {
     return error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION ||

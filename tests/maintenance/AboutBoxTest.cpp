@@ -13,7 +13,7 @@ TEST_F(AboutBox, ShowsTheIconAndItsTitleInBoldLetters) {
 }
 
 TEST_F(AboutBox, StaysOpenBehindTheMessageThatThereIsNoTool) {
-    WhileAboutBox([this](HWND box) {
+    WhileAboutBox([](HWND box) {
         const auto press = [=] { SendDlgItemMessageA(box, IDC_CMD_SYS_INFO, BM_CLICK, 0, 0); };
         EXPECT_TRUE(
             ActInDialog(box, press, [](HWND message) { EXPECT_EQ(WindowText(message), "ObrinMenu"); }));
