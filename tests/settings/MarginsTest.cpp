@@ -13,10 +13,11 @@ TEST(Margin, IsTheNumberAtTheStartOfATextInThousandthsOfAnInch) {
         int loaded;
         std::optional<int> typed;
     } const cases[] = {
-        {"0.500", 500, 500},           {" 1.2344 in", 1234, 1234},    {"1.2346", 1235, 1235},
-        {"4.001", 4000, 4000},                                        // the largest margin
-        {"9e999", 4000, 4000},         {"0.2499", 250, std::nullopt}, // below the smallest one
-        {"-9e999", 250, std::nullopt}, {"none", 250, std::nullopt},   {"", 250, std::nullopt},
+        {"0.500", 500, 500},           {" 1.2344 in", 1234, 1234},
+        {"1.2346", 1235, 1235},        {"4.001", 4000, 4000}, // the largest margin
+        {"9e999", 4000, 4000},         {"0.25", 250, 250},    // the smallest one
+        {"0.2499", 250, std::nullopt}, {"-9e999", 250, std::nullopt},
+        {"none", 250, std::nullopt},   {"", 250, std::nullopt},
     };
     for (const auto& [text, loaded, typed] : cases) {
         EXPECT_EQ(ParseMargin(text), loaded) << text;
