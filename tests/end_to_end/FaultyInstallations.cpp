@@ -172,10 +172,10 @@ std::vector<FaultyInstallation> FaultyMenuFiles() {
          {"ZZ.mnu: warning: hidden or a system file" + notListed + "take the attribute away (attrib -h -s)",
           "ZZ.mnu:2: warning: " + noHeading +
               ": the menu ends with an error on a workstation that shows this system; " + removeMark}},
-        {"a hidden system that another program holds",
+        {"a system marked as a system file, which another program holds",
          [] {
              Write("ZZ.mnu", "T");
-             SetAttributes("ZZ.mnu", FILE_ATTRIBUTE_HIDDEN);
+             SetAttributes("ZZ.mnu", FILE_ATTRIBUTE_SYSTEM);
              Hold("ZZ.mnu");
          },
          {"ZZ.mnu: warning: hidden or a system file" + notListed + "take the attribute away (attrib -h -s)",

@@ -55,6 +55,12 @@ TEST_F(FileReplacement, GivesTheFileItsNewContents) {
     EXPECT_EQ(OtherFiles(), std::vector<std::string>());
 }
 
+TEST_F(FileReplacement, LetsAReaderReadTheOldContentsToTheirEnd) {
+    File reader("f", File::Use::Read);
+    ReplaceFileBytes("f", "new");
+    EXPECT_EQ(reader.ReadToEnd(), "old");
+}
+
 TEST_F(FileReplacement, MakesAMissingFile) {
     DeleteFileA("f");
     ReplaceFileBytes("f", "new");
