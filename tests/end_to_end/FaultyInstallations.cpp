@@ -340,8 +340,9 @@ std::vector<FaultyInstallation> FaultyFiles() {
           "start; " +
           removeFolder}},
         {"a folder in the place of another workstation's marker file",
-         [] { MakeFolder("Menu 7.txt"); },
-         {"Menu 7.txt: error: a folder has this name: the menu of workstation 7 ends with an error at every "
+         [] { MakeFolder("Menu 99.txt"); },
+         {"Menu 99.txt: error: a folder has this name: the menu of workstation 99 ends with an error at "
+          "every "
           "start; " +
           removeFolder}},
         {"a missing program of the update",

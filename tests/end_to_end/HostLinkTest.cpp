@@ -92,6 +92,27 @@ TEST_F(HostLinkTest, HidesAStationThatIsShownALittleLater) {
     EXPECT_FALSE(IsWindowVisible(station));
 }
 
+// As it hides, the host puts the window that takes the keys in front.
+LRESULT CALLBACK PutCommandWindowInFront(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_SHOWWINDOW && wParam == FALSE)
+        SetWindowPos(FindWindowExA(window, nullptr, "ObrinTest.Command", nullptr), HWND_TOP, 0, 0, 0, 0,
+                     SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE);
+    return DefWindowProcA(window, message, wParam, lParam);
+}
+
+TEST_F(HostLinkTest, TypesIntoTheWindowThatIsInFrontOnceTheStationIsHidden) {
+    MakeStation();
+    SetWindowLongPtrA(station, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(PutCommandWindowInFront));
+    MakeCommandWindow();
+    const HWND other =
+        CreateWindowExA(0, WC_STATICA, "", WS_CHILD, 0, 0, 0, 0, station, nullptr, nullptr, nullptr);
+    SetWindowPos(other, HWND_TOP, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE);
+    ShowStation();
+    const RunningMenu menu;
+    EXPECT_TRUE(ShowsMenu(menu));
+    EXPECT_EQ(typed, firstSystem);
+}
+
 TEST_F(HostLinkTest, GoesOnWithAStationThatIsNeverShown) {
     MakeStation();
     MakeCommandWindow();

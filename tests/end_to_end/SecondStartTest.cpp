@@ -37,7 +37,8 @@ TEST_F(OpenHost, MakesTheMenuAskWhetherToShowIt) {
     EXPECT_TRUE(GetDlgItem(box, IDYES));
     EXPECT_FALSE(GetDlgItem(box, IDCANCEL));
     EXPECT_TRUE(SendDlgItemMessageA(box, IDNO, WM_GETDLGCODE, 0, 0) & DLGC_DEFPUSHBUTTON) << "Enter means No";
-    EXPECT_TRUE(ReadFileBytes("FennConfig.Sys").starts_with("Drive S,")) << "rewritten before the question";
+    EXPECT_TRUE(ReadFileBytes("FennConfig.Sys").starts_with("Drive S," + ShortPath(CurrentFolder()) + ","))
+        << "rewritten before the question";
 }
 
 TEST_F(OpenHost, StaysHiddenAfterNo) {
