@@ -12,7 +12,7 @@ usage: ./demo.sh
   this desktop. The installation keeps what the programs write; remove build/demo to start over.
 usage: ./demo.sh --screenshot FILE [--dpi N] [--size WxH] [--do SCRIPT]
                  [--without-host | --faulty-menu]
-  Does the same as a new user on a hidden desktop, takes a picture of the screen and closes the menu.
+  Does this for a new user and on a hidden desktop, takes a picture of the screen and closes the menu.
   --dpi N      the screen's resolution as Windows programs see it (96)
   --size WxH   the menu window's size in pixels, without its frame
   --do SCRIPT  bash script to run before the picture, which can open a menu or a dialog with xdotool; MENU_WINDOW is
@@ -74,7 +74,7 @@ show() {
   trap end_prefix EXIT
   echo "Starting the menu" >&2
   (cd build/demo/host && run_wine ./ObrinMenu.exe) 9>&- || return
-  # The menu has started the host, which ends by itself soon after.
+  # The menu has ended. Its host ends by itself soon afterwards.
   timeout 10 "$WINESERVER" -w 9>&- || true
 }
 
@@ -87,8 +87,8 @@ question_is_gone() {
   ! window_titled 'Please Select a WSID'
 }
 
-# Answers the question for a workstation number if it is there, and succeeds when the menu is there. To be repeated:
-# the question's box appears before it takes keys, so the answer may be lost.
+# Answers the question for a workstation number if it is open. Succeeds once the menu is open. Callers repeat it,
+# because the question ignores keys at first and the answer may be lost.
 reach_menu() {
   local box
   if box=$(window_titled 'Please Select a WSID'); then

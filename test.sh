@@ -60,7 +60,7 @@ run_ctest() {
   return "$result"
 }
 
-# Runs the archive of the tests in a new prefix, and checks that it leaves the prefix unchanged.
+# Runs the archive of the tests in a new prefix, and checks that it restores the registry and removes its folder.
 run_archive() {
   rm -rf build/wine/archive
   if ./package.sh --tests &&

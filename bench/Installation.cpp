@@ -58,15 +58,15 @@ std::vector<Entry> MakeEntries(int count) {
     constexpr int programs = 9;
     std::vector<Entry> entries;
     for (int i = 0; i < count; ++i) {
-        const int inBranch = i % (1 + headings * (1 + programs));
-        const int inHeading = (inBranch - 1) % (1 + programs);
+        const int indexInBranch = i % (1 + headings * (1 + programs));
+        const int indexInHeading = (indexInBranch - 1) % (1 + programs);
         const std::string number = std::to_string(i);
-        if (inBranch == 0)
+        if (indexInBranch == 0)
             entries.push_back({.depth = 0, .parent = 0, .text = "Branch " + number});
-        else if (inHeading == 0)
-            entries.push_back({.depth = 1, .parent = i - inBranch, .text = "Heading " + number});
+        else if (indexInHeading == 0)
+            entries.push_back({.depth = 1, .parent = i - indexInBranch, .text = "Heading " + number});
         else
-            entries.push_back({.depth = 2, .parent = i - inHeading, .text = "Program number " + number});
+            entries.push_back({.depth = 2, .parent = i - indexInHeading, .text = "Program number " + number});
     }
     return entries;
 }

@@ -133,7 +133,7 @@ void CommandWindow::KeyDown(WPARAM key) {
 }
 
 void CommandWindow::KeyUp(WPARAM key) {
-    // Exits at key-up: after an exit at key-down the sender would find no window for its key-up.
+    // Exits at key-up, not at key-down: the sender still needs this window for its key-up.
     if (isExiting && key == VK_RETURN)
         listener.ExitCommanded();
 }

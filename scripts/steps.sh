@@ -1,8 +1,8 @@
 # shellcheck shell=bash
-# Long steps: how far they are, what they print when they fail, and their time limits. To be sourced.
+# Runs long steps: shows their progress, prints their output if they fail, and limits their time. To be sourced.
 
 # Runs a command with its output in a log, and shows the output if it fails: run_step TITLE LOG COMMAND...
-# Says meanwhile how far it is: on a terminal in one line that changes, elsewhere in a line every 20 seconds. Both go
+# Shows the progress meanwhile: a terminal gets one line that changes, other outputs get a line every 20 seconds. Both go
 # to the error output, to keep them out of a script's results.
 run_step() {
   local title=$1 log=$2 result=0 watcher
@@ -35,12 +35,12 @@ stop_watching() {
   fi
 }
 
-# Lives as long as the shell that runs the step: watch_step TITLE LOG SHELL
+# Shows the progress until the shell that runs the step ends: watch_step TITLE LOG SHELL
 watch_step() {
   local start=$SECONDS interval=20 next progress
   [[ ! -t 2 ]] || interval=1
   next=$((start + interval))
-  # Without this script's output: whoever reads that through a pipe would wait until sleep ends, too.
+  # sleep must not inherit this script's output: a reader of that pipe would wait until sleep ends.
   while sleep 1 >/dev/null 2>&1 && kill -0 "$3" 2>/dev/null; do
     ((SECONDS >= next)) || continue
     next=$((SECONDS + interval))
@@ -82,7 +82,7 @@ without_progress() {
 }
 
 # Ends a program that takes longer than it should: limited SECONDS PROGRAM ARGUMENT...
-# Returns 124 for such a program. Ctrl-C still reaches the program. Other programs that it has started go on.
+# Returns 124 for such a program. Ctrl-C still reaches the program. Programs that this program has started are not ended.
 limited() {
   local seconds=$1 result=0
   shift

@@ -30,7 +30,7 @@ std::string WhyNoFileName(std::string_view key, LeadByteTest isLeadByte);
 /// in brackets.
 std::string MenuTreeText(const MenuDefinition& definition, LeadByteTest isLeadByte);
 
-/// Returns the line of an entry, counted from 1.
+/// Returns the line (the first is 1) of an entry (the first is 0).
 constexpr int LineOfEntry(std::size_t index) {
     return static_cast<int>(index) + 2;
 }

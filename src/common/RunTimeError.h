@@ -15,8 +15,8 @@ enum class PlatformError : std::uint32_t {
     InvalidIndex = 1413,
 };
 
-/// Holds the Windows error code and the action that failed, for example "Opening UB.mnu". Every window
-/// procedure catches it, shows it and ends the program.
+/// Holds the Windows error code and the action that failed, for example "Opening UB.mnu". If
+/// nobody handles it earlier, RunOrEndProgram shows it and ends the program.
 class RunTimeError : public std::exception {
 public:
     RunTimeError(std::uint32_t platformCode, std::string action)

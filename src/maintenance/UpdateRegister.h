@@ -17,7 +17,8 @@ struct UpdateSearch {
     std::size_t record; ///< number of the record with the key, or of the record to write; the first is 1
 };
 
-/// Looks for the key in the bytes of the register. A new key overwrites an incomplete record at the end.
+/// Looks for the key in the bytes of the register. If it is missing, `record` is the one behind the last
+/// complete record, so that the caller overwrites an incomplete one.
 UpdateSearch FindUpdateKey(std::string_view registerBytes, std::string_view key);
 
 } // namespace obrin

@@ -7,8 +7,8 @@
 
 namespace obrin {
 
-/// Processes all pending events once. Any handler can run during the call and can even close the window, so
-/// callers must check that their window still exists. Returns false if the program has to quit; RunEvents
+/// Processes events until none is pending. Any handler can run during the call and can even close the window,
+/// so callers must check that their window still exists. Returns false if the program has to quit; RunEvents
 /// then gets the quit message again.
 bool ProcessPendingEvents();
 

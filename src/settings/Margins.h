@@ -17,8 +17,8 @@ int ParseMargin(std::string_view text);
 /// Does the same while the user types. Returns nothing for numbers below the smallest margin, such as "0.".
 std::optional<int> ParseTypedMargin(std::string_view text);
 
-/// Returns whether the number at the start of a text equals a slider value exactly. A number beyond the
-/// largest margin equals that.
+/// Returns whether the number at the start of a text equals a slider value exactly. A number above the
+/// largest margin counts as the largest margin.
 bool EqualsMargin(std::string_view text, int margin);
 
 /// Returns the caret's new position when the text of a box changes from `before` to `after`. Its distance to

@@ -16,7 +16,7 @@ namespace obrin {
 
 namespace {
 
-// Looks for the file for 0.1 s: while another workstation replaces it, no file has its name.
+// Retries for 0.1 s, because the file is missing for a moment while another workstation replaces it.
 std::optional<std::string> ReadHostConfiguration() {
     constexpr int maxTries = 5;
     constexpr DWORD pause = 25; // milliseconds
@@ -66,7 +66,8 @@ BOOL CALLBACK FindFirstUsableWindow(HWND window, LPARAM result) {
     return FALSE;
 }
 
-// While a menu loads, it can show a dialog: the question for its number, the notice of the wait, an error.
+// While a menu loads, it can show a dialog: the question for the workstation number, the
+// notice "Waiting for Fenn" or an error.
 void ActivateLoadingMenu(HWND menu) {
     HWND dialog = nullptr;
     EnumThreadWindows(GetWindowThreadProcessId(menu, nullptr), FindFirstUsableWindow,
@@ -83,7 +84,7 @@ void Main(const MenuWindow& menu) {
         MessageBoxA(nullptr, "Config File Not found!", "Error!", MB_OK);
         return;
     }
-    // Comes before the test for an open host: the drive line must be right in any case.
+    // Comes before the test for an open host, because the drive line must be right even if one is open.
     RewriteHostConfiguration(std::move(*current));
     if (FindOpenHost() != nullptr)
         OfferToShowHost();

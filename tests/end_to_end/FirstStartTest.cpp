@@ -31,7 +31,7 @@ TEST_F(FirstStart, AsksTheUserByNameForANumber) {
                                  "your WSID Number to be?\r\n\r\n(Valid Answers are 1 to 99)\n"));
 }
 
-TEST_F(FirstStart, IgnoresTheAnswerBehindAnInvalidOne) {
+TEST_F(FirstStart, IgnoresTheAnswerAfterAnInvalidOne) {
     const RunningMenu menu;
     Answer(menu, "0"); // invalid
     Answer(menu, "7"); // ignored
@@ -42,7 +42,7 @@ TEST_F(FirstStart, IgnoresTheAnswerBehindAnInvalidOne) {
     EXPECT_EQ(installation.Logged("start"), Lines{"run core\\start -5"});
 }
 
-TEST_F(FirstStart, RecordsTheNumberBehindThoseOfOtherUsers) {
+TEST_F(FirstStart, AppendsTheNumberToTheRecordsOfOtherUsers) {
     const RunningMenu menu;
     Answer(menu, "5");
     EXPECT_TRUE(menu.Window());

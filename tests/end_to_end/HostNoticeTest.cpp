@@ -31,7 +31,7 @@ TEST_F(HostNoticeTest, MenuIsHiddenAndHasNoCaptionYet) {
     const RunningMenu menu;
     EXPECT_TRUE(installation.StartsHost());
     EXPECT_FALSE(IsWindowVisible(menu.LoadingWindow()));
-    EXPECT_EQ(TextOf(menu.LoadingWindow()), "") << "a second menu must not find an empty window";
+    EXPECT_EQ(TextOf(menu.LoadingWindow()), "") << "a second start must not take this for a finished menu";
 }
 
 TEST_F(HostNoticeTest, SaysAtOnceWhyTheHostCouldNotBeStarted) {

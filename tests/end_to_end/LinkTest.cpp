@@ -32,7 +32,7 @@ TEST_F(Link, IsOpenedOnceByEnterOrSpaceAlsoWhenHeld) {
     EXPECT_EQ(OpenedDocuments(), (Lines{shortcut, shortcut}));
 }
 
-TEST_F(Link, TakesEnterFromTheDefaultButtonAndLeavesTab) {
+TEST_F(Link, TakesEnterButLeavesTabToTheDialogManager) {
     for (const WPARAM key : {WPARAM{VK_RETURN}, WPARAM{VK_TAB}}) {
         MSG typed{link, WM_KEYDOWN, key, 0, 0, {}};
         const LRESULT code = SendMessageA(link, WM_GETDLGCODE, key, reinterpret_cast<LPARAM>(&typed));

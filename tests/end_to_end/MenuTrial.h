@@ -14,12 +14,12 @@ void PrintTo(Effect effect, std::ostream* output);
 
 namespace obrin::test {
 
-/// Starts the menu in the current folder, shows every system, runs a program, opens the Properties of each
-/// program and says OK there, and closes it. Returns what stops it first, or Effect::None. `expected` saves
-/// the time to wait for a window that never comes.
+/// Starts the menu in the current folder, shows up to five systems, runs a program, opens the Properties of
+/// the programs among the first ten entries, confirms each with OK, and closes the menu. Returns what stops
+/// it first, or Effect::None. If WaitsForEver is `expected`, it does not wait long for the window.
 Effect TryMenu(Effect expected);
 
-/// The first thing that findings say will stop it.
+/// Returns the effect of the findings that stops the menu first, or Effect::None.
 Effect Predicted(const Findings& findings);
 
 } // namespace obrin::test

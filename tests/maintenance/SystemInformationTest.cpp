@@ -62,11 +62,11 @@ protected:
     const std::string unavailable = "System Information Is Unavailable At This Time";
 };
 
-TEST_F(SystemInformation, IsTheToolOfThePath) {
+TEST_F(SystemInformation, StartsTheToolAtThePath) {
     EXPECT_EQ(LaunchTool(here + "Tool One.exe"), '"' + here + "Tool One.exe\" in a normal window");
 }
 
-TEST_F(SystemInformation, IsTheToolInItsFolderWithoutAPath) {
+TEST_F(SystemInformation, FallsBackToTheToolInItsFolder) {
     EXPECT_EQ(LaunchTool(missing), '"' + here + "Tools\\MSINFO32.EXE\" in a normal window");
 }
 

@@ -24,19 +24,19 @@ TEST_F(Library, ReadsTheTextsThatItStores) {
     }
 }
 
-TEST_F(Library, ReadsWhatIsNoTextAsAnEmptyOne) {
+TEST_F(Library, ReturnsAnEmptyTextForOtherTypesAndMissingValues) {
     machine.Set(key, "Number", REG_DWORD, "abcd");
     EXPECT_EQ(Get("Number"), "");
     EXPECT_EQ(Get("Missing"), "");
 }
 
-TEST_F(Library, ReadsATextThatWasStoredWithoutItsNulAndExpandsNothing) {
+TEST_F(Library, ReadsAnUnterminatedTextWithoutExpandingIt) {
     machine.Set(key, "Open", REG_EXPAND_SZ, "%TEMP%");
     EXPECT_EQ(Get("Open"), "%TEMP%");
 }
 
 // The suite's programs call the two routines by their names.
-TEST_F(Library, TellsTheSuiteThatATextIsNotStored) {
+TEST_F(Library, ReturnsAnErrorIfNothingIsStored) {
     const auto set = reinterpret_cast<LONG(__stdcall*)(HKEY, const char*, const char*, const char*)>(
         GetProcAddress(GetModuleHandleA("Corvel.dll"), "SetRegValue"));
     EXPECT_NE(set(nullptr, key, "Text", ""), ERROR_SUCCESS);

@@ -62,7 +62,7 @@ TEST_F(Properties, FirstOpeningShowsAndSavesTheDefaults) {
     EXPECT_TRUE(FileHas("RightMargin       =     0.500"));
 }
 
-TEST_F(ClosedProperties, ShowTheCodeOfTheLastSystemOnlyToBeRead) {
+TEST_F(ClosedProperties, ShowTheCodeOfTheLastSystemReadOnly) {
     machine.Set("Software\\Obrin\\Menu", "LastSystem", REG_SZ, "WA.mnu");
     Open();
     EXPECT_EQ(Text(IDC_TXT_SYSTEM), "WA");
@@ -99,14 +99,14 @@ TEST_F(Properties, ApplySavesCancelClosesOkDoesBoth) {
     }
 }
 
-TEST_F(Properties, ProgramIsSavedAsTheTreeHasItWhateverTheBoxSays) {
+TEST_F(Properties, ProgramOfTheTreeIsSavedNotTheTextOfTheBox) {
     SetText(IDC_TXT_PROGRAM_NAME, "edited");
     programKey = "Core\\Other";
     Press(IDC_APPLY);
     EXPECT_TRUE(FileHas("Program           =     Core\\Other")) << "in the file of the opening";
 }
 
-TEST_F(Properties, RestoreDefaultsNamesTheFileItself) {
+TEST_F(Properties, RestoreDefaultsUsesThePathOfTheFileAsProgramName) {
     SetText(IDC_TXT_HEIGHT, "1");
     SetText(IDC_TXT_MARGIN, "abc");
     Press(IDC_COMMAND2);
@@ -171,7 +171,7 @@ struct Orientation : Properties {
     std::string Paper() const { return Text(IDC_TXT_HEIGHT) + " x " + Text(IDC_TXT_WIDTH); }
 };
 
-TEST_F(Orientation, SwapsHeightAndWidthWhenItIsNotTheOneTheListWasOpenedOn) {
+TEST_F(Orientation, SwapsHeightAndWidthWhenItDiffersFromTheOneAtOpeningTheList) {
     OpenList();
     Press(VK_DOWN);
     EXPECT_EQ(Text(IDC_CMB_ORIENTATION), "Landscape");
@@ -209,7 +209,8 @@ TEST_F(Margins, AreTypedKeyByKey) {
         const char* typed;
         const char* box;
         LRESULT slider;
-        const char* boxWhenLeft; // the slider's value, if the box reads as the same number
+        const char*
+            boxWhenLeft; // the slider's value, if the box holds that number or one above the largest margin
     } const cases[] = {
         {"0.25", "0.25", 250, "0.25"}, {"0.500", "0.500", 500, "0.5"},       {".75", "0.75", 750, "0.75"},
         {"01.5", "1.5", 1500, "1.5"},  {"2.0501", "2.0501", 2050, "2.0501"}, // finer than the slider
@@ -245,7 +246,7 @@ TEST_F(Margins, SliderWritesItsBox) {
     EXPECT_EQ(Text(IDC_TXT_MARGIN + 3), "0.76") << "a quarter more";
 }
 
-TEST_F(Margins, SliderThatIsLetGoOfKeepsTheTypedText) {
+TEST_F(Margins, EndOfASliderDragKeepsTheTypedText) {
     Type("0.50");
     SendMessageA(dialog, WM_HSCROLL, TB_ENDTRACK, reinterpret_cast<LPARAM>(Control(IDC_SLD_MARGIN)));
     EXPECT_EQ(Box(), "0.50");

@@ -21,7 +21,7 @@ TEST(SettingsPath, IsTheTrimmedProgramKeyBelowTheTemporaryFolder) {
 }
 
 // In this string table, the text of an id is the id itself.
-TEST(DefaultSettings, MakeTheFileOfANewProgram) {
+TEST(DefaultSettings, FillTheSettingsFileOfANewProgram) {
     const auto defaults = DefaultSettings("CSBackup", [](int id) { return std::to_string(id); });
     EXPECT_EQ(FormatSettings(defaults), "Program           =     CSBackup\r\n"
                                         "HelpFile          =     102CSBackup\r\n"
