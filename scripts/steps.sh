@@ -2,8 +2,8 @@
 # Runs long steps: shows their progress, prints their output if they fail, and limits their time. To be sourced.
 
 # Runs a command with its output in a log, and shows the output if it fails: run_step TITLE LOG COMMAND...
-# Shows the progress meanwhile: a terminal gets one line that changes, other outputs get a line every 20 seconds. Both go
-# to the error output, to keep them out of a script's results.
+# Shows the progress meanwhile: a terminal gets one line that changes, other outputs get a line every 20 seconds.
+# Both go to the error output, to keep them out of a script's results.
 run_step() {
   local title=$1 log=$2 result=0 watcher
   shift 2
@@ -82,7 +82,7 @@ without_progress() {
 }
 
 # Ends a program that takes longer than it should: limited SECONDS PROGRAM ARGUMENT...
-# Returns 124 for such a program. Ctrl-C still reaches the program. Programs that this program has started are not ended.
+# Returns 124 for such a program. Ctrl-C still reaches the program. Programs that it has started are not ended.
 limited() {
   local seconds=$1 result=0
   shift
