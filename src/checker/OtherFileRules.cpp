@@ -29,13 +29,13 @@ Findings CheckUserRecords(const std::string& path, std::string_view bytes, std::
     for (const auto& [name, record] : lastOfUser) {
         const auto wsid = records[record - 1].wsid;
         const std::string number = "the workstation number " + std::to_string(wsid);
-        const Trouble given{"record " + std::to_string(record) + " gives the user " + name + ' ' + number,
-                            "remove the record, and the menu asks"};
+        const Trouble trouble{"record " + std::to_string(record) + " gives the user " + name + ' ' + number,
+                              "remove the record, so that the menu asks for a number"};
         if (wsid < 0)
             Add(findings, name == TrimBlanks(ownName) ? Effect::WaitsForEver : Effect::FailsForOthers, {path},
-                given, "the menu of this user waits without a window");
+                trouble, "the menu of this user waits for ever and shows no window");
         else if (wsid < 1 || wsid > maxWsid)
-            Add(findings, Effect::None, {path}, given, "only 1 to 99 lead to a host");
+            Add(findings, Effect::None, {path}, trouble, "it must be from 1 to 99");
 
         const auto [spelling, isNewName] = userInAnyCase.try_emplace(AsciiLowerCase(name), name);
         if (!isNewName) {
@@ -50,7 +50,7 @@ Findings CheckUserRecords(const std::string& path, std::string_view bytes, std::
         if (!isNewNumber && wsid >= 1 && wsid <= maxWsid)
             Add(findings, Effect::None, {path},
                 {"the users " + other->second + " and " + name + " both have " + number,
-                 "remove one's record, and the menu asks"},
+                 "remove the record of one, so that the menu asks for another number"},
                 "they cannot work at the same time");
     }
     return findings;
@@ -62,7 +62,7 @@ Findings CheckUpdateRegister(const std::string& path, std::string_view bytes) {
         Add(findings, Effect::None, {path},
             {"byte " + std::to_string(other + 1) + " is no digit",
              "remove line ends, blanks and everything else that is no number"},
-            "workstations whose three digits do not begin at a multiple of three are updated again");
+            "records that it damages or shifts are not found, and their workstations are updated again");
     if (const auto rest = bytes.size() % updateKeyBytes; rest != 0)
         Add(findings, Effect::None, {path},
             {"the last record is cut off",

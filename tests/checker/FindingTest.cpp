@@ -15,6 +15,13 @@ TEST(Finding, IsReportedInTheOrderOfFilesAndLines) {
         "r\r\n");
 }
 
+TEST(Finding, HasTheConsequenceOfItsEffectUnlessItHasOneOfItsOwn) {
+    EXPECT_EQ(Report({{Effect::EndsEveryStart, {"A", 0}, {"p", "r"}, ""}}),
+              "A: error: p: the menu ends with an error at every start; r\r\n");
+    EXPECT_EQ(Report({{Effect::EndsProperties, {"A", 0}, {"p", "r"}, ""}}),
+              "A: warning: p: the Properties dialog ends the menu with an error; r\r\n");
+}
+
 TEST(Finding, IsOneLineWhateverItNames) {
     EXPECT_EQ(Report({{Effect::None, {"A\x1B", 0}, {"p\r\n\x7F\xE4", "r"}, "c"}}),
               "A?: warning: p???\xE4: c; r\r\n");

@@ -24,12 +24,24 @@ TEST(UserRecordRules, LookAtTheLastRecordOfAUser) {
         "F: warning: the user anna has the records 1 and 2: the last one counts; remove the others\r\n");
 }
 
-TEST(UserRecordRules, WarnOfNumbersWithoutAHost) {
+TEST(UserRecordRules, WarnOfNumbersThatAreNoWorkstation) {
     for (const std::int16_t wsid : std::initializer_list<std::int16_t>{0, 100})
         EXPECT_EQ(Records({{"anna", wsid}}),
                   "F: warning: record 1 gives the user anna the workstation number " + std::to_string(wsid) +
-                      ": only 1 to 99 lead to a host; remove the record, and the "
-                      "menu asks\r\n");
+                      ": it must be from 1 to 99; remove the record, so that the menu asks for a number\r\n");
+}
+
+TEST(UserRecordRules, FindANegativeNumberOfAnyUser) {
+    for (const auto& [user, effect] :
+         {std::pair{"anna", Effect::WaitsForEver}, {"bert", Effect::FailsForOthers}})
+        EXPECT_EQ(CheckUserRecords("F", UserWsidRecord(user, -7), "anna").at(0).effect, effect) << user;
+}
+
+TEST(UserRecordRules, WarnOfUsersWithTheSameNumber) {
+    EXPECT_EQ(
+        Records({{"anna", 5}, {"bert", 5}}),
+        "F: warning: the users anna and bert both have the workstation number 5: they cannot work at the "
+        "same time; remove the record of one, so that the menu asks for another number\r\n");
 }
 
 TEST(UserRecordRules, WarnOfUsersThatDifferInCaseAlone) {
@@ -45,6 +57,10 @@ TEST(UserRecordRules, LetOneUserInTwoSpellingsHaveOneNumber) {
 
 TEST(UpdateRegisterRules, WarnOfBytesThatAreNoDigits) {
     EXPECT_EQ(CheckUpdateRegister("F", "001\r\n0").front().trouble.problem, "byte 4 is no digit");
+}
+
+TEST(UpdateRegisterRules, WarnOfAPartOfARecordAtTheEnd) {
+    EXPECT_EQ(CheckUpdateRegister("F", "0050").front().trouble.problem, "the last record is cut off");
 }
 
 } // namespace

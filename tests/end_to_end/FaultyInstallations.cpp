@@ -7,23 +7,14 @@ namespace obrin::test {
 namespace {
 
 using namespace std::string_literals;
-
-const std::string atStart = ": the menu ends with an error at every start; ";
-const std::string whenShown = ": the menu ends with an error when it shows this system; ";
-const std::string whenRun = ": the menu ends with an error when an operator runs a program; ";
-const std::string inProperties = ": the Properties dialog ends the menu with an error; ";
+using enum Effect;
 
 const std::string noHeading = "there is no heading one level above this entry";
-const std::string removeMark = "remove a \">\", or put the missing heading above";
-const std::string isUtf8 = ": the menu shows other letters than are meant; save the file as ANSI text";
-const std::string oneOfTwo = "remove one of the two";
-const std::string useLetters = "name the program by a path from the host's folder on, of letters and digits";
-const std::string notListed = ": the menu does not list this system; ";
-const std::string closeProgram = "close the program that keeps it open";
-const std::string removeFolder = "remove the folder";
-const std::string putLibrary = "put the library there that came with ObrinMenu.exe";
-const std::string waitsForHost = ": the menu waits for the host for ever; ";
-const std::string noCopy = ": the update of a workstation says Complete without copying ";
+const std::string isHeld = "cannot be read (" + PlatformText(ERROR_SHARING_VIOLATION) + ")";
+const std::string isFolder = "a folder has this name";
+const std::string isFile = "a file has the name of this folder";
+const std::string csBackupSettings = "Temp\\Ini\\Core\\Programs\\CSBackup.ini";
+const std::string settingsPlace = "HERE\\" + csBackupSettings;
 
 std::vector<HANDLE> held;
 
@@ -66,11 +57,6 @@ void Set(const char* variable, const std::string& value) {
     SetEnvironmentVariableA(variable, value.c_str());
 }
 
-void AddUser(const std::string& name, int wsid) {
-    Write(userRecordsFile,
-          ReadFileBytes(userRecordsFile) + UserWsidRecord(name, static_cast<std::int16_t>(wsid)));
-}
-
 void Remember(const std::string& system) {
     RegSetKeyValueA(HKEY_LOCAL_MACHINE, menuRegistryKey, lastSystemValue, REG_SZ, system.c_str(),
                     static_cast<DWORD>(system.size() + 1));
@@ -82,51 +68,36 @@ void Patch(const std::string& path, std::string_view from, std::string_view to) 
     Write(path, bytes);
 }
 
-std::string Sharing() {
-    return "cannot be read (" + PlatformText(ERROR_SHARING_VIOLATION) + ")";
-}
-
-std::string Settings(const std::string& name) {
-    return "HERE\\Temp\\Ini\\" + name;
+// A file of settings with these contents, for the program CSBackup.
+void WriteSettings(const std::string& bytes) {
+    MakeFolder("Temp\\Ini\\Core\\Programs");
+    Write(csBackupSettings, bytes);
 }
 
 constexpr bool checkerOnly = false; // not the menu: it works, or writes where it must not in a test
 constexpr bool is64 = sizeof(void*) == 8;
-const std::string ownBits = is64 ? "64" : "32";
 
 } // namespace
 
 std::vector<FaultyInstallation> FaultyMenuFiles() {
     return {
-        {"an empty file",
-         [] { WriteMenu(""); },
-         {"UB.mnu: error: the file has no header line" + atStart +
-          "write the system's title into its first line"}},
+        {"an empty file", [] { WriteMenu(""); }, {{"UB.mnu", EndsEveryStart, "the file has no header line"}}},
+        {"nothing but a title", [] { WriteMenu("T"); }, {}},
+        {"an empty title", [] { WriteMenu(" ^T\r\nA^K"); }, {{"UB.mnu:1", None, "the title is empty"}}},
         {"an entry before any heading",
          [] { WriteMenu("T\r\n>A^K"); },
-         {"UB.mnu:2: error: " + noHeading + whenShown + removeMark}},
-        {"a program two levels below its heading",
-         [] { WriteMenu("T\r\nA\r\n>>B^K\r\n>C^L"); },
-         {"UB.mnu:3: error: " + noHeading + whenShown + removeMark}},
-        {"a program below a program",
-         [] { WriteMenu("T\r\nA^K\r\n>B^L"); },
-         {"UB.mnu:3: error: " + noHeading + whenShown + removeMark}},
-        {"forty thousand levels",
-         [] { WriteMenu("T\r\n" + std::string(40'000, '>') + "A^K"); },
-         {"UB.mnu:2: error: " + noHeading + whenShown + removeMark}},
+         {{"UB.mnu:2", EndsShownSystem, noHeading}}},
         {"an empty line above a deeper entry",
          [] { WriteMenu("T\r\nA\r\n>B\r\n\r\n>>C^K\r\nD\r\n>E^L"); },
-         {"UB.mnu:2: warning: the heading \"A\" holds no program: operators open it in vain; put "
-          "programs below it, or remove it",
-          "UB.mnu:4: warning: an empty line: the menu shows it as a heading without text; remove it",
-          "UB.mnu:5: error: " + noHeading + ": the empty line 4 has closed the headings above it" +
-              whenShown + removeMark}},
+         {{"UB.mnu:2", None, "the heading \"A\" holds no program"},
+          {"UB.mnu:4", None, "an empty line"},
+          {"UB.mnu:5", EndsShownSystem, noHeading + ": the empty line 4 has closed the headings above it"}}},
         {"a key twice",
          [] { WriteMenu("T\r\nA^K\r\nB^K"); },
-         {"UB.mnu:3: error: the key K is there already, in line 2" + whenShown + oneOfTwo}},
+         {{"UB.mnu:3", EndsShownSystem, "the key K is there already, in line 2"}}},
         {"a key that is a number",
          [] { WriteMenu("T\r\nA^0912^x"); },
-         {"UB.mnu:2: error: the key 0912 is a number" + whenShown + "name the program with its folder"}},
+         {{"UB.mnu:2", EndsShownSystem, "the key 0912 is a number"}}},
         {"one entry too many",
          [] {
              std::string entries;
@@ -134,70 +105,50 @@ std::vector<FaultyInstallation> FaultyMenuFiles() {
                  entries += "\rA^";
              WriteMenu("T" + entries);
          },
-         {"UB.mnu:32769: error: more than 32,767 entries" + whenShown +
-          "divide the system into several; from this line on, nothing has been checked"}},
-        {"keys that differ in case, no keys, a lone CR", [] { WriteMenu("T\rA^k\rB^K\rC^\rD^"); }, {}},
-        {"nothing but a title", [] { WriteMenu("T"); }, {}},
-        {"an empty title",
-         [] { WriteMenu(" ^T\r\nA^K"); },
-         {"UB.mnu:1: warning: the title is empty: the System List shows this system without a name; write it "
-          "in front of the first \"^\""}},
+         {{"UB.mnu:32769", EndsShownSystem, "more than 32,767 entries"}}},
         {"a key with a character of no file name",
          [] { WriteMenu("T\r\nA^a?"); },
-         {"UB.mnu:2: warning: the key a? holds the character ?" + inProperties + useLetters}},
-        {"a key with a drive",
-         [] { WriteMenu("T\r\nA^C:\\K"); },
-         {"UB.mnu:2: warning: the key C:\\K holds the character :" + inProperties + useLetters},
-         checkerOnly}, // Wine makes a folder of this name
+         {{"UB.mnu:2", EndsProperties, "the key a? holds the character ?"}}},
         {"a key with a control character",
          [] { WriteMenu("T\r\nA^K\x1B[2J"); },
-         {"UB.mnu:2: warning: the key K?[2J holds a control character" + inProperties + useLetters}},
+         {{"UB.mnu:2", EndsProperties, "the key K\x1B[2J holds a control character"}}},
         {"a key that is a device",
          [] { WriteMenu("T\r\nA^Core\\nul"); },
-         {"UB.mnu:2: warning: the key Core\\nul names a device of Windows (nul)" + inProperties +
-          useLetters}},
+         {{"UB.mnu:2", EndsProperties, "the key Core\\nul names a device of Windows (nul)"}}},
         {"a key that leads outside",
          [] { WriteMenu("T\r\nA^..\\K"); },
-         {"UB.mnu:2: warning: the key ..\\K holds \"..\": the program's settings file may lie outside of the "
-          "folder for these; write the program's path without it"}},
+         {{"UB.mnu:2", None, "the key ..\\K holds \"..\""}}},
         {"a second system with a fault",
          [] { Write("ZZ.mnu", "T\r\n>A^K"); },
-         {"Help\\ZZ\\Index.html: warning: missing: System Help does not open the document; put it there",
-          "ZZ.mnu:2: error: " + noHeading + whenShown + removeMark}},
+         {{"Help\\ZZ\\Index.html", None, "missing"}, {"ZZ.mnu:2", EndsShownSystem, noHeading}}},
         {"a hidden system with a fault",
          [] {
              Write("ZZ.mnu", "T\r\n>A^K");
              SetAttributes("ZZ.mnu", FILE_ATTRIBUTE_HIDDEN);
          },
-         {"ZZ.mnu: warning: hidden or a system file" + notListed + "take the attribute away (attrib -h -s)",
-          "ZZ.mnu:2: warning: " + noHeading +
-              ": the menu ends with an error on a workstation that shows this system; " + removeMark}},
+         {{"ZZ.mnu", None, "hidden or a system file"}, {"ZZ.mnu:2", None, noHeading}}},
         {"a system marked as a system file, which another program holds",
          [] {
              Write("ZZ.mnu", "T");
              SetAttributes("ZZ.mnu", FILE_ATTRIBUTE_SYSTEM);
              Hold("ZZ.mnu");
          },
-         {"ZZ.mnu: warning: hidden or a system file" + notListed + "take the attribute away (attrib -h -s)",
-          "ZZ.mnu: warning: " + Sharing() +
-              ": the menu ends with an error on a workstation that shows this system; " + closeProgram}},
+         {{"ZZ.mnu", None, isHeld}, {"ZZ.mnu", None, "hidden or a system file"}}},
         {"a name in capitals",
          [] { Write("ZZ.MNU", "T"); },
-         {"ZZ.MNU: warning: the name does not end in .mnu in small letters" + notListed + "rename the file"}},
+         {{"ZZ.MNU", None, "the name does not end in .mnu in small letters"}}},
         {"a folder with the name of a menu file",
          [] { MakeFolder("ZZ.mnu"); },
-         {"ZZ.mnu: warning: a folder" + notListed + "remove it, or put the menu file in its place"}},
+         {{"ZZ.mnu", None, "a folder"}}},
         {"no menu file",
          [] { Delete("UB.mnu"); },
-         {".: error: there is no menu file (*.mnu) here" + atStart +
-          "start the menu in the host's folder, and put the systems' menu files there"}},
+         {{".", EndsEveryStart, "there is no menu file (*.mnu) here"}}},
         {"a menu file that another program holds",
          [] { Hold("UB.mnu"); },
-         {"UB.mnu: error: " + Sharing() + atStart + closeProgram}},
+         {{"UB.mnu", EndsEveryStart, isHeld}}},
         {"two systems of one code",
          [] { Write("ub2.mnu", "T\r\nA^K"); },
-         {"ub2.mnu: warning: the system code ub is that of UB.mnu too: the host starts the same system for "
-          "both; rename one file"}},
+         {{"ub2.mnu", None, "the system code ub is that of UB.mnu too"}}},
     };
 }
 
@@ -209,89 +160,76 @@ std::vector<FaultyInstallation> RememberedSystems() {
              SetAttributes("ZZ.mnu", FILE_ATTRIBUTE_HIDDEN);
              Remember(" ZZ.mnu ");
          },
-         {"ZZ.mnu: warning: hidden or a system file" + notListed + "take the attribute away (attrib -h -s)",
-          "ZZ.mnu:2: error: " + noHeading + whenShown + removeMark}},
+         {{"ZZ.mnu", None, "hidden or a system file"}, {"ZZ.mnu:2", EndsShownSystem, noHeading}}},
         {"a remembered file that is no menu file", [] { Remember("UserWSID.sys"); }, {}},
     };
 }
 
 std::vector<FaultyInstallation> FaultyFiles() {
-    const std::string isMissing = ": error: missing";
     return {
         {"no configuration",
          [] { Delete(hostConfigurationFile); },
-         {"FennConfig.Sys: error: missing: the menu ends at every start with \"Config File Not found!\"; "
-          "restore the file, or start the menu in the host's folder"}},
+         {{"FennConfig.Sys", EndsEveryStart, "missing"}}},
         {"a folder in the place of the configuration",
          [] { PutFolderInPlaceOf(hostConfigurationFile); },
-         {"FennConfig.Sys: error: a folder has this name: the menu ends at every start with \"Config File "
-          "Not found!\"; " +
-          removeFolder}},
+         {{"FennConfig.Sys", EndsEveryStart, isFolder}}},
         {"a read-only configuration",
          [] { SetAttributes(hostConfigurationFile, FILE_ATTRIBUTE_READONLY); },
-         {"FennConfig.Sys: error: read-only: the menu ends with an error at a start that finds another "
-          "folder in it; take this attribute away (attrib -r)"}},
+         {{"FennConfig.Sys", EndsEveryStart, "read-only"}}},
         {"a configuration that another program holds",
          [] { Hold(hostConfigurationFile); },
-         {"FennConfig.Sys: error: " + Sharing() + atStart + closeProgram}},
+         {{"FennConfig.Sys", EndsEveryStart, isHeld}}},
         {"a configuration that another program keeps from being replaced",
          [] { Hold(hostConfigurationFile, FILE_SHARE_READ | FILE_SHARE_WRITE); },
-         {"FennConfig.Sys: warning: cannot be replaced (" + PlatformText(ERROR_SHARING_VIOLATION) +
-          "): the menu writes over it, which a lost connection may cut off in the middle; " + closeProgram}},
-        {"no Core",
-         [] { Delete(coreFolder); },
-         {"Core: error: this folder is missing" + atStart + "make it, with what belongs in it"}},
+         {{"FennConfig.Sys", None, "cannot be replaced (" + PlatformText(ERROR_SHARING_VIOLATION) + ")"}}},
+        {"no Core", [] { Delete(coreFolder); }, {{"Core", EndsEveryStart, "this folder is missing"}}},
         {"a file in the place of Core",
          [] { PutFileInPlaceOf(coreFolder); },
-         {"Core: error: a file has the name of this folder" + atStart + "remove the file"}},
+         {{"Core", EndsEveryStart, isFile}}},
         {"a folder in the place of the temporary file",
          [] { MakeFolder(temporaryConfigurationFile); },
-         {"Core\\TempOut.tmp: error: a folder has this name" + atStart + removeFolder}},
-        {"no library", [] { Delete(supportLibraryFile); }, {"Corvel.dll" + isMissing + atStart + putLibrary}},
-        {"a library without contents",
-         [] { Write(supportLibraryFile, ""); },
-         {"Corvel.dll: error: cannot be used (Corvel.dll is not a " + ownBits +
-          "-bit library. Use the one that came with ObrinMenu.exe: " + PlatformText(ERROR_INVALID_DATA) +
-          ")" + atStart + putLibrary}},
+         {{"Core\\TempOut.tmp", EndsEveryStart, isFolder}}},
+        {"no library", [] { Delete(supportLibraryFile); }, {{"Corvel.dll", EndsEveryStart, "missing"}}},
         {"a library of other bits",
          [] {
              Patch(supportLibraryFile, "PE\0\0"s + (is64 ? "\x64\x86" : "\x4C\x01"),
                    "PE\0\0"s + (is64 ? "\x4C\x01" : "\x64\x86"));
          },
-         {"Corvel.dll: error: cannot be used (Corvel.dll is not a " + ownBits +
-          "-bit library. Use the one that came with ObrinMenu.exe: " + PlatformText(ERROR_INVALID_DATA) +
-          ")" + atStart + putLibrary}},
+         {{"Corvel.dll", EndsEveryStart,
+           std::string("cannot be used (Corvel.dll is not a ") + (is64 ? "64" : "32") +
+               "-bit library. Use the one that came with ObrinMenu.exe: " + PlatformText(ERROR_INVALID_DATA) +
+               ")"}}},
         {"another library",
          [] { Patch(supportLibraryFile, "\0SetRegValue\0"s, "\0SetRegFalue\0"s); },
-         {"Corvel.dll: error: cannot be used (Looking for SetRegValue in Corvel.dll: " +
-          PlatformText(ERROR_PROC_NOT_FOUND) + ")" + atStart + putLibrary}},
+         {{"Corvel.dll", EndsEveryStart,
+           "cannot be used (Looking for SetRegValue in Corvel.dll: " + PlatformText(ERROR_PROC_NOT_FOUND) +
+               ")"}}},
         {"a library that needs another one",
          [] { Patch(supportLibraryFile, "OLEAUT32.dll", "OLEAUT99.dll"); },
-         {"Corvel.dll: error: cannot be used (Loading Corvel.dll: " + PlatformText(ERROR_MOD_NOT_FOUND) +
-          ")" + atStart + putLibrary}},
-        {"no host", [] { Delete(hostProgram); }, {"Fenn.exe" + isMissing + waitsForHost + "put it there"}},
+         {{"Corvel.dll", EndsEveryStart,
+           "cannot be used (Loading Corvel.dll: " + PlatformText(ERROR_MOD_NOT_FOUND) + ")"}}},
+        {"no host", [] { Delete(hostProgram); }, {{"Fenn.exe", WaitsForEver, "missing"}}},
         {"an empty host",
          [] { Write(hostProgram, ""); },
-         {"Fenn.exe: error: not a program that Windows can start" + waitsForHost + "install it again"}},
+         {{"Fenn.exe", WaitsForEver, "not a program that Windows can start"}}},
         {"a folder in the place of the host",
          [] { PutFolderInPlaceOf(hostProgram); },
-         {"Fenn.exe: error: a folder has this name" + waitsForHost + removeFolder},
+         {{"Fenn.exe", WaitsForEver, isFolder}},
          checkerOnly}, // Windows shows what is in the folder
         {"an empty menu program",
          [] { Write(menuProgram, ""); },
-         {"ObrinMenu.exe: error: not a program that Windows can start: the menu does not start; install it "
-          "again"},
+         {{"ObrinMenu.exe", WaitsForEver, "not a program that Windows can start"}},
          checkerOnly},
         {"a picture that is none",
          [] { Write(startupPictureFile, "no picture"); },
-         {"Startup.bmp: error: no picture that can be shown (" + PlatformText(ERROR_INVALID_DATA) + ")" +
-          atStart + "save the picture as a BMP file, or remove it"}},
+         {{"Startup.bmp", EndsEveryStart,
+           "no picture that can be shown (" + PlatformText(ERROR_INVALID_DATA) + ")"}}},
         {"a picture that another program holds",
          [] {
              Write(startupPictureFile, Bmp(4, 1));
              Hold(startupPictureFile);
          },
-         {"Startup.bmp: error: " + Sharing() + atStart + closeProgram}},
+         {{"Startup.bmp", EndsEveryStart, isHeld}}},
         {"pictures that are not shown",
          [] {
              Write(startupPictureFile, "no picture");
@@ -300,87 +238,60 @@ std::vector<FaultyInstallation> FaultyFiles() {
          {}},
         {"a folder in the place of the user records",
          [] { PutFolderInPlaceOf(userRecordsFile); },
-         {"UserWSID.sys: error: a folder has this name" + atStart + removeFolder}},
+         {{"UserWSID.sys", EndsEveryStart, isFolder}}},
         {"user records that another program only lets others read",
          [] { Hold(userRecordsFile, FILE_SHARE_READ); },
-         {"UserWSID.sys: error: cannot be written (" + PlatformText(ERROR_SHARING_VIOLATION) + ")" + atStart +
-          closeProgram}},
+         {{"UserWSID.sys", EndsEveryStart,
+           "cannot be written (" + PlatformText(ERROR_SHARING_VIOLATION) + ")"}}},
         {"a negative number of this user",
          [] { Write(userRecordsFile, UserWsidRecord(LoginName(), -7)); },
-         {"UserWSID.sys: error: record 1 gives the user " + LoginName() +
-          " the workstation number -7: the menu of this user waits without a window; remove the record, "
-          "and the menu asks"}},
-        {"a negative number of another user",
-         [] { AddUser("bert", -7); },
-         {"UserWSID.sys: error: record 2 gives the user bert the workstation number -7: the menu of this "
-          "user waits without a window; remove the record, and the menu asks"}},
-        {"two users of one number",
-         [] { AddUser("bert", 5); },
-         {"UserWSID.sys: warning: the users bert and " + LoginName() +
-          " both have the workstation number 5: they cannot work at the same time; remove one's record, and "
-          "the menu asks"},
-         checkerOnly},
+         {{"UserWSID.sys", WaitsForEver,
+           "record 1 gives the user " + LoginName() + " the workstation number -7"}}},
         {"a folder in the place of the register",
          [] { PutFolderInPlaceOf(updateRegisterFile); },
-         {"Updated.txt: error: a folder has this name" + whenRun + removeFolder}},
+         {{"Updated.txt", EndsProgramRun, isFolder}}},
         {"a register that another program holds",
          [] { Hold(updateRegisterFile); },
-         {"Updated.txt: error: " + Sharing() + whenRun + closeProgram}},
+         {{"Updated.txt", EndsProgramRun, isHeld}}},
         {"a read-only register",
          [] { SetAttributes(updateRegisterFile, FILE_ATTRIBUTE_READONLY); },
-         {"Updated.txt: error: read-only" + whenRun + "take this attribute away (attrib -r)"},
+         {{"Updated.txt", EndsProgramRun, "read-only"}},
          checkerOnly}, // Wine lets some users write it
-        {"a register with a part of a record",
-         [] { Write(updateRegisterFile, "0050"); },
-         {"Updated.txt: warning: the last record is cut off: the next workstation that is updated overwrites "
-          "it; cut the file to 3 bytes"}},
         {"a folder in the place of the marker file",
          [] { MakeFolder("Menu 5.txt"); },
-         {"Menu 5.txt: error: a folder has this name: the menu of workstation 5 ends with an error at every "
-          "start; " +
-          removeFolder}},
+         {{"Menu 5.txt", EndsEveryStart, isFolder}}},
         {"a folder in the place of another workstation's marker file",
          [] { MakeFolder("Menu 99.txt"); },
-         {"Menu 99.txt: error: a folder has this name: the menu of workstation 99 ends with an error at "
-          "every "
-          "start; " +
-          removeFolder}},
+         {{"Menu 99.txt", FailsForOthers, isFolder}}},
         {"a missing program of the update",
          [] { Delete("Tessel\\Exe\\Glass.Exe"); },
-         {"Tessel\\Exe\\Glass.Exe: warning: missing" + noCopy + "this program; put it there"},
+         {{"Tessel\\Exe\\Glass.Exe", None, "missing"}},
          checkerOnly},
         {"no programs for the update",
          [] {
              Delete("Tessel");
              Write(updateRegisterFile, "");
          },
-         {"Tessel\\Exe: warning: this folder is missing" + noCopy +
-          "anything; make it, with what belongs in it"}},
+         {{"Tessel\\Exe", None, "this folder is missing"}}},
         {"Tessel is not set",
          [] { Set(localHostVariable, ""); },
-         {"Tessel: warning: this variable is not set here: the update of a workstation copies to the root of "
-          "the current drive; set it on every workstation"},
+         {{"Tessel", None, "this variable is not set here"}},
          checkerOnly},
         {"Tessel leads to a file",
          [] { Set(localHostVariable, "UB.mnu"); },
-         {"Tessel: warning: this variable leads to UB.mnu: a file has the name of this folder" + noCopy +
-          "anything; remove the file, or correct the variable"},
+         {{"Tessel", None, "this variable leads to UB.mnu: " + isFile}},
          checkerOnly},
         {"Tessel is quoted",
          [] { Set(localHostVariable, "\"Local\""); },
-         {"Tessel: warning: this variable leads to \"Local\": cannot be used for new files (" +
-          PlatformText(ERROR_INVALID_NAME) + ")" + noCopy +
-          "anything; give the operators the right to modify it, or correct the variable"},
+         {{"Tessel", None,
+           "this variable leads to \"Local\": cannot be used for new files (" +
+               PlatformText(ERROR_INVALID_NAME) + ")"}},
          checkerOnly},
         {"a folder in the place of a help page",
          [] { PutFolderInPlaceOf("Help\\Index.html"); },
-         {"Help\\Index.html: warning: a folder has this name: Core Help does not open the document; " +
-          removeFolder},
+         {{"Help\\Index.html", None, isFolder}},
          checkerOnly},
-        {"no shortcut",
-         [] { Delete("Obrin-User.url"); },
-         {"Obrin-User.url: warning: missing: Obrin User Website does not open the document; put it there"},
-         checkerOnly},
+        {"no shortcut", [] { Delete("Obrin-User.url"); }, {{"Obrin-User.url", None, "missing"}}, checkerOnly},
         {"hidden files that are written",
          [] {
              SetAttributes(updateRegisterFile, FILE_ATTRIBUTE_HIDDEN);
@@ -391,106 +302,78 @@ std::vector<FaultyInstallation> FaultyFiles() {
 }
 
 std::vector<FaultyInstallation> FaultySettings() {
-    const std::string leads = "TesselTemp: warning: this variable leads to ";
-    const std::string isMissing = ": this folder is missing" + inProperties +
-                                  "make it, with what belongs in it, or correct the variable";
-    const std::string isFile = "a file has the name of this folder" + inProperties + "remove the file";
+    const std::string leadsTo = "this variable leads to ";
+    const std::string hasNoDrive = "this variable holds no drive or share: ";
     return {
-        {"settings that the dialog has saved",
-         [] {
-             MakeFolder("Temp\\Ini\\Core\\Programs");
-             Write("Temp\\Ini\\Core\\Programs\\CSBackup.ini", "Lines=1\r\nUnknown=x=y\r\n");
-         },
-         {}},
+        {"settings that the dialog has saved", [] { WriteSettings("Lines=1\r\nUnknown=x=y\r\n"); }, {}},
         {"a quoted folder",
          [] { Set(temporaryFolderVariable, "\"" + CurrentFolder() + "\\Temp\""); },
-         {"TesselTemp: warning: this variable holds no drive or share: \"HERE\\Temp\": settings lie in "
-          "another place for each folder that the menu is started in; give it "
-          "the whole path of a folder",
-          leads + "\"HERE\\Temp\", which holds the character \"" + inProperties +
-              "correct the variable, without quotation marks"}},
+         {{"TesselTemp", None, hasNoDrive + "\"HERE\\Temp\""},
+          {"TesselTemp", EndsProperties, leadsTo + "\"HERE\\Temp\", which holds the character \""}}},
         {"a relative folder that is missing",
          [] { Set(temporaryFolderVariable, "Nowhere"); },
-         {"TesselTemp: warning: this variable holds no drive or share: Nowhere: settings lie in another "
-          "place for each folder that the menu is started in; give it the whole path of a folder",
-          leads + "Nowhere" + isMissing}},
+         {{"TesselTemp", None, hasNoDrive + "Nowhere"},
+          {"TesselTemp", EndsProperties, leadsTo + "Nowhere: this folder is missing"}}},
         {"a file in the place of the folder",
          [] { Set(temporaryFolderVariable, CurrentFolder() + "\\UB.mnu"); },
-         {leads + "HERE\\UB.mnu: " + isFile + ", or correct the variable"}},
+         {{"TesselTemp", EndsProperties, leadsTo + "HERE\\UB.mnu: " + isFile}}},
         {"a missing drive",
          [] { Set(temporaryFolderVariable, "Q:\\Temp"); },
-         {leads + "Q:\\Temp" + isMissing}},
+         {{"TesselTemp", EndsProperties, leadsTo + "Q:\\Temp: this folder is missing"}}},
         {"a folder whose path is too long",
          [] { Set(temporaryFolderVariable, "C:\\" + std::string(250, 'x')); },
-         {leads + "C:\\" + std::string(197, 'x') + "..., which is too long" + inProperties +
-          "correct the variable, without quotation marks"},
+         {{"TesselTemp", EndsProperties,
+           leadsTo + "C:\\" + std::string(197, 'x') + "..., which is too long"}},
          checkerOnly}, // Wine takes longer paths than Windows
         {"a folder with a control character",
          [] { Set(temporaryFolderVariable, CurrentFolder() + "\\a\x01"); },
-         {leads + "HERE\\a?, which holds a control character" + inProperties +
-          "correct the variable, without quotation marks"}},
-        {"settings that a reader holds and lets others replace",
-         [] {
-             MakeFolder("Temp\\Ini\\Core\\Programs");
-             Write("Temp\\Ini\\Core\\Programs\\CSBackup.ini", "Lines=1");
-             Hold("Temp\\Ini\\Core\\Programs\\CSBackup.ini", FILE_SHARE_READ | FILE_SHARE_DELETE);
-         },
-         {}},
+         {{"TesselTemp", EndsProperties, leadsTo + "HERE\\a\x01, which holds a control character"}}},
+        {"a folder that is made", [] { Set(temporaryFolderVariable, CurrentFolder() + "\\New\\Temp"); }, {}},
         {"a key that is too long",
          [] { WriteMenu("T\r\nA^" + std::string(250, 'x')); },
-         {"UB.mnu:2: warning: the key " + std::string(200, 'x') +
-          "... makes the path of its settings file too long" + inProperties +
-          "shorten the key, or the path in TesselTemp"},
+         {{"UB.mnu:2", EndsProperties,
+           "the key " + std::string(200, 'x') + "... makes the path of its settings file too long"}},
          checkerOnly},
-        {"a folder that is made", [] { Set(temporaryFolderVariable, CurrentFolder() + "\\New\\Temp"); }, {}},
-        {"a file in the place of Ini",
-         [] { Write("Temp\\Ini", "x"); },
-         {Settings("") + ": warning: " + isFile}},
-        {"a file in the place of a folder of the key",
-         [] {
-             MakeFolder("Temp\\Ini");
-             Write("Temp\\Ini\\Core", "x");
-         },
-         {Settings("Core\\") + ": warning: " + isFile}},
-        {"settings without an equals sign",
-         [] {
-             MakeFolder("Temp\\Ini\\Core\\Programs");
-             Write("Temp\\Ini\\Core\\Programs\\CSBackup.ini", "Lines=1\r\nLines\r\n");
-         },
-         {Settings("Core\\Programs\\CSBackup.ini") + ": warning: no settings, line 2: there is no \"=\"" +
-          inProperties + "remove the file, and the dialog begins with the defaults"}},
-        {"a folder in the place of settings",
-         [] { MakeFolder("Temp\\Ini\\Core\\Programs\\CSBackup.ini"); },
-         {Settings("Core\\Programs\\CSBackup.ini") + ": warning: a folder has this name" + inProperties +
-          removeFolder}},
-        {"settings that another program holds",
-         [] {
-             MakeFolder("Temp\\Ini\\Core\\Programs");
-             Write("Temp\\Ini\\Core\\Programs\\CSBackup.ini", "Lines=1");
-             Hold("Temp\\Ini\\Core\\Programs\\CSBackup.ini");
-         },
-         {Settings("Core\\Programs\\CSBackup.ini") + ": warning: " + Sharing() + inProperties +
-          closeProgram}},
-        {"settings that are read-only",
-         [] {
-             MakeFolder("Temp\\Ini\\Core\\Programs");
-             Write("Temp\\Ini\\Core\\Programs\\CSBackup.ini", "Lines=1");
-             SetAttributes("Temp\\Ini\\Core\\Programs\\CSBackup.ini", FILE_ATTRIBUTE_READONLY);
-         },
-         {Settings("Core\\Programs\\CSBackup.ini") +
-          ": warning: read-only: OK and Apply in the Properties dialog end the menu with an error; take this "
-          "attribute away (attrib -r)"}},
         {"a slash where no folder is",
          [] { WriteMenu("T\r\nA^Core/CSBackup"); },
-         {"UB.mnu:2: warning: the key Core/CSBackup leads to a folder that is missing, and only those at "
-          "\"\\\" are made" +
-          inProperties + "write \"\\\" in the place of \"/\""}},
+         {{"UB.mnu:2", EndsProperties,
+           "the key Core/CSBackup leads to a folder that is missing, and only those at \"\\\" are made"}}},
         {"a slash where a folder is",
          [] {
              MakeFolder("Temp\\Ini\\Core");
              WriteMenu("T\r\nA^Core/CSBackup");
          },
          {}},
+        {"a file in the place of a folder of the key",
+         [] {
+             MakeFolder("Temp\\Ini");
+             Write("Temp\\Ini\\Core", "x");
+         },
+         {{"HERE\\Temp\\Ini\\Core\\", EndsProperties, isFile}}},
+        {"settings without an equals sign",
+         [] { WriteSettings("Lines=1\r\nLines\r\n"); },
+         {{settingsPlace, EndsProperties, "no settings, line 2: there is no \"=\""}}},
+        {"a folder in the place of settings",
+         [] { MakeFolder(csBackupSettings); },
+         {{settingsPlace, EndsProperties, isFolder}}},
+        {"settings that another program holds",
+         [] {
+             WriteSettings("Lines=1");
+             Hold(csBackupSettings);
+         },
+         {{settingsPlace, EndsProperties, isHeld}}},
+        {"settings that a reader holds and lets others replace",
+         [] {
+             WriteSettings("Lines=1");
+             Hold(csBackupSettings, FILE_SHARE_READ | FILE_SHARE_DELETE);
+         },
+         {}},
+        {"settings that are read-only",
+         [] {
+             WriteSettings("Lines=1");
+             SetAttributes(csBackupSettings, FILE_ATTRIBUTE_READONLY);
+         },
+         {{settingsPlace, EndsProperties, "read-only"}}},
     };
 }
 

@@ -1,16 +1,31 @@
-// Installations with one fault each: how it is made, and what the checker says of it.
+// Installations with one fault each: how it is made, and what the checker finds.
 #pragma once
+
+#include "end_to_end/MenuTrial.h"
 
 #include <string>
 #include <vector>
 
 namespace obrin::test {
 
+/// A finding without its consequence and remedy, which are words for the reader alone.
+struct ExpectedFinding {
+    std::string place; ///< "FILE" or "FILE:LINE", HERE for the current folder
+    Effect effect;
+    std::string problem;
+
+    auto operator<=>(const ExpectedFinding&) const = default;
+    friend void PrintTo(const ExpectedFinding& finding, std::ostream* output) {
+        *output << finding.place << ": " << finding.problem << ", ";
+        PrintTo(finding.effect, output);
+    }
+};
+
 struct FaultyInstallation {
     const char* name;
-    void (*breakIt)();              ///< a sound installation, the current folder
-    std::vector<std::string> added; ///< lines of the report, HERE for the current folder
-    bool menuIsTried = true;        ///< and not the checker alone
+    void (*breakIt)();                  ///< a sound installation, the current folder
+    std::vector<ExpectedFinding> added; ///< sorted
+    bool menuIsTried = true;            ///< and not the checker alone
 };
 
 /// By what the fault is in.
