@@ -1,5 +1,5 @@
-# What goes into the archives of ./package.sh: component `menu`, for workstations, and component `tests`, for trying
-# the programs on a Windows machine. Without folders: an archive is unpacked into the folder in which it is used.
+# What goes into the archives of ./package.sh: component `menu`, for workstations, and component `tests`, for running
+# the tests on a Windows machine. The archives hold no folders, because they are unpacked into the folder of use.
 install(TARGETS ObrinMenu ObrinCheck Corvel RUNTIME DESTINATION . COMPONENT menu)
 install(FILES ${GUIDE} DESTINATION . COMPONENT menu)
 

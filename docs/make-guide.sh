@@ -1,11 +1,11 @@
 #!/bin/bash
-# Makes the administrator's guide one HTML page that needs no other file: make-guide.sh VERSION PAGE
+# Converts the administrator's guide to one HTML page that needs no other file. Usage: make-guide.sh VERSION PAGE
 set -euo pipefail
 version=$1
 page=$(realpath -m "$2")
 cd "$(dirname "${BASH_SOURCE[0]}")"
 
-# Puts the pictures of a page into its text. A line with a picture holds nothing else.
+# Embeds the pictures of a page as data URIs. Expects at most one picture on a line.
 embed_pictures() {
   local line picture
   while IFS= read -r line; do

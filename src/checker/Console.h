@@ -7,11 +7,12 @@
 
 namespace obrin {
 
-/// Writes to standard output or standard error, and ignores errors. A console shows the characters of the
-/// workstation's code page; a file or pipe gets the bytes.
+/// Writes to a stream, STD_OUTPUT_HANDLE or STD_ERROR_HANDLE, and ignores errors. A console shows the
+/// characters of the workstation's code page; a file or pipe gets the bytes.
 void Write(DWORD stream, std::string_view text);
 
-/// Shows how many menu files have been checked, on a console, to somebody who has waited for a second.
+/// Shows on standard error how many menu files have been checked. Shows nothing during the first second, or
+/// if standard error is not a console.
 void ShowProgress(std::size_t done, std::size_t all);
 
 /// Waits for a key if the console closes with this program, as it does after a double click.

@@ -1,4 +1,4 @@
-// Makes a stock group box the parent of the controls in it.
+// Lets a stock group box be the parent of other controls.
 #pragma once
 
 #include "platform/WindowsApi.h"

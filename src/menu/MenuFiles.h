@@ -17,8 +17,8 @@ struct MenuFile {
 /// there are more than 99 files or a file cannot be read.
 std::vector<MenuFile> EnumerateMenuFiles();
 
-/// Adds the items mnuSystems(0), (1), ... to the first menu of a menu bar and removes the template. Without
-/// systems, removes that menu from the bar.
+/// Adds an item for each system (ID_SYSTEMS, ID_SYSTEMS + 1, ...) to the first menu of a menu bar, and
+/// removes the template item. Without systems, removes that menu from the bar.
 void FillSystemList(HMENU bar, const std::vector<MenuFile>& systems);
 
 } // namespace obrin

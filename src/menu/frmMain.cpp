@@ -211,12 +211,12 @@ void frmMain::Form_Resize() {
     };
     layout = Resize(layout, *margins, twips(outer.right - outer.left, outer.bottom - outer.top),
                     twips(inner.right, inner.bottom),
-                    {.label1 = OwnSize(Label1).width,
-                     .image1 = OwnSize(Image1.Window()).width,
-                     .label2 = OwnSize(Label2),
-                     .label3 = OwnSize(Label3),
-                     .label4 = OwnSize(Label4),
-                     .label5 = OwnSize(Label5)});
+                    {.label1 = SizeInTwips(Label1).width,
+                     .image1 = SizeInTwips(Image1.Window()).width,
+                     .label2 = SizeInTwips(Label2),
+                     .label3 = SizeInTwips(Label3),
+                     .label4 = SizeInTwips(Label4),
+                     .label5 = SizeInTwips(Label5)});
 
     const auto px = [this](double value) { return ToPixels(value, dpi); };
     const Box& frame = layout.frame1;
@@ -346,7 +346,7 @@ void frmMain::SetLabel(HWND label, const std::string& text) {
     SetWindowPos(label, nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-Size frmMain::OwnSize(HWND control) const {
+Size frmMain::SizeInTwips(HWND control) const {
     RECT size;
     GetWindowRect(control, &size);
     return {ToTwips(size.right - size.left, dpi), ToTwips(size.bottom - size.top, dpi)};
@@ -385,11 +385,11 @@ void frmMain::mnuSystems_Click(std::size_t index) {
     LoadSystem(name, ReadFileBytes(name));
 }
 
-void frmMain::LoadSystem(const std::string& fileName, std::string_view file) {
+void frmMain::LoadSystem(const std::string& fileName, std::string_view contents) {
     currentSystem = fileName;
     TreeView1.Clear();
     const LeadByteTest isLeadByte = CodePageLeadByteTest();
-    MenuDefinition definition = ParseMenuDefinition(file, isLeadByte);
+    MenuDefinition definition = ParseMenuDefinition(contents, isLeadByte);
     ThrowFirstFault(definition, fileName);
     // Uses the full path: Windows also looks for a name without a folder in other folders.
     const std::string pictureFile = EnsureTrailingBackslash(CurrentFolder(), isLeadByte) + startupPictureFile;

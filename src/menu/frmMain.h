@@ -60,10 +60,10 @@ private:
     SIZE DesignedOuterSize() const;
     void ApplyFonts();
     void SetLabel(HWND label, const std::string& text);
-    Size OwnSize(HWND control) const;
+    Size SizeInTwips(HWND control) const;
     void PopUp(int x, int y);
 
-    void LoadSystem(const std::string& fileName, std::string_view file);
+    void LoadSystem(const std::string& fileName, std::string_view contents);
     void RunSelectedProgram();
     void RunHostProgram(std::string_view program);
 
@@ -76,7 +76,7 @@ private:
     PictureBox Image1;
     HWND Label2 = nullptr; // user
     HWND Label3 = nullptr; // workstation number
-    HWND Label4 = nullptr;
+    HWND Label4 = nullptr; // text in front of the link
     HWND Label5 = nullptr; // link
 
     HWND lastFocus = nullptr; // the control that had the focus when the window was last active
@@ -90,8 +90,8 @@ private:
     std::int16_t wsid = 0;
     HostLink hostLink;
     std::vector<MenuFile> MnuFiles;
-    std::string currentSystem; // the tag of mnuSystems(99): name of the menu file shown
-    std::string propertiesKey; // the tag of TreeView1: key of the program last right-clicked
+    std::string currentSystem; // name of the menu file shown
+    std::string propertiesKey; // key of the program whose popup was opened last
     bool unloading = false;
 };
 

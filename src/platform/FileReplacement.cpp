@@ -17,8 +17,8 @@ std::optional<std::string> TryReadFile(const std::string& path) {
     }
 }
 
-// Creates a file next to `path` with a name that no other workstation uses. Returns nothing if the user has
-// no right to create one.
+// Creates a file next to `path` with a name that no other workstation uses. Returns nothing if that fails,
+// for example because the user has no right to create files.
 std::optional<File> MakeTemporaryFile(const std::string& path) {
     for (DWORD number = GetTickCount();; ++number) {
         try {
@@ -38,8 +38,8 @@ void WriteAndFlush(File& file, std::string_view bytes) {
     file.Close();
 }
 
-// Tests whether the user may delete the file and whether programs that have it open allow that. Under Wine a
-// replacement that fails half-way leaves files behind.
+// Tests whether the user may delete the file and whether programs that have it open allow that. Asked before
+// ReplaceFile, because under Wine a ReplaceFile that fails half-way leaves files behind.
 bool CanBeReplaced(const std::string& path) {
     const HANDLE handle =
         CreateFileA(path.c_str(), DELETE, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
@@ -50,8 +50,8 @@ bool CanBeReplaced(const std::string& path) {
     return true;
 }
 
-// Replaces the file by the temporary file, or renames the temporary file if there is no file to replace. A
-// replacement that fails half-way can also leave no file. Returns false on failure.
+// Replaces the file by the temporary file. Renames the temporary file if there is no file, or none any more:
+// a ReplaceFile that fails half-way can remove it. Returns false on failure.
 bool MoveIntoPlace(const std::string& path, const std::string& temporary) {
     if (CanBeReplaced(path) &&
         ReplaceFileA(FullPath(path).c_str(), FullPath(temporary).c_str(), nullptr, 0, nullptr, nullptr))
@@ -70,9 +70,9 @@ void WriteInPlace(const std::string& path, std::string_view bytes, const std::st
         WriteAndFlush(file, bytes);
     } catch (const RunTimeError& error) {
         if (opened && !temporary.empty())
-            action += "\r\nIts new contents are complete in " + temporary;
+            action += "\r\nThe complete new contents are in " + temporary;
         else
-            DeleteFileA(temporary.c_str()); // nothing was written
+            DeleteFileA(temporary.c_str()); // nothing was written, or there is none
         throw RunTimeError(error.Code(), action);
     }
     DeleteFileA(temporary.c_str());

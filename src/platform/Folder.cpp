@@ -50,7 +50,7 @@ std::vector<FolderEntry> ListMatching(const std::string& pattern) {
     WIN32_FIND_DATAA entry;
     const HANDLE found = FindFirstFileA(pattern.c_str(), &entry);
     if (found == INVALID_HANDLE_VALUE) {
-        if (GetLastError() == ERROR_FILE_NOT_FOUND) // the root of an empty drive
+        if (GetLastError() == ERROR_FILE_NOT_FOUND) // nothing matches
             return entries;
         ThrowLastError("Listing " + pattern);
     }
@@ -68,7 +68,7 @@ std::string FullPath(const std::string& path) {
     const DWORD length =
         GetFullPathNameA(path.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr);
     if (length == 0 || length >= full.size())
-        ThrowLastError("Finding " + path);
+        ThrowLastError("Getting the full path of " + path);
     full.resize(length);
     return full;
 }

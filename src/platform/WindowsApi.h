@@ -1,4 +1,5 @@
-// The only file that includes <windows.h>. The program calls the A functions.
+// The only header of the product that includes <windows.h>. Use the A functions: all texts are in the ANSI
+// code page.
 #pragma once
 
 #include <windows.h>

@@ -30,7 +30,7 @@ std::optional<int> ParseTypedMargin(std::string_view text) {
 }
 
 bool EqualsMargin(std::string_view text, int margin) {
-    // For equal decimal numbers both sides are the same double, because each is the nearest one.
+    // == is safe: the text "0.35" and 350 / 1000 both give the double that is nearest to 0.35.
     const double inches = std::min(LeadingNumber(text), largestMargin / perInch);
     return inches == margin / perInch;
 }

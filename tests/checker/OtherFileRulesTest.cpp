@@ -6,8 +6,8 @@
 namespace obrin {
 namespace {
 
-// The findings on records of these users, for the user anna.
-std::string Records(const std::vector<std::pair<std::string, std::int16_t>>& users) {
+// The report on records of these users when anna runs the checker.
+std::string ReportOn(const std::vector<std::pair<std::string, std::int16_t>>& users) {
     std::string bytes;
     for (const auto& [name, wsid] : users)
         bytes += UserWsidRecord(name, wsid);
@@ -15,18 +15,18 @@ std::string Records(const std::vector<std::pair<std::string, std::int16_t>>& use
 }
 
 TEST(UserRecordRules, FindNothingWhereEachUserHasANumber) {
-    EXPECT_EQ(Records({{"anna", 1}, {"bert", 99}}), "");
+    EXPECT_EQ(ReportOn({{"anna", 1}, {"bert", 99}}), "");
 }
 
-TEST(UserRecordRules, LookAtTheLastRecordOfAUser) {
+TEST(UserRecordRules, WarnOfASecondRecordAndIgnoreTheNumberInTheFirst) {
     EXPECT_EQ(
-        Records({{"anna", -1}, {"anna", 5}}),
+        ReportOn({{"anna", -1}, {"anna", 5}}),
         "F: warning: the user anna has the records 1 and 2: the last one counts; remove the others\r\n");
 }
 
 TEST(UserRecordRules, WarnOfNumbersThatAreNoWorkstation) {
     for (const std::int16_t wsid : std::initializer_list<std::int16_t>{0, 100})
-        EXPECT_EQ(Records({{"anna", wsid}}),
+        EXPECT_EQ(ReportOn({{"anna", wsid}}),
                   "F: warning: record 1 gives the user anna the workstation number " + std::to_string(wsid) +
                       ": it must be from 1 to 99; remove the record, so that the menu asks for a number\r\n");
 }
@@ -39,20 +39,20 @@ TEST(UserRecordRules, FindANegativeNumberOfAnyUser) {
 
 TEST(UserRecordRules, WarnOfUsersWithTheSameNumber) {
     EXPECT_EQ(
-        Records({{"anna", 5}, {"bert", 5}}),
+        ReportOn({{"anna", 5}, {"bert", 5}}),
         "F: warning: the users anna and bert both have the workstation number 5: they cannot work at the "
         "same time; remove the record of one, so that the menu asks for another number\r\n");
 }
 
 TEST(UserRecordRules, WarnOfUsersThatDifferInCaseAlone) {
     EXPECT_EQ(
-        Records({{"Anna", 1}, {"anna", 2}}),
+        ReportOn({{"Anna", 1}, {"anna", 2}}),
         "F: warning: the users Anna and anna differ in case alone: Windows takes them for one user, whose "
         "number depends on how the name is typed; give both records the same number\r\n");
 }
 
 TEST(UserRecordRules, LetOneUserInTwoSpellingsHaveOneNumber) {
-    EXPECT_EQ(Records({{"Anna", 1}, {"anna", 1}}), "");
+    EXPECT_EQ(ReportOn({{"Anna", 1}, {"anna", 1}}), "");
 }
 
 TEST(UpdateRegisterRules, WarnOfBytesThatAreNoDigits) {

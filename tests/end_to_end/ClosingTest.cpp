@@ -62,7 +62,7 @@ TEST(ErrorBox, EndsTheMenuWithoutTheOrderlyClose) {
     SendMessageA(menu.Window(), WM_CLOSE, 0, 0); // has no effect any more
     menu.Press("ObrinMenu", IDOK);
     EXPECT_EQ(menu.ExitCode(), 1);
-    EXPECT_TRUE(installation.HostGetsLast("UB")) << "no exit command";
+    EXPECT_TRUE(installation.HostGetsLast("UB")) << "the menu must not send the exit command";
     EXPECT_TRUE(FileExists("Menu 5.txt"));
 }
 

@@ -1,4 +1,4 @@
-// What the menu does in an installation, tried out in the order in which an operator would.
+// Uses the menu of an installation as an operator would, and finds out what stops it.
 #pragma once
 
 #include "checker/Finding.h"
@@ -16,7 +16,8 @@ namespace obrin::test {
 
 /// Starts the menu in the current folder, shows up to five systems, runs a program, opens the Properties of
 /// the programs among the first ten entries, confirms each with OK, and closes the menu. Returns what stops
-/// it first, or Effect::None. If WaitsForEver is `expected`, it does not wait long for the window.
+/// it first, or Effect::None. If `expected` is WaitsForEver, it waits only 1.5 seconds for
+/// the window.
 Effect TryMenu(Effect expected);
 
 /// Returns the effect of the findings that stops the menu first, or Effect::None.

@@ -48,7 +48,7 @@ TEST_F(OpenHost, StaysHiddenAfterNo) {
 
 TEST_F(OpenHost, IsShownAfterYes) {
     Answer(IDYES);
-    // A host that hangs must not hang the menu: the host may show itself when the menu has ended already.
+    // The menu does not wait for the host, which may hang. So the host may appear after the menu has ended.
     EXPECT_TRUE(Eventually([&] { return IsWindowVisible(host) && !IsIconic(host); }));
 }
 

@@ -21,7 +21,7 @@ TEST(FindUpdateKey, FindsTheRecordOfTheKeyOrThePlaceForIt) {
         {"001002", true, 2, "in the second record"},
         {"", false, 1, "an empty register"},
         {"100200", false, 3, "the key is there only across two records"},
-        {"00100", false, 2, "over the damaged end"},
+        {"00100", false, 2, "in the place of the damaged record at the end"},
     };
     for (const auto& [registered, updated, record, reason] : cases) {
         const UpdateSearch found = FindUpdateKey(registered, "002");

@@ -37,7 +37,7 @@ TEST_F(FileTest, ReadingWaitsForAFileThatIsHeldForAMoment) {
     EXPECT_EQ(ReadFileIfThere("f"), "text");
 }
 
-TEST_F(FileTest, WaitsForNoFileLongerThanAboutASecond) {
+TEST_F(FileTest, ReadingGivesUpOnAHeldFileAfterAboutASecond) {
     WriteFileBytes("f", "text");
     const test::HeldFile writer("f", 0);
     const ULONGLONG start = GetTickCount64();
@@ -54,17 +54,23 @@ TEST_F(FileTest, HiddenFileIsWritten) {
     EXPECT_EQ(ReadFileBytes("f"), "new");
 }
 
-TEST_F(FileTest, FirstLineIsReadOfAnyLength) {
+TEST_F(FileTest, FirstLineMayHaveAnyLength) {
     const std::string longLine(10'000, 'x');
     WriteFileBytes("f", longLine + "\r\nsecond");
     EXPECT_EQ(ReadFirstLine("f"), longLine);
+}
+
+TEST_F(FileTest, FirstLineOfAnEmptyFileIsAnError) {
     WriteFileBytes("f", "");
     EXPECT_THROW(ReadFirstLine("f"), RunTimeError);
 }
 
-TEST_F(FileTest, ShortPathIsEmptyWhenItDoesNotFit) {
-    EXPECT_GT(ShortPath(CurrentFolder()).size(), 2U);
+TEST_F(FileTest, ShortPathOfAMissingFolderIsEmpty) {
     EXPECT_EQ(ShortPath("C:\\missing\\folder"), "");
+}
+
+TEST_F(FileTest, ShortPathHasAtMost163Characters) {
+    EXPECT_GT(ShortPath(CurrentFolder()).size(), 2U);
     std::string deep = CurrentFolder();
     while (deep.size() < 200) {
         CreateFolder(deep += "\\ab");

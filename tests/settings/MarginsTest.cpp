@@ -14,8 +14,8 @@ TEST(Margin, IsTheNumberAtTheStartOfATextInThousandthsOfAnInch) {
         std::optional<int> typed;
     } const cases[] = {
         {"0.500", 500, 500},           {" 1.2344 in", 1234, 1234},
-        {"1.2346", 1235, 1235},        {"4.001", 4000, 4000}, // the largest margin
-        {"9e999", 4000, 4000},         {"0.25", 250, 250},    // the smallest one
+        {"1.2346", 1235, 1235},        {"4.001", 4000, 4000}, // limited to the largest margin
+        {"9e999", 4000, 4000},         {"0.25", 250, 250},    // the smallest margin
         {"0.2499", 250, std::nullopt}, {"-9e999", 250, std::nullopt},
         {"none", 250, std::nullopt},   {"", 250, std::nullopt},
     };
@@ -31,7 +31,7 @@ TEST(EqualsMargin, IsTrueForEveryWayOfWritingTheMargin) {
     EXPECT_FALSE(EqualsMargin("2.0501", 2050)) << "only near";
 }
 
-TEST(EqualsMargin, TakesANumberBeyondTheLargestMarginForThatOne) {
+TEST(EqualsMargin, TreatsALargerNumberAsTheLargestMargin) {
     EXPECT_TRUE(EqualsMargin("5", largestMargin));
     EXPECT_FALSE(EqualsMargin("5", 3990));
 }
@@ -42,7 +42,7 @@ TEST(CaretAfterChange, KeepsItsPlaceRelativeToTheDecimalPoint) {
         std::string before, after;
     } const cases[] = {
         {".5|", "0.5|"}, {"00.7|5", "0.7|5"}, {"01|.5", "1|.5"},
-        {"01|", "1|"},   {"00|3", "|3"},     // without a point: to the end
+        {"01|", "1|"},   {"00|3", "|3"},     // without a point, it keeps its distance to the end
         {"|012", "|4"},  {"0.500|", "0.5|"}, // stays inside the text
     };
     for (const auto& [before, after] : cases) {
