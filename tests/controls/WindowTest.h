@@ -5,13 +5,10 @@
 #include "controls/InputBox.h"
 #include "maintenance/frmAbout.h"
 #include "maintenance/frmUpdate.h"
-#include "menu/frmMain.h"
-#include "platform/Events.h"
-#include "platform/Workstation.h"
+#include "menu/ShownMenu.h"
 #include "resources/Ids.h"
 #include "settings/Form2.h"
 #include "startup/HostNotice.h"
-#include "startup/UserRecords.h"
 #include "support/DialogTest.h"
 #include "support/LocalMachine.h"
 #include "support/ScratchFolder.h"
@@ -64,35 +61,15 @@ public:
         act(DialogOver(owner));
     }
     void WhileMenu(const WindowAction& act) {
-        MakeHost();
-        WriteFileBytes("UserWSID.sys", UserWsidRecord(LoginName(), 5));
-        WriteFileBytes("UB.mnu", "Utility Billing\r\nBackup^Core\\Programs\\CSBackup\r\n");
-        WriteFileBytes("Startup.bmp", Bmp(120, 90));
-        frmMain menu;
-        menu.Show();
+        const ShownMenu menu;
         // At 192 DPI it still fits on the screen.
         SetWindowPos(menu.Window(), nullptr, 30, 20, 600, 450, SWP_NOZORDER);
         act(menu.Window());
-        SendMessageA(menu.Window(), WM_CLOSE, 0, 0);
-        RunEvents(); // the closed window has asked to end the program
     }
 
     const ScratchFolder folder;
     const LocalMachine machine;
     const SupportLibrary corvel;
-
-private:
-    // Makes the windows of a host. The menu finds the station window and types into its child. `owner` takes
-    // both with it when it is destroyed.
-    void MakeHost() const {
-        WNDCLASSA hostClass{};
-        hostClass.lpfnWndProc = DefWindowProcA;
-        hostClass.lpszClassName = hostWindowClass;
-        RegisterClassA(&hostClass);
-        const HWND station = CreateWindowExA(0, hostWindowClass, "Obrin-05", WS_VISIBLE, 0, 0, 0, 0, owner,
-                                             nullptr, nullptr, nullptr);
-        CreateWindowExA(0, WC_STATICA, "", WS_CHILD, 0, 0, 0, 0, station, nullptr, nullptr, nullptr);
-    }
 };
 
 using WhileWindow = void (WindowTest::*)(const WindowAction&);

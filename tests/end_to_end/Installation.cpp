@@ -30,34 +30,11 @@ const testing::Environment* const withoutForegroundLock =
 
 } // namespace
 
-bool Eventually(const std::function<bool()>& condition) {
-    // Once something has failed, the rest may fail for the same reason.
-    const ULONGLONG end = GetTickCount64() + (testing::Test::HasFailure() ? 1'000 : 20'000);
-    while (!condition()) {
-        if (GetTickCount64() > end)
-            return false;
-        Sleep(10);
-    }
-    return true;
-}
-
 bool KeepsForeground(HWND window) {
     return Eventually([&, times = 0]() mutable {
         times = GetForegroundWindow() == window ? times + 1 : 0;
         return times > 10;
     });
-}
-
-void PointAt(POINT place) {
-    EXPECT_TRUE(Eventually([&, arrived = 0]() mutable {
-        POINT pointer;
-        GetCursorPos(&pointer);
-        if (pointer.x == place.x && pointer.y == place.y)
-            return ++arrived > 5;
-        SetCursorPos(place.x, place.y);
-        arrived = 0;
-        return false;
-    }));
 }
 
 std::string TextOf(HWND window) {

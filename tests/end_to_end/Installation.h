@@ -7,28 +7,22 @@
 #include "platform/SupportLibrary.h"
 #include "resources/Ids.h"
 #include "startup/UserRecords.h"
+#include "support/Eventually.h"
 #include "support/Machine.h"
 #include "support/ScratchFolder.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
-#include <functional>
 #include <vector>
 
 namespace obrin::test {
 
 using Lines = std::vector<std::string>;
 
-/// Polls until the condition holds; false when it never did.
-bool Eventually(const std::function<bool()>& condition);
-
 /// Waits until the window has kept the keyboard for a while: when another one closes, the display hands it to
 /// and fro, and what is typed meanwhile is lost.
 bool KeepsForeground(HWND window);
-
-/// Moves the real pointer. The display may report late where it was before, which undoes the move.
-void PointAt(POINT place);
 
 /// The text of a window of another process, controls included.
 std::string TextOf(HWND window);

@@ -1,14 +1,13 @@
 // The link "E-Mail us!" of the menu window, and the pointer, which it changes for the whole window.
 
-#include "end_to_end/Input.h"
-#include "end_to_end/MenuHere.h"
-
-#include "support/WindowChecks.h"
+#include "menu/MenuWindowTest.h"
+#include "support/Eventually.h"
+#include "support/RecordingShell.h"
 
 namespace obrin::test {
 namespace {
 
-class Link : public MenuHere {
+class Link : public MenuWindowTest {
 protected:
     // Moves the pointer to a place of a control and returns its shape there.
     static HCURSOR PointerOver(HWND control, LONG x, LONG y) {
@@ -29,7 +28,7 @@ TEST_F(Link, IsOpenedOnceByEnterOrSpaceAlsoWhenHeld) {
         SendMessageA(link, WM_KEYDOWN, key, 0);
         SendMessageA(link, WM_KEYDOWN, key, LPARAM{KF_REPEAT} << 16);
     }
-    EXPECT_EQ(OpenedDocuments(), (Lines{shortcut, shortcut}));
+    EXPECT_EQ(TakeOpenedDocuments(), (std::vector<std::string>{shortcut, shortcut}));
 }
 
 TEST_F(Link, TakesEnterButLeavesTabToTheDialogManager) {
@@ -44,7 +43,7 @@ TEST_F(Link, IsOpenedOnceByADoubleClick) {
     SendMessageA(link, WM_LBUTTONDOWN, MK_LBUTTON, 0);
     SendMessageA(link, WM_LBUTTONUP, 0, 0);
     SendMessageA(link, WM_LBUTTONDBLCLK, MK_LBUTTON, 0);
-    EXPECT_EQ(OpenedDocuments(), Lines{shortcut});
+    EXPECT_EQ(TakeOpenedDocuments(), std::vector<std::string>{shortcut});
 }
 
 TEST_F(Link, ShowsTheFocusWhileItHasTheKeyboard) {
@@ -70,9 +69,9 @@ TEST_F(Link, HasTheColoursOfALinkOnTheWindowsBackground) {
 }
 
 TEST_F(Link, TurnsThePointerIntoACrosshairThatOtherControlsKeep) {
-    EXPECT_EQ(PointerOver(idea, 5, 5), arrow);
-    for (const HWND control : {link, idea, title, tree})
-        EXPECT_EQ(PointerOver(control, 5, 5), crosshair) << TextOf(control);
+    EXPECT_EQ(PointerOver(question, 5, 5), arrow);
+    for (const HWND control : {link, question, title, tree})
+        EXPECT_EQ(PointerOver(control, 5, 5), crosshair) << Name(control);
     EXPECT_EQ(PointerOver(frame, 4, 100), crosshair);
     EXPECT_FALSE(SendMessageA(window, WM_SETCURSOR, reinterpret_cast<WPARAM>(window),
                               MAKELPARAM(HTRIGHT, WM_MOUSEMOVE)))

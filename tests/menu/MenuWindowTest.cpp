@@ -1,16 +1,14 @@
-// The menu window: where its controls stand, how they look, and how the keyboard moves in it. What holds for
-// every window has its own tests.
+// The menu window: the places and looks of its controls, and where the focus goes. EveryWindowTest has what
+// it has in common with the other windows.
 
-#include "end_to_end/MenuHere.h"
-
+#include "menu/MenuWindowTest.h"
 #include "common/Twips.h"
-#include "controls/Window.h"
-#include "support/WindowChecks.h"
+#include "support/RecordingShell.h"
 
 namespace obrin::test {
 namespace {
 
-class MenuWindow : public MenuHere {
+class MenuWindow : public MenuWindowTest {
 protected:
     void Resize(int width, int height) const {
         SetWindowPos(window, nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER);
@@ -42,7 +40,7 @@ TEST_F(MenuWindow, OpensAsDesigned) {
     EXPECT_EQ(PlaceOf(picture).top, 120);
 }
 
-// The rules have their own tests.
+// MenuLayoutTest has the rules.
 TEST_F(MenuWindow, ControlsFollowItsSize) {
     const SIZE before = SizeOf(PlaceOf(window)), frameBefore = SizeOf(PlaceOf(frame));
     Resize(before.cx + 200, before.cy + 100);
@@ -50,14 +48,14 @@ TEST_F(MenuWindow, ControlsFollowItsSize) {
     EXPECT_EQ(SizeOf(PlaceOf(frame)).cy, frameBefore.cy + 100);
     RECT inner;
     GetClientRect(window, &inner);
-    const double twips = GetDpiForWindow(window) / twipsPerInch; // in pixels
+    const double pixelsPerTwip = GetDpiForWindow(window) / twipsPerInch;
     constexpr double rounding = 0.5;
-    EXPECT_NEAR(inner.right - PlaceOf(link).right, 100 * twips, rounding);
-    EXPECT_NEAR(inner.bottom - PlaceOf(link).bottom, 20 * twips, rounding);
-    EXPECT_EQ(PlaceOf(idea).right, PlaceOf(link).left);
+    EXPECT_NEAR(inner.right - PlaceOf(link).right, 100 * pixelsPerTwip, rounding);
+    EXPECT_NEAR(inner.bottom - PlaceOf(link).bottom, 20 * pixelsPerTwip, rounding);
+    EXPECT_EQ(PlaceOf(question).right, PlaceOf(link).left);
     for (const HWND centred : {title, user, number, picture}) {
         const RECT place = PlaceOf(centred);
-        EXPECT_NEAR(place.left + place.right, PlaceOf(frame).right + before.cx + 200, 2) << TextOf(centred);
+        EXPECT_NEAR(place.left + place.right, PlaceOf(frame).right + before.cx + 200, 2) << Name(centred);
     }
 }
 
@@ -66,8 +64,8 @@ TEST_F(MenuWindow, LinkAndItsLabelComeBeforeTheFrameAfterAResize) {
         SetWindowPos(control, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
     Resize(1000, 700);
     EXPECT_EQ(GetWindow(window, GW_CHILD), link);
-    EXPECT_EQ(GetWindow(link, GW_HWNDNEXT), idea);
-    EXPECT_EQ(GetWindow(idea, GW_HWNDNEXT), frame);
+    EXPECT_EQ(GetWindow(link, GW_HWNDNEXT), question);
+    EXPECT_EQ(GetWindow(question, GW_HWNDNEXT), frame);
 }
 
 TEST_F(MenuWindow, IsCentredOnItsScreenAndNoLargerThanIt) {
@@ -85,24 +83,24 @@ TEST_F(MenuWindow, IsCentredOnItsScreenAndNoLargerThanIt) {
 TEST_F(MenuWindow, HasTheFontsOfItsDesign) {
     MoveToScreenOf(96);
     EXPECT_EQ(FontOf(title), "Comic Sans MS-24b") << "bold";
-    EXPECT_EQ(FontOf(idea), "Georgia-13");
+    EXPECT_EQ(FontOf(question), "Georgia-13");
     EXPECT_EQ(FontOf(link), "Georgia-13u") << "underlined";
     EXPECT_EQ(FontOf(button), "MS Sans Serif-11");
 }
 
-TEST_F(MenuWindow, PictureGrowsWithTheScreenWholeAndSmoothly) {
+TEST_F(MenuWindow, PictureIsScaledSmoothlyToTheDpi) {
     MoveToScreenOf(144);
     EXPECT_EQ(SizeOf(PlaceOf(picture)).cx, 180);
     const UniqueDc memory(CreateCompatibleDC(nullptr));
     const LRESULT image = SendMessageA(picture, STM_GETIMAGE, IMAGE_BITMAP, 0);
-    const HGDIOBJ none = SelectObject(memory.get(), reinterpret_cast<HBITMAP>(image));
+    const HGDIOBJ old = SelectObject(memory.get(), reinterpret_cast<HBITMAP>(image));
     bool hasGrey = false; // in the last line of a picture of black and white
     for (int x = 0; x < 180; ++x) {
         const COLORREF pixel = GetPixel(memory.get(), x, 134);
         hasGrey = hasGrey || (pixel != CLR_INVALID && pixel != RGB(0, 0, 0) && pixel != RGB(255, 255, 255));
     }
     EXPECT_TRUE(hasGrey);
-    SelectObject(memory.get(), none);
+    SelectObject(memory.get(), old);
 }
 
 TEST_F(MenuWindow, ShowsLevelsAndTheSelectionAndCanBeSized) {
@@ -111,11 +109,24 @@ TEST_F(MenuWindow, ShowsLevelsAndTheSelectionAndCanBeSized) {
     EXPECT_TRUE(HasStyle(window, WS_OVERLAPPEDWINDOW));
 }
 
-TEST_F(MenuWindow, KeyboardComesBackFromAnotherWindowToItsControl) {
+TEST_F(MenuWindow, FocusReturnsToTheLastControlFromAnotherWindow) {
     SetFocus(button);
     SendMessageA(window, WM_ACTIVATE, WA_INACTIVE, 0);
     SetFocus(window);
     EXPECT_EQ(GetFocus(), button);
+}
+
+TEST_F(MenuWindow, OpensTheAboutBoxOverItself) {
+    const auto choose = [this] { SendMessageA(window, WM_COMMAND, ID_ABOUT, 0); };
+    EXPECT_TRUE(ActInDialog(window, choose, [this](HWND box) {
+        EXPECT_EQ(WindowText(box), "Obrin Software Systems");
+        EXPECT_FALSE(IsWindowEnabled(window));
+    }));
+}
+
+TEST_F(MenuWindow, OpensTheHelpOfTheShownSystem) {
+    SendMessageA(window, WM_COMMAND, ID_SYSTEM_HELP, 0);
+    EXPECT_EQ(TakeOpenedDocuments(), std::vector<std::string>{"Help\\UB\\Index.html"});
 }
 
 } // namespace
