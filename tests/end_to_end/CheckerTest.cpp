@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <map>
+#include <tuple>
 
 namespace obrin::test {
 namespace {
@@ -74,7 +75,8 @@ std::vector<ExpectedFinding> InShort(const Findings& findings) {
         result.push_back(
             {WithoutFolder(place.file) + (place.line == 0 ? "" : ':' + std::to_string(place.line)), effect,
              WithoutFolder(trouble.problem)});
-    std::ranges::sort(result);
+    std::ranges::sort(
+        result, {}, [](const ExpectedFinding& finding) { return std::tie(finding.place, finding.problem); });
     return result;
 }
 

@@ -14,7 +14,7 @@ struct ExpectedFinding {
     Effect effect;
     std::string problem;
 
-    auto operator<=>(const ExpectedFinding&) const = default;
+    bool operator==(const ExpectedFinding&) const = default;
     friend void PrintTo(const ExpectedFinding& finding, std::ostream* output) {
         *output << finding.place << ": " << finding.problem << ", ";
         PrintTo(finding.effect, output);
@@ -24,7 +24,7 @@ struct ExpectedFinding {
 struct FaultyInstallation {
     const char* name;
     void (*breakIt)();                  ///< a sound installation, the current folder
-    std::vector<ExpectedFinding> added; ///< sorted
+    std::vector<ExpectedFinding> added; ///< sorted by place and problem
     bool menuIsTried = true;            ///< and not the checker alone
 };
 
