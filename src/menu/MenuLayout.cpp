@@ -31,7 +31,7 @@ LayoutMargins RecordMargins(Size outer, const MenuLayout& layout) {
 }
 
 MenuLayout Resize(MenuLayout layout, const LayoutMargins& margins, Size outer, Size inner,
-                  const OwnSizes& own) {
+                  const ContentSizes& contents) {
     Box& frame = layout.frame1;
     Box& tree = layout.treeView1;
     // If the window is too small for the margins, frame and tree keep their size.
@@ -45,21 +45,21 @@ MenuLayout Resize(MenuLayout layout, const LayoutMargins& margins, Size outer, S
         tree.height = RequireFinite(frame.height - margins.treeHeight);
     layout.command1.top = tree.top + tree.height + design::command1Gap;
 
-    // Uses the outer width, as the system always did: the result is slightly right of the true centre.
+    // Uses the outer width, as the menu has always done: the result is slightly right of the true centre.
     const double right = frame.left + frame.width;
     const auto centred = [&](double width) {
         return RequireFinite(right + (outer.width - right) / 2 - width / 2);
     };
-    layout.label1Left = centred(own.label1);
-    layout.image1.left = centred(own.image1);
-    layout.label2Left = centred(own.label2.width);
-    layout.label3.left = centred(own.label3.width);
-    layout.label3.top = std::max(design::label3Top, design::label2Top + own.label2.height);
-    layout.image1.top = std::max(design::image1Top, layout.label3.top + own.label3.height);
+    layout.label1Left = centred(contents.label1);
+    layout.image1.left = centred(contents.image1);
+    layout.label2Left = centred(contents.label2.width);
+    layout.label3.left = centred(contents.label3.width);
+    layout.label3.top = std::max(design::label3Top, design::label2Top + contents.label2.height);
+    layout.image1.top = std::max(design::image1Top, layout.label3.top + contents.label3.height);
 
-    layout.label5 = {RequireFinite(inner.width - own.label5.width - 100),
-                     RequireFinite(inner.height - own.label5.height - 20)};
-    layout.label4 = {RequireFinite(layout.label5.left - own.label4.width), layout.label5.top};
+    layout.label5 = {RequireFinite(inner.width - contents.label5.width - 100),
+                     RequireFinite(inner.height - contents.label5.height - 20)};
+    layout.label4 = {RequireFinite(layout.label5.left - contents.label4.width), layout.label5.top};
     return layout;
 }
 

@@ -23,8 +23,8 @@ struct LayoutMargins {
     std::int32_t treeHeight; ///< Frame1 height - TreeView1 height
 };
 
-/// The sizes of the controls that depend on their text or picture.
-struct OwnSizes {
+/// The sizes of controls that are as large as their text or picture.
+struct ContentSizes {
     double label1, image1; ///< widths
     Size label2, label3, label4, label5;
 };
@@ -57,6 +57,6 @@ LayoutMargins RecordMargins(Size outer, const MenuLayout& layout);
 
 /// Returns the layout after a resize of the window. Throws RunTimeError if a position is not a finite number.
 MenuLayout Resize(MenuLayout layout, const LayoutMargins& margins, Size outer, Size inner,
-                  const OwnSizes& own);
+                  const ContentSizes& contents);
 
 } // namespace obrin

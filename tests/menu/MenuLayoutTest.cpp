@@ -18,8 +18,8 @@ constexpr MenuLayout designed{.frame1 = {.left = 100, .top = 50, .width = 4000, 
 constexpr LayoutMargins margins{.height = 1000, .width = 1000, .treeWidth = 200, .treeHeight = 300};
 
 // The layout in a window of that outer size, whose frame takes 200 of the width and 500 of the height.
-MenuLayout At(Size outer, const OwnSizes& own = {}) {
-    return Resize(designed, margins, outer, {outer.width - 200, outer.height - 500}, own);
+MenuLayout At(Size outer, const ContentSizes& contents = {}) {
+    return Resize(designed, margins, outer, {outer.width - 200, outer.height - 500}, contents);
 }
 
 TEST(RecordMargins, AreTheDesignedDistancesInWholeTwips) {
@@ -56,12 +56,12 @@ TEST(Resize, CommandIsBelowTheTree) {
 }
 
 TEST(Resize, RightHandControlsAreCentredInTheOuterWidthBesideTheFrame) {
-    OwnSizes own{};
-    own.label1 = 2000; // overlaps the frame
-    own.image1 = 500;
-    own.label2.width = 300;
-    own.label3.width = 200;
-    const MenuLayout layout = At({9000, 8000}, own); // the frame ends at 8100, the middle is at 8550
+    ContentSizes contents{};
+    contents.label1 = 2000; // overlaps the frame
+    contents.image1 = 500;
+    contents.label2.width = 300;
+    contents.label3.width = 200;
+    const MenuLayout layout = At({9000, 8000}, contents); // the frame ends at 8100, the middle is at 8550
     EXPECT_EQ(layout.label1Left, 8550 - 1000);
     EXPECT_EQ(layout.image1.left, 8550 - 250);
     EXPECT_EQ(layout.label2Left, 8550 - 150);
@@ -69,34 +69,34 @@ TEST(Resize, RightHandControlsAreCentredInTheOuterWidthBesideTheFrame) {
 }
 
 TEST(Resize, RightHandControlsMoveDownBelowTallText) {
-    OwnSizes own{};
-    EXPECT_EQ(At({9000, 8000}, own).label3.top, design::label3Top);
-    EXPECT_EQ(At({9000, 8000}, own).image1.top, design::image1Top);
-    own.label2.height = 500;
-    own.label3.height = 700;
-    EXPECT_EQ(At({9000, 8000}, own).label3.top, design::label2Top + 500);
-    EXPECT_EQ(At({9000, 8000}, own).image1.top, design::label2Top + 500 + 700);
+    ContentSizes contents{};
+    EXPECT_EQ(At({9000, 8000}, contents).label3.top, design::label3Top);
+    EXPECT_EQ(At({9000, 8000}, contents).image1.top, design::image1Top);
+    contents.label2.height = 500;
+    contents.label3.height = 700;
+    EXPECT_EQ(At({9000, 8000}, contents).label3.top, design::label2Top + 500);
+    EXPECT_EQ(At({9000, 8000}, contents).image1.top, design::label2Top + 500 + 700);
 }
 
 TEST(Resize, LinkIsInTheInnerCorner) {
-    OwnSizes own{};
-    own.label5 = {.width = 600, .height = 250};
-    const MenuLayout layout = At({9000, 8000}, own); // 8800 x 7500 inside
+    ContentSizes contents{};
+    contents.label5 = {.width = 600, .height = 250};
+    const MenuLayout layout = At({9000, 8000}, contents); // 8800 x 7500 inside
     EXPECT_EQ(layout.label5.left + 600, 8800 - 100);
     EXPECT_EQ(layout.label5.top + 250, 7500 - 20);
 }
 
 TEST(Resize, QuestionTouchesTheLinkOnTheLeft) {
-    OwnSizes own{};
-    own.label4.width = 900;
-    const MenuLayout layout = At({9000, 8000}, own);
+    ContentSizes contents{};
+    contents.label4.width = 900;
+    const MenuLayout layout = At({9000, 8000}, contents);
     EXPECT_EQ(layout.label4.left + 900, layout.label5.left);
     EXPECT_EQ(layout.label4.top, layout.label5.top);
 }
 
 TEST(Resize, RefusesAnInfinitePosition) {
     EXPECT_THROW(RecordMargins({.width = infinite, .height = 4000}, designed), RunTimeError);
-    OwnSizes boundless{};
+    ContentSizes boundless{};
     boundless.label1 = infinite;
     EXPECT_THROW(At({infinite, 8000}), RunTimeError);
     EXPECT_THROW(At({9000, infinite}), RunTimeError);
