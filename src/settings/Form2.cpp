@@ -77,9 +77,9 @@ void Form2::OnCommand(int id, int notification) {
 // --- Load and pages ---
 
 void Form2::Form_Load() {
-    IniPath = SettingsPath(treeTag);
+    IniPath = SettingsPath(programKey);
     if (!FileExists(IniPath))
-        WriteDefaultSettings(IniPath, std::string(TrimBlanks(treeTag)));
+        WriteDefaultSettings(IniPath, std::string(TrimBlanks(programKey)));
     CreatePages();
     PrepareSliders();
     CreateTips();
@@ -241,7 +241,8 @@ void Form2::WriteMarginText(std::size_t index) {
         SendMessageA(box, EM_SETSEL, position, static_cast<LPARAM>(position));
 }
 
-// sldMargin_Change sets the text of the box, which calls this handler again. The slider then has that value.
+// sldMargin_Change sets the text of the box, which calls this handler again. The slider has the new value by
+// then, and the handler returns.
 void Form2::txtMargin_Change(std::size_t index) {
     const auto margin = ParseTypedMargin(WindowText(txtMargin[index]));
     if (!margin || *margin == SliderValue(index))
@@ -314,7 +315,7 @@ std::string Form2::ReadValue(std::size_t setting) const {
     const int control = settings[setting].control;
     // The user can edit the box, but the file always gets the key from the tree.
     if (control == IDC_TXT_PROGRAM_NAME)
-        return treeTag;
+        return programKey;
     if (const auto margin = IndexInArray(control, IDC_SLD_MARGIN); margin < sldMargin.size())
         return FormatThousandths(SliderValue(margin));
     // A box that the user has not edited may show only the start of a very long value.

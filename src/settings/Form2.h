@@ -13,10 +13,10 @@ namespace obrin {
 
 class Form2 final : public Dialog {
 public:
-    /// Keeps a reference to `programKey` and reads it when the dialog opens and each time it saves.
-    Form2(const SupportLibrary& supportLibrary, const std::string& programKey)
+    /// Keeps a reference to `selectedKey` and reads it when the dialog opens and each time it saves.
+    Form2(const SupportLibrary& supportLibrary, const std::string& selectedKey)
         : corvel(supportLibrary)
-        , treeTag(programKey) {}
+        , programKey(selectedKey) {}
 
     /// Shows the dialog modally. Returns when it is closed, or destroyed with the menu window.
     void Show(HWND owner);
@@ -51,12 +51,12 @@ private:
     void WriteMarginText(std::size_t index);
 
     const SupportLibrary& corvel;
-    const std::string& treeTag; // the program key in the tag of TreeView1
+    const std::string& programKey;
     std::string IniPath;
     std::string rememberedOrientation; // the text when the list was last opened
     LoadedSettings loadedValues;
     SettingValues shownTexts;  // the texts of the controls after the last load
-    std::size_t shownPage = 0; // the tag of TabStrip1
+    std::size_t shownPage = 0; // index of the page in front
 
     HWND TabStrip1 = nullptr;
     std::array<HWND, 3> Frame{};
