@@ -69,7 +69,7 @@ private:
             CheckKey(entry.key);
         } else {
             entry.text = line;
-            // Forgets deeper headings.
+            // Forgets deeper headings. The limit saves memory for a line of a million ">".
             headings.resize(std::min(depth, maxEntries) + 1, noHeading);
             headings.back() = static_cast<std::int16_t>(definition.entries.size() + 1);
         }
@@ -93,7 +93,7 @@ private:
             AddFault(MenuFault::Kind::NumberAsKey, "the key " + key + " is a number");
         const auto [first, isNew] = lineOfKey.try_emplace(key, lineNumber);
         if (!isNew)
-            AddFault(MenuFault::Kind::KeyTwice, "the key " + key + " is there already", first->second);
+            AddFault(MenuFault::Kind::KeyTwice, "the key " + key + " is already used", first->second);
     }
 
     void AddFault(MenuFault::Kind kind, std::string text, int firstLine = 0) {
