@@ -22,18 +22,18 @@ constexpr const char* nameAndVersion = "ObrinCheck " OBRIN_VERSION_TEXT;
 
 constexpr std::string_view usage =
     "usage: ObrinCheck [--tree] [FOLDER | FILE.mnu]...\r\n"
-    "Says what is wrong with installations of the Obrin menu, or with menu files (*.mnu: all of a "
+    "Says what is wrong with an installation of the Obrin menu, or with menu files (*.mnu for all of a "
     "folder).\r\n"
     "Without a path it checks the installation in the current folder. It changes no file.\r\n"
     "  --tree     first shows each system as an indented tree, with line numbers, and keys in brackets\r\n"
     "  --help     shows this text\r\n"
     "  --version  shows the version\r\n"
-    "It prints a line for each finding, in the order of files and lines:\r\n"
-    "  FILE:LINE: error: PROBLEM: CONSEQUENCE; REMEDY    stops the menu, for some operators at least\r\n"
-    "  FILE:LINE: warning: PROBLEM: CONSEQUENCE; REMEDY  does not, unless the consequence says so\r\n"
+    "It prints a line for each finding, sorted by file and line:\r\n"
+    "  FILE:LINE: error: PROBLEM: CONSEQUENCE; REMEDY    stops the menu, at least for some operators\r\n"
+    "  FILE:LINE: warning: PROBLEM: CONSEQUENCE; REMEDY  stops the menu only if CONSEQUENCE says so\r\n"
     "A finding on a file or folder as a whole has no LINE. The last line counts the findings.\r\n"
-    "Rights are tested for the user who runs it: run it as an operator. It looks at the variables Tessel\r\n"
-    "and TesselTemp of this workstation.\r\n"
+    "Rights are tested for the user who runs it: run it as an operator. It also checks the variables\r\n"
+    "Tessel and TesselTemp of this workstation.\r\n"
     "Exit code: 0 nothing or warnings only, 1 errors, 2 wrong options or a path that cannot be checked.\r\n";
 
 // Splits a command line at blanks. A "\" in front of a quotation mark is part of the path: many quoted paths
@@ -105,7 +105,8 @@ int Run() {
 } // namespace obrin
 
 int main() {
-    // As in the menu, nothing is loaded from the shared folder.
+    // As in the menu, Windows loads DLLs only from the system folder. SupportLibrary names the folders for
+    // Corvel.dll itself.
     SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
     int exitCode = obrin::notChecked;
     try {

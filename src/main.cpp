@@ -12,12 +12,13 @@ int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
     // program's folder. SupportLibrary names the folders for Corvel.dll itself.
     SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
     DisableProcessWindowsGhosting(); // no "(Not Responding)" while the menu waits for the host
-    // No question for a disk if a drive is empty. The host would inherit the mode from SetErrorMode.
+    // If a drive is empty, Windows must not ask for a disk. SetErrorMode would do this for the host too,
+    // because a started program inherits its mode.
     SetThreadErrorMode(SEM_FAILCRITICALERRORS, nullptr);
-    // At the end of the session, Windows must close the menu before the host (level 0x280), because the menu
-    // sends the exit command to the host.
+    // At the end of the session, Windows must close the menu before the host, which has the default level
+    // 0x280, because the menu sends the exit command to the host.
     SetProcessShutdownParameters(0x300, 0);
-    obrin::frmMain menu; // not in the lambda: an error box still processes the window's events
+    obrin::frmMain menu; // outlives the lambda, because an error box still processes the window's events
     return obrin::RunOrEndProgram([&] {
         // The shell needs COM to open documents and shortcuts.
         CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE);
