@@ -23,8 +23,8 @@ SIZE MeasureCharacter(HDC context) {
 // A font's average character is four dialog units wide and eight high.
 constexpr SIZE dialogUnitsPerCharacter{4, 8};
 
-// Converts between pixels and dialog units. `from` and `to` are the size of a character in each unit.
-// Position and size are converted separately, as the dialog manager does.
+// Converts between pixels and dialog units. `from` and `to` are the size of a character in the old and the
+// new unit. Position and size are converted separately, as the dialog manager does.
 RECT Convert(const RECT& bounds, SIZE from, SIZE to) {
     const int left = MulDiv(bounds.left, to.cx, from.cx);
     const int top = MulDiv(bounds.top, to.cy, from.cy);

@@ -43,7 +43,8 @@ LRESULT CALLBACK Procedure(HWND box, UINT message, WPARAM wParam, LPARAM lParam,
     case WM_CTLCOLORSTATIC:
         return SendMessageA(GetParent(box), message, wParam, lParam);
     case WM_ERASEBKGND:
-        // WM_PAINT fills the box. A themed button passes its own device context and gets its background here.
+        // WM_PAINT fills the box itself. A themed button in the box sends this message with its own device
+        // context, to get its background.
         if (WindowFromDC(target) != box)
             FillBackground(box, target);
         return TRUE;

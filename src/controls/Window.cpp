@@ -20,8 +20,8 @@ namespace {
 
 LRESULT CALLBACK HeldEnterProcedure(HWND button, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
                                     DWORD_PTR) noexcept {
-    // While Enter is held down, the button claims the repeated keys. The dialog manager then sends them to
-    // the button, which ignores Enter, and does not click the default button.
+    // While Enter is held down, the button claims the repeated keys. The dialog manager then does not click
+    // the default button, but sends the keys to this button, which ignores Enter.
     const auto* key = reinterpret_cast<const MSG*>(lParam);
     if (message == WM_GETDLGCODE && key != nullptr && key->message == WM_KEYDOWN &&
         key->wParam == VK_RETURN && (HIWORD(key->lParam) & KF_REPEAT) != 0)

@@ -15,7 +15,7 @@ constexpr std::uint32_t numberType = 4;
 constexpr std::string_view hexDigits = "0123456789ABCDEF";
 
 // Writes the bytes in hexadecimal from the last to the first. Each byte loses its leading zero: the bytes 05
-// 01 give 15 and not 105. The system has always done that.
+// 01 give 15 and not 105. The menu has always done that.
 std::string HexDigitsFromLast(std::string_view bytes) {
     std::string digits;
     std::for_each(bytes.rbegin(), bytes.rend(), [&](char byte) {
@@ -27,8 +27,9 @@ std::string HexDigitsFromLast(std::string_view bytes) {
     return digits;
 }
 
-// Returns the value of hexadecimal digits behind "&h". Up to four digits mean a signed 16-bit number, more
-// digits a signed 32-bit number: FFFF is -1, 10000 is 65536. Returns nothing if there is no such number.
+// Returns the value of hexadecimal digits. A value that fits into 16 bits is a signed 16-bit number, a larger
+// one a signed 32-bit number: FFFF and 0FFFF are -1, 10000 is 65536. Returns nothing if there are no digits
+// or if the value needs more than 32 bits.
 std::optional<int> SignedValue(std::string_view digits) {
     std::uint32_t value = 0;
     if (std::from_chars(digits.data(), digits.data() + digits.size(), value, 16).ec != std::errc())
@@ -38,7 +39,7 @@ std::optional<int> SignedValue(std::string_view digits) {
     return static_cast<std::int32_t>(value);
 }
 
-// Returns "&h" and the digits if they are not a number.
+// Returns the number in decimal, or "&h" and the digits if SignedValue returns nothing.
 std::string NumberText(std::string_view bytes) {
     const std::string digits = HexDigitsFromLast(bytes);
     const auto value = SignedValue(digits);

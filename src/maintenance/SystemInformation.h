@@ -11,7 +11,7 @@ namespace obrin {
 /// HKEY_LOCAL_MACHINE. On failure returns false and sets `value` to an empty text.
 bool QueryRegistryString(HKEY root, const char* keyName, const char* valueName, std::string& value);
 
-/// Starts the tool. Shows a message if there is none.
+/// Starts the tool. Shows a message if there is none or it cannot be started.
 void LaunchSystemInfo(HWND owner);
 
 } // namespace obrin

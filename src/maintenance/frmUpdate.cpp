@@ -45,7 +45,7 @@ INT_PTR frmUpdate::OnMessage(UINT message, WPARAM wParam, LPARAM) {
             Form_Resize();
         return TRUE;
     case WM_COMMAND:
-        // Enter sends IDOK even while the button is hidden. IDCANCEL comes from the close box.
+        // Enter sends IDOK even while the button is hidden. IDCANCEL comes from the close box or Esc.
         if ((LOWORD(wParam) == IDOK && IsWindowVisible(Command1)) || LOWORD(wParam) == IDCANCEL)
             Command1_Click();
         return TRUE;

@@ -14,7 +14,7 @@ struct MenuFile {
 };
 
 /// Returns the menu files of the current directory in the order of the file system. Throws RunTimeError if
-/// there are more than 99 files or a file cannot be read.
+/// there are more than 99 files, or if a file cannot be read or is empty.
 std::vector<MenuFile> EnumerateMenuFiles();
 
 /// Adds an item for each system (ID_SYSTEMS, ID_SYSTEMS + 1, ...) to the first menu of a menu bar, and

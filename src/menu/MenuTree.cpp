@@ -138,7 +138,7 @@ LRESULT MenuTree::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
             OpenPopupByKeyboard();
         else if (SendMessageA(window, WM_NCHITTEST, 0, lParam) != HTCLIENT)
             break; // a scroll bar has its own popup menu
-        return 0;  // RightMouseDown has handled the click
+        return 0;  // nothing to do after a click: RightMouseDown has handled it
     default:
         break;
     }

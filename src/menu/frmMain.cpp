@@ -338,7 +338,8 @@ void frmMain::ApplyFonts() {
     fonts = std::move(newFonts); // deletes the old fonts, which no control uses any more
 }
 
-// Resizes the label to its text. Label4 gets room for one more blank, because Label5 follows without a gap.
+// Sets the text of a label and resizes the label to it. Label4 gets room for one more blank, because Label5
+// follows without a gap.
 void frmMain::SetLabel(HWND label, const std::string& text) {
     SetWindowTextA(label, text.c_str());
     const auto font = reinterpret_cast<HFONT>(SendMessageA(label, WM_GETFONT, 0, 0));
@@ -396,7 +397,8 @@ void frmMain::LoadSystem(const std::string& fileName, std::string_view contents)
     if (NormalFileExists(pictureFile))
         Image1.Load(pictureFile, dpi);
     SetWindowTextA(window, menuCaption);
-    // In the System List "&" marks an access key. Here such a key would hide the same key of the menu bar.
+    // In the System List "&" marks an access key. The frame gets none: it would take its key away from the
+    // menu bar.
     const std::string title = RemoveAccessKeyMarks(TrimBlanks(definition.title));
     SetWindowTextA(Frame1, DoubleAmpersands(title).c_str());
     SetWindowTextA(TreeView1.Window(), title.c_str()); // only screen readers use this text

@@ -83,9 +83,9 @@ private:
 
     UINT dpi = USER_DEFAULT_SCREEN_DPI;
     Fonts fonts;
-    std::optional<LayoutMargins> margins; // set by Form_Load
+    std::optional<LayoutMargins> margins; // set by CreateControls
     MenuLayout layout = design::layout;
-    bool crosshair = false; // see OnSetCursor
+    bool crosshair = false; // whether the pointer is a crosshair, see OnSetCursor
 
     std::int16_t wsid = 0;
     HostLink hostLink;

@@ -13,7 +13,7 @@ namespace obrin {
 struct Setting {
     std::string_view key;
     int defaultString; ///< id of the default in the string table; 0 for an empty text
-    bool appendsName;  ///< whether the name of the program follows in the default
+    bool appendsName;  ///< whether the default ends with the name of the program
     int control;       ///< id in the Properties dialog; for a margin, of its slider
 };
 

@@ -14,8 +14,8 @@ HWND FirstChild(HWND station) {
     return station == nullptr ? nullptr : FindWindowExA(station, nullptr, nullptr, nullptr);
 }
 
-// Tells Windows why the end of the session must wait. A command that is typed during another one removes the
-// reason early; it is the exit command, and no other follows.
+// Tells Windows why the end of the session must wait. The exit command can be typed during another command.
+// It then removes the reason for both, but has also sent the keys of both.
 class ShutdownBlock {
 public:
     explicit ShutdownBlock(HWND aWindow)
@@ -56,8 +56,7 @@ void HostLink::StartHost(HWND menuWindow, std::int16_t wsid,
     constexpr ULONGLONG timeLimit = 2000; // milliseconds
     const ULONGLONG start = GetTickCount64();
     WaitUntil(menu, [&] { return IsWindowVisible(station) || GetTickCount64() - start >= timeLimit; });
-    // Waits for the host if that is busy: hidden later, the window would stay on screen during the first
-    // command.
+    // Waits if the host is busy. With ShowWindowAsync the window would still be visible during a command.
     ShowWindow(station, SW_HIDE);
     hostCommandWindow = FirstChild(station); // after the wait: the host may have put another child in front
 }

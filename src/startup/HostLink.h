@@ -17,6 +17,7 @@ constexpr const char* hostWindowClass = "ZafWindow";
 
 class HostLink {
 public:
+    /// Types into `commandWindow` until StartHost finds the window of its host.
     explicit HostLink(HWND commandWindow = nullptr)
         : hostCommandWindow(commandWindow) {}
 

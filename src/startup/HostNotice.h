@@ -14,7 +14,7 @@ public:
     ~HostNotice();
 
     /// Shows the notice two seconds after the construction, or at once if the host could not be started. Call
-    /// it again and again: it does nothing before, and nothing once the notice was shown. Throws
+    /// it repeatedly: it does nothing before that time, and nothing after the notice was shown. Throws
     /// RunTimeError.
     void ShowWhenDue();
 

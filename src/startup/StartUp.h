@@ -12,8 +12,9 @@ struct MenuWindow {
     std::function<void()> show; ///< creates and shows the window
 };
 
-/// Rewrites the host's configuration in the current directory and shows the menu window. If a host is open,
-/// offers to show that one instead; if another menu is open, activates that one. Throws RunTimeError.
+/// Rewrites the host's configuration in the current directory and shows the menu window. Without a
+/// configuration only shows a message. If a host is open, offers to show that one instead; if another menu is
+/// open, activates that one. Throws RunTimeError.
 void Main(const MenuWindow& menu);
 
 } // namespace obrin
