@@ -182,7 +182,7 @@ struct MenuFileCheck {
         for (const MenuFault& fault : definition.faults) {
             std::string problem = Quote(fault.text);
             if (fault.kind == MenuFault::Kind::KeyTwice)
-                problem += ", in line " + std::to_string(fault.firstLine);
+                problem += " in line " + std::to_string(fault.firstLine);
             if (const int line = EmptyLineAbove(fault); line != 0)
                 problem += ": the empty line " + std::to_string(line) + " has closed the headings above it";
             if (fault.kind == MenuFault::Kind::NoHeader) // which the list of the systems needs

@@ -69,7 +69,7 @@ private:
             CheckKey(entry.key);
         } else {
             entry.text = line;
-            // Forgets deeper headings. The limit saves memory for a line of a million ">".
+            // Forgets deeper headings. No heading can be below more than maxEntries others.
             headings.resize(std::min(depth, maxEntries) + 1, noHeading);
             headings.back() = static_cast<std::int16_t>(definition.entries.size() + 1);
         }

@@ -94,7 +94,7 @@ std::vector<FaultyInstallation> FaultyMenuFiles() {
           {"UB.mnu:5", EndsShownSystem, noHeading + ": the empty line 4 has closed the headings above it"}}},
         {"a key twice",
          [] { WriteMenu("T\r\nA^K\r\nB^K"); },
-         {{"UB.mnu:3", EndsShownSystem, "the key K is already used, in line 2"}}},
+         {{"UB.mnu:3", EndsShownSystem, "the key K is already used in line 2"}}},
         {"a key that is a number",
          [] { WriteMenu("T\r\nA^0912^x"); },
          {{"UB.mnu:2", EndsShownSystem, "the key 0912 is a number"}}},
