@@ -26,7 +26,7 @@ constexpr const char* menuRegistryKey = "Software\\Obrin";
 constexpr const char* propertiesRegistryKey = "Software\\Obrin\\Menu";
 constexpr const char* lastSystemValue = "LastSystem";
 
-constexpr int maxSystems = 99; ///< item 99 of the System List is its template
+constexpr int maxSystems = 99; ///< items 0 to 98 of the System List; item 99 is its template
 constexpr int maxWsid = 99;    ///< the largest workstation number; the smallest is 1
 
 } // namespace obrin

@@ -1,5 +1,5 @@
-// Converts numbers to text and text to numbers. The installation writes numbers in several forms: other
-// programs of the suite expect each form in its own file or window caption.
+// Converts numbers to text and text to numbers. There are several forms of text, because other programs of
+// the suite expect a different one in each file or window caption.
 #pragma once
 
 #include <optional>
@@ -11,7 +11,7 @@ namespace obrin {
 /// Puts a blank in front of a number that is not negative: " 5", "-5".
 std::string SignedDecimal(int number);
 
-/// Writes the digits only: "5", "-5".
+/// Writes a number without blanks and leading zeros: "5", "-5".
 std::string PlainDecimal(int number);
 
 /// Adds leading zeros if there are fewer than `digits` digits: 5 with two digits is "05".

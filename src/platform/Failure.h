@@ -11,7 +11,7 @@ namespace obrin {
 /// The title of message boxes that have no title of their own.
 constexpr const char* applicationTitle = "ObrinMenu";
 
-/// Returns the text of Windows for an error code. Some texts contain a name: `subject` is that name.
+/// Returns the text of Windows for an error code. Some texts have a place for a name: `subject` fills it.
 std::string PlatformText(DWORD code, const std::string& subject = "The file");
 
 /// Throws RunTimeError with the last error of Windows. `action` says what failed, like "Opening UB.mnu".
@@ -25,8 +25,8 @@ std::string PlatformText(DWORD code, const std::string& subject = "The file");
 /// must not start the normal close.
 bool IsEndingWithError();
 
-/// Runs the body of a window, dialog or subclass procedure. An exception ends the program with its error,
-/// because no exception may pass through the code of Windows that called the procedure.
+/// Runs the body of WinMain or of a window, dialog or subclass procedure. An exception ends the program with
+/// its error, because no exception may pass through the code of Windows that called the procedure.
 template <class Body>
 auto RunOrEndProgram(Body&& body) noexcept {
     try {

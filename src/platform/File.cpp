@@ -135,7 +135,7 @@ std::optional<std::string> ReadFileIfThere(const std::string& path) {
     try {
         return ReadFileBytes(path);
     } catch (const RunTimeError& error) {
-        // FILE_NOT_FOUND is enough: somebody may have made the file since.
+        // Does not ask FileExists after ERROR_FILE_NOT_FOUND: another menu may have made the file since.
         if (error.Code() == ERROR_FILE_NOT_FOUND || !FileExists(path))
             return std::nullopt;
         throw;

@@ -72,7 +72,7 @@ void WriteInPlace(const std::string& path, std::string_view bytes, const std::st
         if (opened && !temporary.empty())
             action += "\r\nThe complete new contents are in " + temporary;
         else
-            DeleteFileA(temporary.c_str()); // nothing was written, or there is none
+            DeleteFileA(temporary.c_str()); // the file is unchanged, or there is no temporary file
         throw RunTimeError(error.Code(), action);
     }
     DeleteFileA(temporary.c_str());
@@ -88,7 +88,7 @@ void ReplaceFileBytes(const std::string& path, std::string_view bytes, std::opti
     const DWORD attributes = GetFileAttributesA(path.c_str());
     if (attributes != INVALID_FILE_ATTRIBUTES &&
         (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) != 0)
-        throw RunTimeError(ERROR_ACCESS_DENIED, "Writing " + path); // Wine would replace it
+        throw RunTimeError(ERROR_ACCESS_DENIED, "Writing " + path); // Wine would replace a read-only file
     std::string temporary;
     if (auto file = MakeTemporaryFile(path)) {
         temporary = file->Path();

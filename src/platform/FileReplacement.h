@@ -12,8 +12,8 @@ namespace obrin {
 /// another program has the file open or the user has no right to delete it. Writes nothing if the file has
 /// these contents already. `current` is the contents of the file, if the caller has just read it.
 ///
-/// Throws RunTimeError. The file is then unchanged, except when a write in place failed half-way. If there is
-/// a temporary file, the error text then names it, because it holds the complete new contents.
+/// Throws RunTimeError. The file is then unchanged, unless a write in place failed half-way. In that case the
+/// error text names the temporary file, if there is one, because it holds the complete new contents.
 void ReplaceFileBytes(const std::string& path, std::string_view bytes,
                       std::optional<std::string> current = std::nullopt);
 

@@ -9,9 +9,8 @@ namespace obrin {
 
 class SupportLibrary {
 public:
-    /// Loads the library from the folder of the program or the system folder of Windows; as a program in
-    /// another folder would, if that is given as a full path. Throws RunTimeError if it or one of its
-    /// routines is missing.
+    /// Loads the library from `programFolder` (a full path; if empty, the folder of this program) or from the
+    /// system folder of Windows. Throws RunTimeError if it or one of its routines is missing.
     explicit SupportLibrary(const std::string& programFolder = {});
 
     /// Returns the text of a value; empty if there is no such value.

@@ -10,7 +10,7 @@ namespace obrin {
 /// Converts a text to upper case by the workstation's ANSI code page.
 std::string UpperCase(std::string text);
 
-/// Returns the test for the first bytes of two-byte characters, or null if the ANSI code page has none.
+/// Returns the test for the first byte of a two-byte character, or null if the ANSI code page has none.
 LeadByteTest CodePageLeadByteTest();
 
 /// Returns the name of the Windows user, at most 99 bytes; empty if Windows does not return it.
