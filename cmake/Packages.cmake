@@ -1,5 +1,5 @@
 # What goes into the archives of ./package.sh: component `menu`, for workstations, and component `tests`, for running
-# the tests on a Windows machine. The archives hold no folders, because they are unpacked into the folder of use.
+# the tests on a Windows machine. The archives hold no folders, because they are unpacked where they are used.
 install(TARGETS ObrinMenu ObrinCheck Corvel RUNTIME DESTINATION . COMPONENT menu)
 install(FILES ${GUIDE} DESTINATION . COMPONENT menu)
 

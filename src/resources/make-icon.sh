@@ -16,7 +16,8 @@ box() {
 
 # draw SIZE TILE TILE_END TILE_RADIUS RADIUS TRUNK TRUNK_END BRANCH1 BRANCH2 ROOT... NODE1... NODE2...
 # TILE and TILE_END are the first and last pixel of the tile in both directions. The root and the two nodes
-# are X0 Y0 X1 Y1 each, with RADIUS. The trunk is between two columns; BRANCH1 and BRANCH2 are top rows.
+# are X0 Y0 X1 Y1 each, with RADIUS. TRUNK and TRUNK_END are the first and last column of the trunk; BRANCH1 and
+# BRANCH2 are the top rows of the branches.
 draw() {
   local size=$1 tile=$2 tile_end=$3 tile_radius=$4 radius=$5 trunk=$6 trunk_end=$7 branch1=$8 branch2=$9
   local thick=$((trunk_end - trunk))
@@ -48,7 +49,7 @@ for factor in 2 4; do
   scaled=()
   for i in "${!large[@]}"; do
     case $i in
-      1 | 5 | 10 | 11 | 14 | 15 | 18 | 19) scaled+=($((large[i] * factor + factor - 1))) ;; # a last pixel
+      1 | 5 | 10 | 11 | 14 | 15 | 18 | 19) scaled+=($((large[i] * factor + factor - 1))) ;; # the last pixel of a shape
       *) scaled+=($((large[i] * factor))) ;;
     esac
   done
@@ -70,7 +71,7 @@ little_endian() {
 sizes=(16 20 24 32 40 48 64 128 256)
 for size in "${sizes[@]}"; do
   if ((size <= 32)); then
-    convert "$work/$size.png" ico:- | tail -c +23 >"$work/$size"
+    convert "$work/$size.png" ico:- | tail -c +23 >"$work/$size" # without the headers, 22 bytes
   else
     cp "$work/$size.png" "$work/$size"
   fi
