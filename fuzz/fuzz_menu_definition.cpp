@@ -23,7 +23,7 @@ static void RequireSameVerdict(std::string_view file, const obrin::MenuDefinitio
         return static_cast<std::size_t>(std::ranges::count(text, '\n'));
     };
     Require(lines(obrin::Report(findings)) == findings.size());
-    Require(lines(obrin::MenuTreeText(definition, IsLeadByte)) == definition.entries.size() + 1);
+    Require(lines(obrin::FormatMenuTree(definition, IsLeadByte)) == definition.entries.size() + 1);
 }
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -59,7 +59,7 @@ std::vector<std::string> Split(std::string_view commandLine) {
 }
 
 void Complain(const std::string& text) {
-    Write(STD_ERROR_HANDLE, "ObrinCheck: " + OneLine(text) + "\r\n");
+    Write(STD_ERROR_HANDLE, "ObrinCheck: " + ReplaceControlCharacters(text) + "\r\n");
 }
 
 int Check(const std::vector<std::string>& paths, bool withTrees) {
@@ -68,7 +68,7 @@ int Check(const std::vector<std::string>& paths, bool withTrees) {
         Complain(failure);
     const std::string where = FullPath(paths.size() == 1 && !paths[0].empty() ? paths[0] : ".");
     Write(STD_OUTPUT_HANDLE, result.trees + Report(result.findings) +
-                                 Summary(result.findings, result.menuFiles,
+                                 Summary(result.findings, result.menuFileCount,
                                          where + ", user " + LoginName() + ", code page " +
                                              std::to_string(GetACP()) + ", " + nameAndVersion));
     return !result.failures.empty() ? notChecked : HasErrors(result.findings) ? errorsFound : 0;

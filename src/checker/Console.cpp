@@ -16,8 +16,8 @@ bool IsConsole(DWORD stream) {
     return GetConsoleMode(GetStdHandle(stream), &mode) != FALSE;
 }
 
-// With "?" in the place of control characters, which could move the cursor or change colours. Line ends stay.
-std::wstring Characters(std::string_view text) {
+// Replaces control characters except line ends by "?", because they could move the cursor or change colours.
+std::wstring ToConsoleText(std::string_view text) {
     std::wstring wide(text.size(), L'\0');
     wide.resize(static_cast<std::size_t>(MultiByteToWideChar(
         CP_ACP, 0, text.data(), static_cast<int>(text.size()), wide.data(), static_cast<int>(wide.size()))));
@@ -39,10 +39,10 @@ void Write(DWORD stream, std::string_view text) {
         WriteFile(handle, text.data(), static_cast<DWORD>(text.size()), &written, nullptr);
         return;
     }
-    constexpr std::size_t most = 8192; // a console takes 64 KB at once
-    const std::wstring characters = Characters(text);
-    for (std::size_t start = 0; start < characters.size(); start += most) {
-        const auto part = std::wstring_view(characters).substr(start, most);
+    constexpr std::size_t partLength = 8192; // one call may refuse more than 64 KB
+    const std::wstring characters = ToConsoleText(text);
+    for (std::size_t start = 0; start < characters.size(); start += partLength) {
+        const auto part = std::wstring_view(characters).substr(start, partLength);
         WriteConsoleW(handle, part.data(), static_cast<DWORD>(part.size()), &written, nullptr);
     }
 }

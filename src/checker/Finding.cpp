@@ -13,7 +13,7 @@ std::string Count(std::size_t number, const char* what) {
     return std::to_string(number) + ' ' + what + (number == 1 ? "" : "s");
 }
 
-const char* WordsFor(Effect effect) {
+const char* DescribeEffect(Effect effect) {
     switch (effect) {
     case Effect::EndsEveryStart:
         return "the menu ends with an error at every start";
@@ -34,9 +34,9 @@ const char* WordsFor(Effect effect) {
 
 } // namespace
 
-Trouble VariableTrouble(const std::string& value, const Trouble& ofFolder) {
-    return {"this variable leads to " + value + ": " + ofFolder.problem,
-            ofFolder.remedy + ", or correct the variable"};
+Trouble MakeVariableTrouble(const std::string& value, const Trouble& folderTrouble) {
+    return {"this variable leads to " + value + ": " + folderTrouble.problem,
+            folderTrouble.remedy + ", or correct the variable"};
 }
 
 void Add(Findings& findings, Effect effect, Place place, Trouble trouble, std::string consequence) {
@@ -62,9 +62,10 @@ std::string Report(Findings findings) {
     std::string report;
     for (const Finding& finding : findings) {
         const auto& [effect, place, trouble, consequence] = finding;
-        report += OneLine(place.file + (place.line == 0 ? "" : ':' + std::to_string(place.line)) +
-                          (IsError(finding) ? ": error: " : ": warning: ") + trouble.problem + ": " +
-                          (consequence.empty() ? WordsFor(effect) : consequence) + "; " + trouble.remedy) +
+        report += ReplaceControlCharacters(
+                      place.file + (place.line == 0 ? "" : ':' + std::to_string(place.line)) +
+                      (IsError(finding) ? ": error: " : ": warning: ") + trouble.problem + ": " +
+                      (consequence.empty() ? DescribeEffect(effect) : consequence) + "; " + trouble.remedy) +
                   "\r\n";
     }
     return report;
@@ -73,16 +74,16 @@ std::string Report(Findings findings) {
 std::string Summary(const Findings& findings, std::size_t menuFiles, std::string_view details) {
     const auto errors = static_cast<std::size_t>(std::ranges::count_if(findings, IsError));
     return Count(errors, "error") + ", " + Count(findings.size() - errors, "warning") + " in " +
-           Count(menuFiles, "menu file") + " (" + OneLine(std::string(details)) + ")\r\n";
+           Count(menuFiles, "menu file") + " (" + ReplaceControlCharacters(std::string(details)) + ")\r\n";
 }
 
-std::string OneLine(std::string text) {
+std::string ReplaceControlCharacters(std::string text) {
     std::ranges::replace_if(
         text, [](char byte) { return (byte >= 0 && byte < ' ') || byte == '\x7F'; }, '?');
     return text;
 }
 
-std::string Quoted(std::string_view text, LeadByteTest isLeadByte) {
+std::string Shorten(std::string_view text, LeadByteTest isLeadByte) {
     const auto start = FirstCharacters(text, 200, isLeadByte);
     return std::string(start) + (start.size() < text.size() ? "..." : "");
 }

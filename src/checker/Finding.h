@@ -12,12 +12,12 @@ namespace obrin {
 /// What the menu does because of a finding.
 enum class Effect {
     None,            ///< it works, but something is odd
-    EndsEveryStart,  ///< it ends with an error
+    EndsEveryStart,  ///< it ends with an error at every start
     EndsShownSystem, ///< it ends with an error when it shows the system of the menu file
     EndsProgramRun,  ///< it ends with an error when an operator runs a program
     EndsProperties,  ///< it ends with an error in the Properties dialog of a program
-    WaitsForEver,    ///< it starts and never shows its window
-    FailsForOthers,  ///< one of these, for another user or on another workstation
+    WaitsForEver,    ///< it never shows its window
+    FailsForOthers,  ///< one of the others, but for another user or on another workstation
 };
 
 struct Place {
@@ -30,14 +30,14 @@ struct Trouble {
     std::string remedy;
 };
 
-/// Returns the trouble of a variable that leads to a folder with a trouble.
-Trouble VariableTrouble(const std::string& value, const Trouble& ofFolder);
+/// Returns the trouble of a variable whose folder cannot be used. `folderTrouble` says why not.
+Trouble MakeVariableTrouble(const std::string& value, const Trouble& folderTrouble);
 
 struct Finding {
     Effect effect;
     Place place;
     Trouble trouble;
-    std::string consequence; ///< if empty, the report has words for the effect
+    std::string consequence; ///< if empty, the report describes the effect; None and FailsForOthers need one
 };
 
 using Findings = std::vector<Finding>;
@@ -45,7 +45,7 @@ using Findings = std::vector<Finding>;
 void Add(Findings& findings, Effect effect, Place place, Trouble trouble, std::string consequence = {});
 void Add(Findings& findings, Findings more);
 
-/// Returns whether a finding stops more than the Properties dialog of some programs. Others are warnings.
+/// Returns whether a finding is an error, and not a warning: it stops more than the Properties dialog.
 bool IsError(const Finding& finding);
 bool HasErrors(const Findings& findings);
 
@@ -55,10 +55,10 @@ std::string Report(Findings findings);
 /// Returns the line "2 errors, 1 warning in 5 menu files (DETAILS)".
 std::string Summary(const Findings& findings, std::size_t menuFiles, std::string_view details);
 
-/// Replaces control characters by "?", so that the text is one line and moves no cursor.
-std::string OneLine(std::string text);
+/// Replaces control characters by "?", so that the text stays on one line and cannot move the cursor.
+std::string ReplaceControlCharacters(std::string text);
 
 /// Shortens a quotation from a file to 200 characters and "...".
-std::string Quoted(std::string_view text, LeadByteTest isLeadByte);
+std::string Shorten(std::string_view text, LeadByteTest isLeadByte);
 
 } // namespace obrin

@@ -34,7 +34,7 @@ public:
         , folder(path.empty() ? "." : path) {}
 
     FolderFindings Check() {
-        FindMenuFiles(); // fails when this is no folder at all
+        FindMenuFiles(); // throws if the folder cannot be listed
         CheckSystemCodes();
         CheckHelp();
         CheckFolders();
@@ -53,7 +53,7 @@ private:
             if (!IsMenuFileNameInAnyCase(entry.name))
                 continue;
             const std::string path = base + entry.name;
-            const auto trouble = ListingTrouble(entry);
+            const auto trouble = FindListingTrouble(entry);
             if (trouble)
                 Add(findings, Effect::None, {path}, *trouble, "the menu does not list this system");
             else
@@ -71,7 +71,7 @@ private:
         std::ranges::sort(names);
     }
 
-    static std::optional<Trouble> ListingTrouble(const FolderEntry& entry) {
+    static std::optional<Trouble> FindListingTrouble(const FolderEntry& entry) {
         if (entry.isFolder)
             return Trouble{"a folder", "remove it, or put the menu file in its place"};
         if (entry.isHidden)
@@ -85,7 +85,7 @@ private:
         std::map<std::string, std::string> nameOfCode;
         for (const auto& name : names) {
             const std::string code(SystemCode(name, isLeadByte));
-            // The menu types it into the host in capitals.
+            // The menu types the code into the host in capitals: case makes no difference.
             if (const auto [first, isNew] = nameOfCode.try_emplace(UpperCase(code), name); !isNew)
                 Add(findings, Effect::None, {base + name},
                     {"the system code " + code + " is that of " + first->second + " too", "rename one file"},
@@ -106,7 +106,7 @@ private:
             for (const auto& [id, caption] : items) {
                 const std::string document = base + DocumentOf(id, name, isLeadByte).value_or("");
                 const bool isNew = documents.insert(document).second;
-                if (const auto trouble = isNew ? ReadTrouble(document) : std::nullopt)
+                if (const auto trouble = isNew ? FindReadTrouble(document) : std::nullopt)
                     Add(findings, Effect::None, {document}, *trouble,
                         std::string(caption) + " does not open the document");
             }
@@ -115,11 +115,11 @@ private:
 
     void CheckFolders() {
         const std::string core = base + coreFolder, temporary = base + temporaryConfigurationFile;
-        if (const auto trouble = FolderTrouble(core))
+        if (const auto trouble = FindFolderTrouble(core))
             Add(findings, Effect::EndsEveryStart, {core}, *trouble);
-        if (const auto trouble = FolderTrouble(folder))
+        if (const auto trouble = FindFolderTrouble(folder))
             Add(findings, Effect::EndsEveryStart, {folder}, *trouble);
-        if (const auto trouble = WriteTrouble(temporary))
+        if (const auto trouble = FindWriteTrouble(temporary))
             Add(findings, Effect::EndsEveryStart, {temporary}, *trouble);
     }
 
@@ -139,29 +139,29 @@ private:
                 "the menu ends at every start with \"Config File Not found!\"");
             return;
         }
-        const auto bytes = ReadOrAdd(findings, Effect::EndsEveryStart, path);
+        const auto bytes = ReadOrAddFinding(findings, Effect::EndsEveryStart, path);
         if (!bytes)
             return;
         const bool isRight = AddDriveLine(shortFolder, BlankDriveLines(*bytes, UpperCase)) == *bytes;
-        if (const auto trouble = ReplaceTrouble(path))
+        if (const auto trouble = FindReplaceTrouble(path))
             Add(findings, isRight ? Effect::None : Effect::EndsEveryStart, {path}, *trouble,
-                "the menu ends with an error at a start that finds another folder in it");
-        else if (const auto kept = DeleteTrouble(path))
-            Add(findings, Effect::None, {path}, *kept,
-                "the menu writes over it, which a lost connection may cut off in the middle");
+                "the menu ends with an error at a start that has to change the drive line");
+        else if (const auto noReplacement = FindDeleteTrouble(path))
+            Add(findings, Effect::None, {path}, *noReplacement,
+                "the menu writes it in place, and a lost connection can leave it half written");
     }
 
     void CheckPrograms() {
-        if (const auto trouble = StartTrouble(base + hostProgram))
+        if (const auto trouble = FindStartTrouble(base + hostProgram))
             Add(findings, Effect::WaitsForEver, {base + hostProgram}, *trouble,
                 "the menu waits for the host for ever");
         // The menu may lie in another folder than the host. Then this program lies beside the menu.
-        const bool isBesideThis = !MayBeFile(base + menuProgram) && MayBeFile(OwnFolder() + menuProgram);
-        const std::string programFolder = isBesideThis ? OwnFolder() : base;
+        const bool isBesideChecker = !MayBeFile(base + menuProgram) && MayBeFile(OwnFolder() + menuProgram);
+        const std::string programFolder = isBesideChecker ? OwnFolder() : base;
         const std::string menu = programFolder + menuProgram;
-        if (const auto trouble = IsMissing(menu) ? std::nullopt : StartTrouble(menu))
+        if (const auto trouble = IsMissing(menu) ? std::nullopt : FindStartTrouble(menu))
             Add(findings, Effect::WaitsForEver, {menu}, *trouble, "the menu does not start");
-        if (HasOtherBits(menu))
+        if (HasOtherBitness(menu))
             Add(findings, Effect::None, {menu},
                 {"not from the same archive as this ObrinCheck (32 or 64 bits)",
                  "use the ObrinCheck that came with ObrinMenu.exe"},
@@ -174,18 +174,18 @@ private:
         const std::string path = programFolder + supportLibraryFile;
         try {
             const SupportLibrary library(FullPath(programFolder.empty() ? "." : programFolder));
-            FindRememberedSystem(library.GetRegValue(HKEY_LOCAL_MACHINE, menuRegistryKey, lastSystemValue));
+            AddRememberedSystem(library.GetRegValue(HKEY_LOCAL_MACHINE, menuRegistryKey, lastSystemValue));
         } catch (const RunTimeError& error) {
             const std::string reason = std::string(error.what()) + ": " + PlatformText(error.Code());
             const char* remedy = "put the library there that came with ObrinMenu.exe";
             const Trouble unusable{"cannot be used (" + reason + ")", remedy};
             Add(findings, Effect::EndsEveryStart, {path},
-                IsMissing(path) ? Trouble{"missing", remedy} : ReadTrouble(path).value_or(unusable));
+                IsMissing(path) ? Trouble{"missing", remedy} : FindReadTrouble(path).value_or(unusable));
         }
     }
 
-    // The menu shows it first, also when it does not list it.
-    void FindRememberedSystem(std::string_view lastSystem) {
+    // The menu shows the remembered system first, even if it does not list it.
+    void AddRememberedSystem(std::string_view lastSystem) {
         const std::string path = base + std::string(TrimBlanks(lastSystem));
         if (TrimBlanks(lastSystem).empty() || !MayBeFile(path))
             return;
@@ -199,7 +199,7 @@ private:
 
     void CheckPicture() {
         const std::string path = base + startupPictureFile;
-        if (!NormalFileExists(path) || !ReadOrAdd(findings, Effect::EndsEveryStart, path))
+        if (!NormalFileExists(path) || !ReadOrAddFinding(findings, Effect::EndsEveryStart, path))
             return;
         try {
             ScalePicture(LoadPicture(FullPath(path)).get(), USER_DEFAULT_SCREEN_DPI);
@@ -219,20 +219,21 @@ private:
         for (int wsid = 1; wsid <= maxWsid; ++wsid) {
             const std::string name = MarkerFileName(wsid);
             if (!present.contains(UpperCase(name)))
-                continue; // without asking a share for each name
-            if (const auto trouble = WriteTrouble(base + name))
+                continue; // asking a share for each name would take long
+            if (const auto trouble = FindWriteTrouble(base + name))
                 Add(findings, wsid == ownWsid ? Effect::EndsEveryStart : Effect::FailsForOthers,
                     {base + name}, *trouble,
                     "the menu of workstation " + std::to_string(wsid) + " ends with an error at every start");
         }
     }
 
-    // Returns the bytes of a file that the menu reads and writes. The menu makes it if it is missing.
+    // Returns the bytes of a file that the menu reads and writes. A missing one is no fault: the menu makes
+    // it.
     std::string CheckSharedFile(const std::string& path, Effect effect) {
         if (IsMissing(path))
             return "";
-        auto bytes = ReadOrAdd(findings, effect, path);
-        if (const auto trouble = bytes ? WriteTrouble(path) : std::nullopt)
+        auto bytes = ReadOrAddFinding(findings, effect, path);
+        if (const auto trouble = bytes ? FindWriteTrouble(path) : std::nullopt)
             Add(findings, effect, {path}, *trouble);
         return bytes.value_or("");
     }
@@ -241,9 +242,9 @@ private:
         const std::string noCopy = "the update of a workstation says Complete without copying ";
         const std::string sources = base + updateFolder;
         if (!FolderExists(sources))
-            Add(findings, Effect::None, {sources}, *FolderTrouble(sources), noCopy + "anything");
+            Add(findings, Effect::None, {sources}, *FindFolderTrouble(sources), noCopy + "anything");
         for (const auto& [source, destination] : updateFiles) {
-            if (const auto trouble = FolderExists(sources) ? ReadTrouble(base + source) : std::nullopt)
+            if (const auto trouble = FolderExists(sources) ? FindReadTrouble(base + source) : std::nullopt)
                 Add(findings, Effect::None, {base + source}, *trouble, noCopy + "this program");
         }
         const std::string local = EnvironmentVariable(localHostVariable);
@@ -251,13 +252,13 @@ private:
             Add(findings, Effect::None, {localHostVariable},
                 {"this variable is not set here", "set it on every workstation"},
                 "the update of a workstation copies to the root of the current drive");
-        else if (const auto trouble = FolderTrouble(local))
-            Add(findings, Effect::None, {localHostVariable}, VariableTrouble(local, *trouble),
+        else if (const auto trouble = FindFolderTrouble(local))
+            Add(findings, Effect::None, {localHostVariable}, MakeVariableTrouble(local, *trouble),
                 noCopy + "anything");
     }
 
-    std::string base;   // in front of the names of files
-    std::string folder; // the same as a folder
+    std::string base;   // the prefix of file names: empty, or ends with "\"
+    std::string folder; // the same folder, "." if the prefix is empty
     LeadByteTest isLeadByte = CodePageLeadByteTest();
     std::set<std::string> present;  // names of everything in the folder, in capitals
     std::vector<std::string> names; // of the menu files that the menu lists

@@ -1,4 +1,4 @@
-// The walk over an installation: everything but the contents of its menu files and settings files.
+// Checks an installation, except for the contents of its menu files and settings files.
 #pragma once
 
 #include "checker/Finding.h"
@@ -11,7 +11,7 @@ namespace obrin {
 /// A file whose contents are still to be checked.
 struct FoundMenuFile {
     std::string path;
-    bool isShown; ///< the menu lists it, or remembers it on this workstation
+    bool isShown; ///< the menu lists it, or remembers it as the last system
 };
 
 struct FolderFindings {
@@ -19,8 +19,8 @@ struct FolderFindings {
     std::vector<FoundMenuFile> menuFiles;
 };
 
-/// Looks at the installation in a folder, empty for the current one. Findings name the files as this path
-/// leads to them. Throws RunTimeError when the folder cannot be listed.
+/// Checks the installation in a folder; an empty path is the current folder. Findings name each file by this
+/// path and its name. Throws RunTimeError when the folder cannot be listed.
 FolderFindings WalkFolder(const std::string& folder);
 
 } // namespace obrin

@@ -12,10 +12,9 @@ namespace {
 
 constexpr std::string_view utf8Mark = "\xEF\xBB\xBF";
 
-// Returns whether text is well-formed UTF-8. Text of another code page with letters beyond ASCII hardly ever
-// is.
+// Returns whether text looks like UTF-8. Text beyond ASCII in another code page hardly ever does.
 bool IsUtf8(std::string_view text) {
-    std::size_t more = 0; // bytes of the character that has begun
+    std::size_t more = 0; // bytes that the current character still needs
     for (const char letter : text) {
         const auto byte = static_cast<unsigned char>(letter);
         const bool continues = byte >= 0x80 && byte < 0xC0;
@@ -47,8 +46,8 @@ const char* RemedyFor(MenuFault::Kind kind) {
     return "";
 }
 
-// The parts of a path: for the name of a file "/" separates as well.
-std::vector<std::string_view> PathParts(std::string_view key, LeadByteTest isLeadByte) {
+// Splits a path as Windows does, which takes "/" as a separator too.
+std::vector<std::string_view> SplitPath(std::string_view key, LeadByteTest isLeadByte) {
     std::vector<std::string_view> parts;
     for (std::size_t start = 0; start <= key.size();) {
         const auto end =
@@ -59,7 +58,7 @@ std::vector<std::string_view> PathParts(std::string_view key, LeadByteTest isLea
     return parts;
 }
 
-// With an ending, too: "NUL.txt" is the device.
+// An ending changes nothing: "NUL.txt" is the device too.
 bool NamesDevice(std::string_view part) {
     const std::string name = AsciiLowerCase(TrimBlanks(part.substr(0, part.find('.'))));
     constexpr std::array<std::string_view, 6> devices{"con", "prn", "aux", "nul", "conin$", "conout$"};
@@ -88,7 +87,7 @@ struct MenuFileCheck {
         Add(findings, Effect::None, {path, line}, std::move(trouble), std::move(consequence));
     }
 
-    std::string Quote(std::string_view text) const { return Quoted(text, codePage.isLeadByte); }
+    std::string Shortened(std::string_view text) const { return Shorten(text, codePage.isLeadByte); }
 
     void CheckHeader() {
         if (bytes.empty())
@@ -104,9 +103,9 @@ struct MenuFileCheck {
                  "the System List shows this system without a name");
     }
 
-    // Of each kind only the first line is reported.
+    // Reports only the first line with each problem.
     void CheckBytes() {
-        int loneLineFeed = 0, utf8 = 0, notUtf8 = 0; // lines
+        int loneLineFeed = 0, utf8 = 0, notUtf8 = 0; // the first line of each kind; 0 for none
         LineReader lines(bytes.substr(bytes.starts_with(utf8Mark) ? utf8Mark.size() : 0));
         for (int number = 1; const auto line = lines.Next(); ++number) {
             const auto keepFirst = [number](int& first) { first = first == 0 ? number : first; };
@@ -118,18 +117,18 @@ struct MenuFileCheck {
         if (loneLineFeed != 0)
             Warn(loneLineFeed, {"a line end of LF alone", "save the file with line ends of CR LF"},
                  "the menu reads on as if there were none");
-        const char* otherLetters = "the menu shows other letters than are meant";
+        const char* wrongLetters = "the menu shows the wrong letters";
         if (codePage.isUtf8 && notUtf8 != 0)
             Warn(notUtf8,
                  {"text that is not UTF-8", "save the file as UTF-8, the code page of this workstation"},
-                 otherLetters);
+                 wrongLetters);
         if (!codePage.isUtf8 && utf8 != 0 && notUtf8 == 0)
-            Warn(utf8, {"text in UTF-8", "save the file as ANSI text"}, otherLetters);
+            Warn(utf8, {"text in UTF-8", "save the file as ANSI text"}, wrongLetters);
     }
 
     void CheckHeadings() {
         const auto& entries = definition.entries;
-        // By tree index: programs, and headings with a program below them.
+        // By tree index: whether the node is a program or has one below it. Index 0 is the root of the tree.
         std::vector<bool> used(entries.size() + 1);
         used[0] = true;
         for (std::size_t i = entries.size(); i-- > 0;) {
@@ -143,9 +142,9 @@ struct MenuFileCheck {
             if (IsEmptyLine(i))
                 Warn(LineOfEntry(i), {"an empty line", "remove it"},
                      "the menu shows it as a heading without text");
-            else if (!used[i + 1] && used[parent]) // only the outermost of headings within each other
+            else if (!used[i + 1] && used[parent]) // only the outermost of nested headings
                 Warn(LineOfEntry(i),
-                     {"the heading \"" + Quote(entries[i].text) + "\" holds no program",
+                     {"the heading \"" + Shortened(entries[i].text) + "\" holds no program",
                       "put programs below it, or remove it"},
                      "operators open it in vain");
         }
@@ -164,15 +163,15 @@ struct MenuFileCheck {
     }
 
     void CheckKey(int line, const std::string& key) {
-        const std::string theKey = "the key " + Quote(key);
-        const auto parts = PathParts(key, codePage.isLeadByte);
+        const std::string theKey = "the key " + Shortened(key);
+        const auto parts = SplitPath(key, codePage.isLeadByte);
         if (std::ranges::find(parts, "..") != parts.end())
             Warn(line, {theKey + " holds \"..\"", "write the program's path without it"},
-                 "the program's settings file may lie outside of the folder for these");
-        if (const auto reason = WhyNoFileName(key, codePage.isLeadByte); !reason.empty())
+                 "the program's settings file may lie outside of the folder for settings");
+        if (const auto reason = FindFileNameFault(key, codePage.isLeadByte); !reason.empty())
             Add(findings, Effect::EndsProperties, {path, line},
                 {theKey + ' ' + reason,
-                 "name the program by a path from the host's folder on, of letters and digits"});
+                 "name the program by its path below the host's folder, in letters and digits"});
         if (TrimBlanks(key).size() != key.size())
             Warn(line, {theKey + " begins or ends with a blank", "remove it"},
                  "the blank is typed into the host too");
@@ -180,20 +179,20 @@ struct MenuFileCheck {
 
     void CheckFaults() {
         for (const MenuFault& fault : definition.faults) {
-            std::string problem = Quote(fault.text);
+            std::string problem = Shortened(fault.text);
             if (fault.kind == MenuFault::Kind::KeyTwice)
                 problem += " in line " + std::to_string(fault.firstLine);
             if (const int line = EmptyLineAbove(fault); line != 0)
                 problem += ": the empty line " + std::to_string(line) + " has closed the headings above it";
-            if (fault.kind == MenuFault::Kind::NoHeader) // which the list of the systems needs
+            if (fault.kind == MenuFault::Kind::NoHeader) // the System List needs the header of every file
                 Add(findings, Effect::EndsEveryStart, {path}, {problem, RemedyFor(fault.kind)});
             else
                 Add(findings, Effect::EndsShownSystem, {path, fault.line}, {problem, RemedyFor(fault.kind)});
         }
     }
 
-    // Returns the line of the last top-level heading above an entry without its heading, if that is an empty
-    // line; otherwise 0.
+    // Returns the number of the empty line that has closed the headings above the faulty entry; 0 if the
+    // heading is missing for another reason.
     int EmptyLineAbove(const MenuFault& fault) const {
         if (fault.kind != MenuFault::Kind::NoHeading)
             return 0;
@@ -217,31 +216,33 @@ Findings CheckMenuFile(const std::string& path, std::string_view bytes, const Me
     return MenuFileCheck{path, bytes, definition, codePage}.Run();
 }
 
-std::string WhyNoFileName(std::string_view key, LeadByteTest isLeadByte) {
+std::string FindFileNameFault(std::string_view key, LeadByteTest isLeadByte) {
     if (std::ranges::any_of(key, [](char byte) { return byte >= 0 && byte < ' '; }))
         return "holds a control character";
     if (const auto place = key.find_first_of(":*?\"<"); place != std::string_view::npos)
         return std::string("holds the character ") + key[place];
     if (FindCharacter(key, '|', isLeadByte) != std::string_view::npos)
         return "holds the character |";
-    const auto parts = PathParts(key, isLeadByte);
+    const auto parts = SplitPath(key, isLeadByte);
     if (const auto device = std::ranges::find_if(parts, NamesDevice); device != parts.end())
         return "names a device of Windows (" + std::string(*device) + ")";
     return "";
 }
 
-std::string MenuTreeText(const MenuDefinition& definition, LeadByteTest isLeadByte) {
+std::string FormatMenuTree(const MenuDefinition& definition, LeadByteTest isLeadByte) {
     constexpr std::size_t numberWidth = 5;
-    std::string tree = OneLine(RemoveAccessKeyMarks(Quoted(definition.title, isLeadByte))) + "\r\n";
+    std::string tree =
+        ReplaceControlCharacters(RemoveAccessKeyMarks(Shorten(definition.title, isLeadByte))) + "\r\n";
     for (std::size_t i = 0; i < definition.entries.size(); ++i) {
         const MenuEntry& entry = definition.entries[i];
-        const bool isOrphan = entry.depth > 0 && entry.parent == 0; // shown as one of the top level
+        const bool isOrphan = entry.depth > 0 && entry.parent == 0; // shown at the top level
         const std::string number = std::to_string(LineOfEntry(i));
         tree.append(numberWidth - std::min(number.size(), numberWidth), ' ')
             .append(number + ":")
             .append(isOrphan ? 2 : 2 * (entry.depth + 1), ' ')
-            .append(OneLine(Quoted(entry.text, isLeadByte)))
-            .append(entry.isProgram ? OneLine(" [" + Quoted(entry.key, isLeadByte) + "]") : "")
+            .append(ReplaceControlCharacters(Shorten(entry.text, isLeadByte)))
+            .append(entry.isProgram ? ReplaceControlCharacters(" [" + Shorten(entry.key, isLeadByte) + "]")
+                                    : "")
             .append("\r\n");
     }
     return tree;

@@ -1,4 +1,4 @@
-// What is wrong or odd in a menu file, told from its name and contents.
+// Finds what is wrong or odd in a menu file, by its name and contents.
 #pragma once
 
 #include "checker/Finding.h"
@@ -23,14 +23,14 @@ bool IsMenuFileNameInAnyCase(std::string_view name);
 Findings CheckMenuFile(const std::string& path, std::string_view bytes, const MenuDefinition& definition,
                        const CodePage& codePage);
 
-/// Returns why Windows can have no settings file for a key, such as "holds the character *"; empty if it can.
-std::string WhyNoFileName(std::string_view key, LeadByteTest isLeadByte);
+/// Returns why a key cannot be the path of a settings file, such as "holds the character *"; empty if it can.
+std::string FindFileNameFault(std::string_view key, LeadByteTest isLeadByte);
 
 /// Returns the title, and a line for each entry: its line number, its text as the tree shows it, and its key
 /// in brackets.
-std::string MenuTreeText(const MenuDefinition& definition, LeadByteTest isLeadByte);
+std::string FormatMenuTree(const MenuDefinition& definition, LeadByteTest isLeadByte);
 
-/// Returns the line (the first is 1) of an entry (the first is 0).
+/// Returns the line number of an entry. Line 1 is the header, so entry 0 is in line 2.
 constexpr int LineOfEntry(std::size_t index) {
     return static_cast<int>(index) + 2;
 }

@@ -12,7 +12,7 @@ namespace obrin {
 /// runs the checker.
 Findings CheckUserRecords(const std::string& path, std::string_view bytes, std::string_view ownName);
 
-/// Checks that "Updated.txt" consists of whole records.
+/// Checks that "Updated.txt" consists of whole records of digits.
 Findings CheckUpdateRegister(const std::string& path, std::string_view bytes);
 
 } // namespace obrin

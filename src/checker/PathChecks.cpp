@@ -37,7 +37,7 @@ std::vector<FoundMenuFile> FindMenuFiles(const std::string& path) {
     return files;
 }
 
-// The faults of a system that the menu does not show here may stop it on other workstations.
+// The menu does not show this system here, but it may on other workstations.
 void MakeWarning(Finding& finding) {
     if (!IsError(finding))
         return;
@@ -48,12 +48,13 @@ void MakeWarning(Finding& finding) {
 void CheckContents(const FoundMenuFile& file, bool withTree, SettingsWalk& settings, CheckResult& result) {
     const CodePage codePage{.isLeadByte = CodePageLeadByteTest(), .isUtf8 = GetACP() == CP_UTF8};
     Findings findings;
-    if (const auto bytes = ReadOrAdd(findings, Effect::EndsEveryStart, file.path)) {
+    if (const auto bytes = ReadOrAddFinding(findings, Effect::EndsEveryStart, file.path)) {
         const MenuDefinition definition = ParseMenuDefinition(*bytes, codePage.isLeadByte);
         Add(findings, CheckMenuFile(file.path, *bytes, definition, codePage));
         settings.CheckPrograms(file.path, definition);
         if (withTree)
-            result.trees += OneLine(file.path) + ": " + MenuTreeText(definition, codePage.isLeadByte);
+            result.trees +=
+                ReplaceControlCharacters(file.path) + ": " + FormatMenuTree(definition, codePage.isLeadByte);
     }
     if (!file.isShown)
         std::ranges::for_each(findings, MakeWarning);
@@ -83,7 +84,7 @@ CheckResult CheckPaths(const std::vector<std::string>& paths, bool withTrees, co
         settings.CheckTemporaryFolder();
     for (const FoundMenuFile& file : menuFiles) {
         CheckContents(file, withTrees, settings, result);
-        progress(++result.menuFiles, menuFiles.size());
+        progress(++result.menuFileCount, menuFiles.size());
     }
     Add(result.findings, std::move(settings.findings));
     return result;

@@ -1,4 +1,4 @@
-// The checks of everything that the checker is asked for: installations and single menu files.
+// Checks the installations and menu files that the user names.
 #pragma once
 
 #include "checker/Finding.h"
@@ -12,16 +12,16 @@ namespace obrin {
 
 struct CheckResult {
     Findings findings;
-    std::string trees; ///< of all systems, when wanted
-    std::size_t menuFiles = 0;
-    std::vector<std::string> failures; ///< of paths that cannot be checked, a line each
+    std::string trees; ///< a text of all systems; empty unless it is wanted
+    std::size_t menuFileCount = 0;
+    std::vector<std::string> failures; ///< a line for each path that cannot be checked
 };
 
 /// Called after each menu file, with how many have been checked and how many there are.
 using Progress = std::function<void(std::size_t done, std::size_t all)>;
 
-/// Checks each path: a folder as an installation (an empty path is the current folder), a file or every file
-/// of a name with wildcards as a menu file. Changes no file.
+/// Checks each folder as an installation, and each file as a menu file. An empty path is the current folder,
+/// and a file name may hold wildcards. Changes no file.
 CheckResult CheckPaths(const std::vector<std::string>& paths, bool withTrees, const Progress& progress);
 
 } // namespace obrin

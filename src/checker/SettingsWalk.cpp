@@ -12,19 +12,19 @@ namespace obrin {
 
 namespace {
 
-bool HasDrive(const std::string& path) {
+bool HasDriveOrShare(const std::string& path) {
     return path.starts_with("\\\\") ||
            (path.size() > 2 && path[1] == ':' && (path[2] == '\\' || path[2] == '/'));
 }
 
-// New contents are first written to a file beside the settings file, with such an ending.
+// The menu first writes a temporary file beside the settings file, with a longer name.
 bool IsTooLong(const std::string& settingsPath) {
     constexpr std::size_t ending = std::string_view(".1234567890.tmp").size();
     return settingsPath.size() >= MAX_PATH || FullPath(settingsPath).size() + ending >= MAX_PATH;
 }
 
-// Returns the folder above one that ends with "\". Empty for the first folder of a path (a drive or a
-// server), which the dialog does not make.
+// Returns the parent of a folder; both end with "\". Returns an empty text for a drive or a server, which the
+// dialog does not make.
 std::string ParentOf(const std::string& folder, LeadByteTest isLeadByte) {
     const std::string_view name = std::string_view(folder).substr(0, folder.size() - 1);
     const auto end = FindLastCharacter(name, '\\', isLeadByte) + 1; // npos + 1 is 0
@@ -37,7 +37,7 @@ SettingsWalk::SettingsWalk()
     : temporaryFolder(EnvironmentVariable(temporaryFolderVariable))
     , isLeadByte(CodePageLeadByteTest()) {
     const std::string base = temporaryFolder + settingsFolder;
-    whyUnusable = WhyNoFileName(HasDrive(temporaryFolder) ? base.substr(2) : base, isLeadByte);
+    whyUnusable = FindFileNameFault(HasDriveOrShare(temporaryFolder) ? base.substr(2) : base, isLeadByte);
     if (whyUnusable.empty() && IsTooLong(base))
         whyUnusable = "is too long";
 }
@@ -48,7 +48,7 @@ void SettingsWalk::CheckTemporaryFolder() {
             {"this variable is not set here", "set it on every workstation"},
             "the Properties dialog keeps settings in \\Ini of the current drive, or ends the menu with an "
             "error where that cannot be written");
-    else if (!HasDrive(temporaryFolder))
+    else if (!HasDriveOrShare(temporaryFolder))
         Add(findings, Effect::None, {temporaryFolderVariable},
             {"this variable holds no drive or share: " + temporaryFolder,
              "give it the whole path of a folder"},
@@ -57,7 +57,7 @@ void SettingsWalk::CheckTemporaryFolder() {
         IsUsable(temporaryFolder + settingsFolder);
     else
         Add(findings, Effect::EndsProperties, {temporaryFolderVariable},
-            {"this variable leads to " + Quoted(temporaryFolder, isLeadByte) + ", which " + whyUnusable,
+            {"this variable leads to " + Shorten(temporaryFolder, isLeadByte) + ", which " + whyUnusable,
              "correct the variable, without quotation marks"});
 }
 
@@ -74,14 +74,14 @@ void SettingsWalk::CheckProgram(const Place& place, const std::string& key) {
     const auto slash = key.find('/') == std::string::npos ? std::string::npos : path.rfind('/');
     if (IsTooLong(path))
         Add(findings, Effect::EndsProperties, place,
-            {"the key " + Quoted(key, isLeadByte) + " makes the path of its settings file too long",
+            {"the key " + Shorten(key, isLeadByte) + " makes the path of its settings file too long",
              "shorten the key, or the path in TesselTemp"});
     // Windows takes "/" as a separator, too, but the dialog makes only the folders in front of a "\".
     else if (slash != std::string::npos && !FolderExists(path.substr(0, slash)))
         Add(findings, Effect::EndsProperties, place,
-            {"the key " + Quoted(key, isLeadByte) +
-                 " leads to a folder that is missing, and only those at \"\\\" are made",
-             "write \"\\\" in the place of \"/\""});
+            {"the key " + Shorten(key, isLeadByte) +
+                 " leads to a folder that is missing, and the menu makes only folders in front of a \"\\\"",
+             "write \"\\\" instead of \"/\""});
     else if (IsUsable(folder) && checked.insert(UpperCase(path)).second)
         CheckSettingsFile(path);
 }
@@ -89,37 +89,37 @@ void SettingsWalk::CheckProgram(const Place& place, const std::string& key) {
 void SettingsWalk::CheckSettingsFile(const std::string& path) {
     if (IsMissing(path))
         return;
-    const auto bytes = ReadOrAdd(findings, Effect::EndsProperties, path);
+    const auto bytes = ReadOrAddFinding(findings, Effect::EndsProperties, path);
     if (!bytes)
         return;
     try {
-        ParseSettings(*bytes, "no settings");
+        ParseSettings(*bytes, "not a settings file");
     } catch (const RunTimeError& error) {
         Add(findings, Effect::EndsProperties, {path},
             {error.what(), "remove the file, and the dialog begins with the defaults"});
         return;
     }
-    if (const auto trouble = ReplaceTrouble(path))
+    if (const auto trouble = FindReplaceTrouble(path))
         Add(findings, Effect::EndsProperties, {path}, *trouble,
             "OK and Apply in the Properties dialog end the menu with an error");
 }
 
-// Returns whether the dialog can use a folder, or make it. Reports the one that it cannot use.
+// Returns whether the dialog can use or make a folder. If not, adds a finding on what prevents it.
 bool SettingsWalk::IsUsable(const std::string& folder) {
-    const auto [place, isNew] = usable.try_emplace(UpperCase(folder), false);
+    const auto [known, isNew] = usable.try_emplace(UpperCase(folder), false);
     if (!isNew)
-        return place->second;
+        return known->second;
     const std::string parent = ParentOf(folder, isLeadByte);
     const bool isFile = FolderExists(parent) && MayBeFile(folder.substr(0, folder.size() - 1));
     if (!parent.empty() && !isFile && !FolderExists(folder))
-        return place->second = IsUsable(parent); // the dialog then makes this one
-    const auto trouble = FolderTrouble(folder);
+        return known->second = IsUsable(parent); // the dialog then makes this one
+    const auto trouble = FindFolderTrouble(folder);
     if (trouble && folder.size() <= temporaryFolder.size() + 1)
         Add(findings, Effect::EndsProperties, {temporaryFolderVariable},
-            VariableTrouble(temporaryFolder, *trouble));
+            MakeVariableTrouble(temporaryFolder, *trouble));
     else if (trouble)
         Add(findings, Effect::EndsProperties, {folder}, *trouble);
-    return place->second = !trouble;
+    return known->second = !trouble;
 }
 
 } // namespace obrin

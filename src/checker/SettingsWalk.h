@@ -1,4 +1,4 @@
-// The settings files of programs below the folder of the variable "TesselTemp".
+// Checks the settings files of programs, below the folder that the variable "TesselTemp" names.
 #pragma once
 
 #include "checker/Finding.h"
@@ -30,8 +30,8 @@ private:
 
     std::string temporaryFolder;
     LeadByteTest isLeadByte;
-    std::string whyUnusable;            // the variable's value, for all programs
-    std::map<std::string, bool> usable; // folders in capitals
+    std::string whyUnusable;            // why the variable's value cannot be used; empty if it can
+    std::map<std::string, bool> usable; // whether a folder (in capitals) can be used
     std::set<std::string> checked;      // settings files in capitals
 };
 

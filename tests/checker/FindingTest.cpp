@@ -35,8 +35,8 @@ TEST(Finding, IsCounted) {
 }
 
 TEST(Finding, QuotesTwoHundredCharactersAtMost) {
-    EXPECT_EQ(Quoted(std::string(200, 'x'), nullptr), std::string(200, 'x'));
-    EXPECT_EQ(Quoted(std::string(201, 'x'), nullptr), std::string(200, 'x') + "...");
+    EXPECT_EQ(Shorten(std::string(200, 'x'), nullptr), std::string(200, 'x'));
+    EXPECT_EQ(Shorten(std::string(201, 'x'), nullptr), std::string(200, 'x') + "...");
 }
 
 } // namespace

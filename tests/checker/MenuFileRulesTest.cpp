@@ -85,7 +85,7 @@ TEST(MenuFileRules, TellWhyAKeyIsNoFileName) {
         {"COM0\\CONTROL\\LPT10", ""},
     };
     for (const auto& [key, reason] : cases)
-        EXPECT_EQ(WhyNoFileName(key, nullptr), reason) << key;
+        EXPECT_EQ(FindFileNameFault(key, nullptr), reason) << key;
 }
 
 TEST(MenuFileRules, KnowNamesThatAreMistakenForMenuFiles) {
@@ -96,16 +96,17 @@ TEST(MenuFileRules, KnowNamesThatAreMistakenForMenuFiles) {
 }
 
 TEST(MenuFileRules, ShowTheTreeWithLineNumbersAndKeys) {
-    EXPECT_EQ(MenuTreeText(ParseMenuDefinition("T^x\r\nA>\r\n>B>C^K>1\r\n>D\x1B\r\n>>E^", nullptr), nullptr),
-              "T\r\n    2:  A>\r\n    3:    BC [K1]\r\n    4:    D?\r\n    5:      E []\r\n");
+    EXPECT_EQ(
+        FormatMenuTree(ParseMenuDefinition("T^x\r\nA>\r\n>B>C^K>1\r\n>D\x1B\r\n>>E^", nullptr), nullptr),
+        "T\r\n    2:  A>\r\n    3:    BC [K1]\r\n    4:    D?\r\n    5:      E []\r\n");
 }
 
 TEST(MenuFileRules, ShowAnEntryWithoutItsHeadingAtTheTopLevel) {
-    EXPECT_EQ(MenuTreeText(ParseMenuDefinition("T\r\n>>A^K", nullptr), nullptr), "T\r\n    2:  A [K]\r\n");
+    EXPECT_EQ(FormatMenuTree(ParseMenuDefinition("T\r\n>>A^K", nullptr), nullptr), "T\r\n    2:  A [K]\r\n");
 }
 
 TEST(MenuFileRules, ShowAmpersandsAsTheMenuDoes) {
-    EXPECT_EQ(MenuTreeText(ParseMenuDefinition("&A && B&\r\nC & D^K", nullptr), nullptr),
+    EXPECT_EQ(FormatMenuTree(ParseMenuDefinition("&A && B&\r\nC & D^K", nullptr), nullptr),
               "A & B\r\n    2:  C & D [K]\r\n");
 }
 

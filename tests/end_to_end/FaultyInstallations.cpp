@@ -337,7 +337,8 @@ std::vector<FaultyInstallation> FaultySettings() {
         {"a slash where no folder is",
          [] { WriteMenu("T\r\nA^Core/CSBackup"); },
          {{"UB.mnu:2", EndsProperties,
-           "the key Core/CSBackup leads to a folder that is missing, and only those at \"\\\" are made"}}},
+           "the key Core/CSBackup leads to a folder that is missing, and the menu makes only folders in "
+           "front of a \"\\\""}}},
         {"a slash where a folder is",
          [] {
              MakeFolder("Temp\\Ini\\Core");
@@ -352,7 +353,7 @@ std::vector<FaultyInstallation> FaultySettings() {
          {{"HERE\\Temp\\Ini\\Core\\", EndsProperties, isFile}}},
         {"settings without an equals sign",
          [] { WriteSettings("Lines=1\r\nLines\r\n"); },
-         {{settingsPlace, EndsProperties, "no settings, line 2: there is no \"=\""}}},
+         {{settingsPlace, EndsProperties, "not a settings file, line 2: there is no \"=\""}}},
         {"a folder in the place of settings",
          [] { MakeFolder(csBackupSettings); },
          {{settingsPlace, EndsProperties, isFolder}}},
