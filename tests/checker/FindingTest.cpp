@@ -34,7 +34,7 @@ TEST(Finding, IsCounted) {
         "0 errors, 2 warnings in 1 menu file (details)\r\n");
 }
 
-TEST(Finding, QuotesTwoHundredCharactersAtMost) {
+TEST(Finding, ShortensATextToTwoHundredCharacters) {
     EXPECT_EQ(Shorten(std::string(200, 'x'), nullptr), std::string(200, 'x'));
     EXPECT_EQ(Shorten(std::string(201, 'x'), nullptr), std::string(200, 'x') + "...");
 }
