@@ -1,5 +1,5 @@
-// What holds for every window, on screens of several DPI: controls lie inside their parents and apart from
-// each other, texts are shown whole, and the Tab key reaches every control.
+// What holds for every window, at several DPI: controls lie inside their parents and apart from each other,
+// texts are shown whole, and the Tab key reaches every control that takes keys.
 
 #include "controls/WindowTest.h"
 
@@ -12,8 +12,8 @@ int AtDpi(LONG pixels, UINT dpi, UINT ofDpi = 96) {
     return MulDiv(pixels, static_cast<int>(dpi), static_cast<int>(ofDpi));
 }
 
-// Moves a window to a screen as the platform does: first it asks the window for its size there. Then a
-// setting of the user changes on that screen.
+// Moves a window to a screen of another DPI as the platform does: asks the window for its size there, then
+// suggests a place. A changed user setting must not move the window away again.
 void MoveToScreen(HWND window, UINT dpi, SIZE size) {
     if (SIZE own{}; SendMessageA(window, WM_GETDPISCALEDSIZE, dpi, reinterpret_cast<LPARAM>(&own)) != 0)
         size = own;
@@ -25,8 +25,8 @@ void MoveToScreen(HWND window, UINT dpi, SIZE size) {
         const RECT taken = PlaceOf(window);
         return EqualRect(&taken, &suggested) != FALSE;
     };
-    // Tried again, because on a busy machine Wine now and then gives a window its earlier size back.
-    EXPECT_TRUE(move() || move() || move()) << "the place that was suggested";
+    // Tried three times, because on a busy machine Wine sometimes gives a window its earlier size back.
+    EXPECT_TRUE(move() || move() || move()) << "the window must take the suggested place";
 }
 
 class EveryWindow : public WindowTest, public testing::WithParamInterface<OpenedWindow> {
@@ -82,7 +82,7 @@ bool Overlap(HWND one, HWND other) {
 TEST_P(EveryWindow, KeepsControlsApart) {
     OnEveryScreen([](HWND window, UINT) {
         std::vector<HWND> controls = ShownControls(window);
-        std::erase_if(controls, [](HWND control) { // those that others lie in
+        std::erase_if(controls, [](HWND control) { // containers of other controls
             return IsGroupBox(control) || HasClass(control, WC_TABCONTROLA) || HasClass(control, dialogClass);
         });
         for (auto one = controls.begin(); one != controls.end(); ++one) {
@@ -102,9 +102,9 @@ RECT LastTab(HWND tabStrip) {
 // The size that a control needs for its text. Zeros for a control that shows no fixed text.
 SIZE NeededFor(HWND control, LONG width) {
     const std::string text = WindowText(control);
-    if (IsLabel(control) && !HasStyle(control, SS_PATHELLIPSIS)) // which shortens a path on purpose
+    if (IsLabel(control) && !HasStyle(control, SS_PATHELLIPSIS)) // unless it shortens a long path
         return TextSize(control, text, width, HasStyle(control, SS_NOPREFIX) ? DT_NOPREFIX : 0);
-    if (HasClass(control, WC_BUTTONA)) // with a border on each side
+    if (HasClass(control, WC_BUTTONA)) // the width of an n stands for each border
         return TextSize(control, "n" + text + "n", width, DT_SINGLELINE);
     if (HasClass(control, WC_TABCONTROLA))
         return {LastTab(control).right, 0};
@@ -161,7 +161,7 @@ struct Look {
 std::vector<Look> LooksOf(HWND window) {
     std::vector<Look> looks;
     for (const HWND control : ShownControls(window)) {
-        RECT place; // of a combo box with its list, if the platform says how large that is
+        RECT place; // for a combo box with its list, if the platform says how large that is
         if (SendMessageA(control, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&place)) != 0)
             MapWindowPoints(nullptr, GetParent(control), reinterpret_cast<POINT*>(&place), 2);
         else
@@ -177,7 +177,7 @@ TEST_P(EveryWindow, GrowsWithTheDpiAndComesBackAsItWas) {
     OnEveryScreen([&](HWND window, UINT dpi) {
         const std::vector<Look> now = LooksOf(window);
         first = first.empty() ? now : first;
-        // Letters do not grow evenly, and places in dialogs follow the letters.
+        // Fonts do not grow evenly with the DPI, and dialogs are laid out in units of their font.
         const double factor = dpi / 96.0, uneven = dpi == 96 ? 0 : 0.15, rounding = dpi == 96 ? 1 : 3;
         for (std::size_t i = 0; i < now.size(); ++i) {
             SCOPED_TRACE(Name(now[i].control));
@@ -190,13 +190,14 @@ TEST_P(EveryWindow, GrowsWithTheDpiAndComesBackAsItWas) {
     });
 }
 
-TEST_P(EveryWindow, IsPaintedAnewWhenTheUserChangesItsLooks) {
+TEST_P(EveryWindow, IsRepaintedWhenColorsThemeOrSettingsChange) {
     WhileOpened([](HWND window) {
         for (const int change : {WM_SETTINGCHANGE, WM_THEMECHANGED, WM_SYSCOLORCHANGE}) {
             RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
             SendMessageA(window, static_cast<UINT>(change), 0, 0);
             for (const HWND control : ShownControls(window))
-                EXPECT_TRUE(GetUpdateRect(control, nullptr, FALSE)) << change << " " << Name(control);
+                EXPECT_TRUE(GetUpdateRect(control, nullptr, FALSE))
+                    << "after message " << change << ": " << Name(control);
         }
     });
 }
@@ -211,7 +212,8 @@ TEST_F(WindowTest, MenuTakesTheUsersNewMessageFont) {
         SystemParametersInfoA(SPI_SETNONCLIENTMETRICS, sizeof changed, &changed, 0);
         SendMessageA(menu, WM_SETTINGCHANGE, 0, 0);
         for (const int id : {IDC_FRAME1, IDC_TREEVIEW1, IDC_LABEL2, IDC_LABEL3})
-            EXPECT_EQ(FontShapeOf(ControlOf(menu, id)).lfHeight, -AtDpi(14, GetDpiForWindow(menu), 72)) << id;
+            EXPECT_EQ(FontShapeOf(ControlOf(menu, id)).lfHeight, -AtDpi(14, GetDpiForWindow(menu), 72))
+                << "control " << id;
     });
     SystemParametersInfoA(SPI_SETNONCLIENTMETRICS, sizeof before, &before, 0);
 }

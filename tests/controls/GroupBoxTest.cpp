@@ -15,8 +15,8 @@ struct GroupBox : testing::Test {
                                      nullptr, nullptr, nullptr, nullptr);
 };
 
-// A themed button has its parent paint what is behind its round corners.
-TEST_F(GroupBox, PaintsWhatIsBehindAButtonInIt) {
+// A themed button asks its parent to paint the background behind its round corners.
+TEST_F(GroupBox, PaintsTheBackgroundOfAButtonInIt) {
     const HWND button = CreateWindowExA(0, WC_BUTTONA, "Run", WS_CHILD | WS_VISIBLE, 20, 40, 90, 30, box,
                                         nullptr, nullptr, nullptr);
     const HDC screen = GetDC(nullptr);
@@ -27,7 +27,7 @@ TEST_F(GroupBox, PaintsWhatIsBehindAButtonInIt) {
     PatBlt(memory.get(), 0, 0, 90, 30, BLACKNESS);
     DrawThemeParentBackground(button, memory.get(), nullptr);
     for (const auto& [x, y] : {std::pair{0, 0}, {89, 0}, {0, 29}, {89, 29}})
-        EXPECT_NE(GetPixel(memory.get(), x, y), RGB(0, 0, 0)) << x << ", " << y;
+        EXPECT_NE(GetPixel(memory.get(), x, y), RGB(0, 0, 0)) << "corner " << x << ", " << y;
     SelectObject(memory.get(), old);
 }
 

@@ -1,4 +1,4 @@
-// The fixed texts of the windows, letter for letter, and what the keyboard does first.
+// The fixed texts of the windows, letter for letter, the default buttons and the keyboard focus.
 
 #include "controls/WindowTest.h"
 #include "maintenance/AboutTexts.h"
@@ -11,8 +11,7 @@ using W = WindowTest;
 using Texts = std::vector<std::string>;
 
 // What a person reads in a window, control by control as the Tab key goes through it, its caption first.
-// "..." is a control for the operator's own text or number: a screen reader names it by the label in front of
-// it.
+// "..." stands for a control whose contents vary: a screen reader names it by the label before it.
 Texts TextsOf(HWND window) {
     Texts texts{WindowText(window)};
     for (const HWND control : ShownControls(window)) {
@@ -25,7 +24,7 @@ Texts TextsOf(HWND window) {
     return texts;
 }
 
-TEST_F(WindowTest, FixedTextsStandLetterForLetterAndInOrder) {
+TEST_F(WindowTest, FixedTextsAreShownLetterForLetterInTabOrder) {
     const std::pair<WhileWindow, Texts> windows[] = {
         {&W::WhileMenu,
          {"Obrin System Menu", "E-Mail us!", "Got a better idea?", "Utility Billing", "...", "&Run Program",
@@ -61,7 +60,7 @@ TEST_F(WindowTest, FixedTextsStandLetterForLetterAndInOrder) {
         (this->*whileOpen)([texts = expected](HWND window) { EXPECT_EQ(TextsOf(window), texts); });
 }
 
-TEST_F(WindowTest, PropertiesHaveTheirTabs) {
+TEST_F(WindowTest, PropertiesHaveThreeTabs) {
     WhileGeneralPage([](HWND dialog) {
         Texts tabs;
         std::array<char, 100> text;
@@ -91,11 +90,11 @@ TEST_F(WindowTest, InputBoxCanBeAnsweredAtOnce) {
     WhileInputBox([](HWND box) { EXPECT_EQ(GetFocus(), ControlOf(box, IDC_ANSWER)); });
 }
 
-TEST_F(WindowTest, HostNoticeTakesTheKeyboardFromNobody) {
+TEST_F(WindowTest, HostNoticeDoesNotTakeTheKeyboard) {
     WhileHostNotice([](HWND notice) { EXPECT_NE(GetActiveWindow(), notice); });
 }
 
-TEST_F(WindowTest, WindowsAheadOfTheMenuAreInTheTaskBar) {
+TEST_F(WindowTest, WindowsShownBeforeTheMenuAreInTheTaskBar) {
     const WindowAction isInTaskBar = [](HWND window) {
         EXPECT_TRUE((GetWindowExStyle(window) & WS_EX_APPWINDOW) != 0) << WindowText(window);
     };
