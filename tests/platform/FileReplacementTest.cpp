@@ -27,14 +27,14 @@ protected:
     FileReplacement() { WriteFileBytes("f", "old"); }
     ~FileReplacement() override { SetFileAttributesA("f", FILE_ATTRIBUTE_NORMAL); }
 
-    // Of what lies beside the file.
+    // The names of all files but "f".
     static std::vector<std::string> OtherFiles() {
         std::vector<std::string> names = FileNames();
         std::erase(names, "f");
         return names;
     }
 
-    // Expects the given refusal, which leaves everything as it was.
+    // Expects a refusal with this error code, and that no temporary file is left.
     static void ExpectRefusal(const std::string& path, DWORD code) {
         try {
             ReplaceFileBytes(path, "new");
@@ -68,13 +68,14 @@ TEST_F(FileReplacement, MakesAMissingFile) {
     EXPECT_EQ(OtherFiles(), std::vector<std::string>());
 }
 
-TEST_F(FileReplacement, LeavesAFileAloneThatHasTheContents) {
+TEST_F(FileReplacement, DoesNotWriteAFileThatHasTheContentsAlready) {
     const test::HeldFile reader("f", FILE_SHARE_READ); // a write would be refused
     EXPECT_NO_THROW(ReplaceFileBytes("f", "old"));
 }
 
-TEST_F(FileReplacement, WritesInPlaceWhatOthersHoldOpen) {
-    const test::HeldFile reader("f", FILE_SHARE_READ | FILE_SHARE_WRITE); // nobody may delete or rename it
+TEST_F(FileReplacement, WritesInPlaceIfTheFileCannotBeReplaced) {
+    const test::HeldFile reader(
+        "f", FILE_SHARE_READ | FILE_SHARE_WRITE); // others may write it, but not delete or rename it
     ReplaceFileBytes("f", "n");
     EXPECT_EQ(ReadFileBytes("f"), "n");
     EXPECT_EQ(OtherFiles(), std::vector<std::string>());
@@ -88,7 +89,7 @@ TEST_F(FileReplacement, IsRefusedForAFileThatStaysHeld) {
     EXPECT_EQ(ReadFileBytes("f"), "old");
 }
 
-TEST_F(FileReplacement, IsRefusedForWhatIsNoFile) {
+TEST_F(FileReplacement, IsRefusedForAFolderAndInAMissingFolder) {
     CreateFolder("d");
     ExpectRefusal("d", ERROR_ACCESS_DENIED);
     ExpectRefusal("missing\\f", ERROR_PATH_NOT_FOUND);
@@ -103,7 +104,8 @@ TEST_F(FileReplacement, IsRefusedForAReadOnlyFile) {
 constexpr const char* killedVariable = "OBRIN_TEST_KILLED";
 const std::array<std::string, 2> states{std::string(100, 'a'), std::string(1 << 20, 'b')};
 
-// The program that is killed is this one once more: it writes the file again and again, and runs no test.
+// The test starts this program a second time and kills it. With the variable set, the program writes the file
+// again and again, and runs no test.
 const bool startedToBeKilled = [] {
     while (!EnvironmentVariable(killedVariable).empty()) {
         for (const std::string& state : states)
@@ -116,8 +118,8 @@ bool IsWhole(const std::string& path) {
     return std::ranges::count(states, ReadFileBytes(path)) != 0;
 }
 
-// Whether the file, or one beside it, is whole: the platform takes two steps to put one in the place of the
-// other.
+// Whether the file or a temporary file is whole: the platform replaces a file in two steps, and between them
+// only the temporary file may exist.
 bool IsAnyFileWhole() {
     return std::ranges::any_of(FileNames(), IsWhole);
 }

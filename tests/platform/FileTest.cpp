@@ -69,7 +69,7 @@ TEST_F(FileTest, ShortPathOfAMissingFolderIsEmpty) {
     EXPECT_EQ(ShortPath("C:\\missing\\folder"), "");
 }
 
-TEST_F(FileTest, ShortPathHasAtMost163Characters) {
+TEST_F(FileTest, ShortPathOfMoreThan163CharactersIsEmpty) {
     EXPECT_GT(ShortPath(CurrentFolder()).size(), 2U);
     std::string deep = CurrentFolder();
     while (deep.size() < 200) {

@@ -20,7 +20,7 @@ std::string PathOf(const char* image) {
 class Image : public testing::TestWithParam<const char*> {
 protected:
     const std::string file = PathOf(GetParam());
-    // Only mapped. The platform marks such a handle in its lowest bits.
+    // Mapped, but not run. The lowest two bits of such a handle are flags, not part of the address.
     const std::uintptr_t mapped = reinterpret_cast<std::uintptr_t>(
         LoadLibraryExA(file.c_str(), nullptr, LOAD_LIBRARY_AS_IMAGE_RESOURCE));
     const char* base = reinterpret_cast<const char*>(mapped & ~std::uintptr_t{3});
@@ -30,7 +30,7 @@ protected:
 
 INSTANTIATE_TEST_SUITE_P(, Image, testing::Values("ObrinMenu.exe", "ObrinCheck.exe", "Corvel.dll"));
 
-TEST_P(Image, HasTheProtectionsOfWindows10AndNeedsIt) {
+TEST_P(Image, NeedsWindows10AndHasItsProtectionsOn) {
     EXPECT_EQ(headers.OptionalHeader.MajorSubsystemVersion, 10);
     const WORD all = IMAGE_DLLCHARACTERISTICS_DYNAMIC_BASE | IMAGE_DLLCHARACTERISTICS_NX_COMPAT |
                      (sizeof(void*) == 8 ? IMAGE_DLLCHARACTERISTICS_HIGH_ENTROPY_VA : 0);
@@ -42,8 +42,8 @@ TEST_P(Image, IsCopiedToSwapWhenItRunsFromAShare) {
     EXPECT_TRUE(headers.FileHeader.Characteristics & IMAGE_FILE_NET_RUN_FROM_SWAP);
 }
 
-// The platform loads these from its own folder, whatever lies in the program's folder, which every operator
-// may write to. It finds COMCTL32.DLL by the manifest.
+// The platform loads these from its own folder, even if a file in the program's folder has the same name.
+// Every operator may write to that folder. The manifest tells where COMCTL32.DLL is.
 TEST_P(Image, LoadsOnlyLibrariesOfTheSystem) {
     const std::set<std::string> known{"ADVAPI32.DLL", "COMCTL32.DLL", "GDI32.DLL",    "KERNEL32.DLL",
                                       "MSVCRT.DLL",   "OLE32.DLL",    "OLEAUT32.DLL", "SHELL32.DLL",
@@ -78,9 +78,10 @@ TEST(MenuManifest, AsksForThemedControlsAndFollowsTheDpiOfEachScreen) {
     EXPECT_NE(manifest.find(">PerMonitorV2, system</dpiAwareness>"), std::string::npos);
 }
 
-// Without a level, the 32-bit menu keeps the platform's write redirection for classic programs. In the
-// checker the redirection would copy the files that it only tries to write.
-TEST(Manifests, AskForARunLevelInTheCheckerAlone) {
+// Without a level, the 32-bit menu keeps the platform's write redirection for classic programs. The checker
+// must do without: it opens files only to try whether they can be written, and the redirection would copy
+// them.
+TEST(Manifests, OnlyTheCheckerAsksForARunLevel) {
     EXPECT_EQ(ManifestOf("ObrinMenu.exe").find("<requestedExecutionLevel"), std::string::npos);
     EXPECT_NE(ManifestOf("ObrinCheck.exe").find(R"(<requestedExecutionLevel level="asInvoker")"),
               std::string::npos);

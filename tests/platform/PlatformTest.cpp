@@ -35,16 +35,16 @@ TEST_F(Library, ReadsAnUnterminatedTextWithoutExpandingIt) {
     EXPECT_EQ(Get("Open"), "%TEMP%");
 }
 
-// The suite's programs call the two routines by their names.
-TEST_F(Library, ReturnsAnErrorIfNothingIsStored) {
+// Calls the routine itself, as other programs do: SupportLibrary drops what it returns.
+TEST_F(Library, SetRegValueReturnsAnErrorIfNothingIsStored) {
     const auto set = reinterpret_cast<LONG(__stdcall*)(HKEY, const char*, const char*, const char*)>(
         GetProcAddress(GetModuleHandleA("Corvel.dll"), "SetRegValue"));
     EXPECT_NE(set(nullptr, key, "Text", ""), ERROR_SUCCESS);
 }
 
-TEST(UpperCase, IsThatOfTheCodePage) {
+TEST(UpperCase, FollowsTheCodePage) {
     if (GetACP() != 1252)
-        GTEST_SKIP() << "the letters are those of code page 1252";
+        GTEST_SKIP() << "the letters of this test are those of code page 1252";
     EXPECT_EQ(UpperCase("z\xE4\xDF"), "Z\xC4\xDF");
 }
 
