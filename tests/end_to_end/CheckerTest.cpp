@@ -20,7 +20,7 @@ std::pair<std::string, DWORD> RunChecker(const std::string& arguments) {
     CreatePipe(&readEnd, &writeEnd, &inherited, 0);
     const UniqueHandle reader(readEnd);
     UniqueHandle writer(writeEnd);
-    const Started checker =
+    const StartedProgram checker =
         Start(OwnProgram().replace_filename("ObrinCheck.exe"), arguments, writeEnd, writeEnd);
     writer.reset();
     std::string output;

@@ -86,7 +86,7 @@ public:
 
 private:
     // The whole path: without it, the program beside the tests would be started.
-    const Started started = Start(std::filesystem::current_path() / "ObrinMenu.exe");
+    const StartedProgram started = Start(std::filesystem::current_path() / "ObrinMenu.exe");
 };
 
 /// The value LastSystem in the registry.

@@ -74,8 +74,7 @@ TEST_F(FileReplacement, DoesNotWriteAFileThatHasTheContentsAlready) {
 }
 
 TEST_F(FileReplacement, WritesInPlaceIfTheFileCannotBeReplaced) {
-    const test::HeldFile reader(
-        "f", FILE_SHARE_READ | FILE_SHARE_WRITE); // others may write it, but not delete or rename it
+    const test::HeldFile reader("f", FILE_SHARE_READ | FILE_SHARE_WRITE); // no FILE_SHARE_DELETE
     ReplaceFileBytes("f", "n");
     EXPECT_EQ(ReadFileBytes("f"), "n");
     EXPECT_EQ(OtherFiles(), std::vector<std::string>());
@@ -128,7 +127,7 @@ bool IsAnyFileWhole() {
 void KillWriter(DWORD milliseconds) {
     WriteFileBytes("f", states[0]);
     SetEnvironmentVariableA(killedVariable, "yes");
-    const test::Started writer = test::Start(test::OwnProgram());
+    const test::StartedProgram writer = test::Start(test::OwnProgram());
     SetEnvironmentVariableA(killedVariable, nullptr);
     const ULONGLONG deadline = GetTickCount64() + 10'000;
     WIN32_FILE_ATTRIBUTE_DATA now{};

@@ -9,9 +9,9 @@
 
 namespace obrin::test {
 
-/// Polls until the condition holds; false when it never did.
+/// Polls until the condition holds. Returns false if it does not within 20 seconds.
 inline bool Eventually(const std::function<bool()>& condition) {
-    // Once something has failed, the rest may fail for the same reason.
+    // After a failure it waits only a second: the rest may fail for the same reason.
     const ULONGLONG end = GetTickCount64() + (testing::Test::HasFailure() ? 1'000 : 20'000);
     while (!condition()) {
         if (GetTickCount64() > end)
@@ -21,7 +21,8 @@ inline bool Eventually(const std::function<bool()>& condition) {
     return true;
 }
 
-/// Moves the real pointer. The display may report late where it was before, which undoes the move.
+/// Moves the real pointer, and waits until it stays there: the display may report the earlier place late,
+/// which undoes the move.
 inline void PointAt(POINT place) {
     EXPECT_TRUE(Eventually([&, arrived = 0]() mutable {
         POINT pointer;

@@ -1,4 +1,4 @@
-// A file that somebody else holds open.
+// A file that is held open, as another program may do.
 #pragma once
 
 #include "platform/Handle.h"
@@ -14,7 +14,7 @@ public:
     HeldFile(const std::string& path, DWORD share)
         : handle(CreateFileA(path.c_str(), GENERIC_READ, share, nullptr, OPEN_EXISTING, 0, nullptr)) {}
 
-    /// Closes the file after as many milliseconds.
+    /// Returns at once. A thread closes the file after this time.
     void ReleaseAfter(DWORD milliseconds) {
         releaser = std::jthread([this, milliseconds] {
             Sleep(milliseconds);

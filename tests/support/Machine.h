@@ -9,20 +9,20 @@
 
 namespace obrin::test {
 
-/// The program of these tests. The programs that are tested lie beside it.
+/// The path of the running test program. The programs under test lie beside it.
 inline std::filesystem::path OwnProgram() {
     return OwnFile();
 }
 
-struct Started {
+struct StartedProgram {
     UniqueHandle process, thread;
     DWORD id;
 };
 
 /// Starts a program. Its standard output goes to `output` and its standard error to `errors`, if given.
 /// Throws when the program does not start.
-inline Started Start(const std::filesystem::path& program, const std::string& arguments = "",
-                     HANDLE output = nullptr, HANDLE errors = nullptr) {
+inline StartedProgram Start(const std::filesystem::path& program, const std::string& arguments = "",
+                            HANDLE output = nullptr, HANDLE errors = nullptr) {
     STARTUPINFOA startup{};
     startup.cb = sizeof startup;
     const bool redirected = output != nullptr || errors != nullptr;
@@ -31,7 +31,7 @@ inline Started Start(const std::filesystem::path& program, const std::string& ar
     startup.hStdError = errors;
     PROCESS_INFORMATION process{};
     std::string line = '"' + program.string() + "\" " + arguments;
-    // Wine now and then fails to start a program on a loaded machine.
+    // On a loaded machine, Wine sometimes fails to start a program.
     for (int tries = 1; !CreateProcessA(nullptr, line.data(), nullptr, nullptr, redirected, CREATE_NO_WINDOW,
                                         nullptr, nullptr, &startup, &process);
          ++tries) {

@@ -12,7 +12,7 @@ std::vector<std::string> documents;
 
 HINSTANCE WINAPI Record(HWND, LPCSTR, LPCSTR file, LPCSTR parameters, LPCSTR, INT show) {
     EXPECT_EQ(show, SW_SHOWNORMAL);
-    if (parameters == nullptr)
+    if (parameters == nullptr) // the host is started with parameters
         documents.emplace_back(file);
     constexpr INT_PTR success = 33;
     return reinterpret_cast<HINSTANCE>(success);
@@ -20,7 +20,7 @@ HINSTANCE WINAPI Record(HWND, LPCSTR, LPCSTR file, LPCSTR parameters, LPCSTR, IN
 
 } // namespace
 
-// The pointer through which the program calls the imported function.
+// Replaces the pointer through which the program calls the imported function.
 extern "C" {
 #ifdef _WIN64
 decltype(&ShellExecuteA) importedShellExecute __asm__("__imp_ShellExecuteA") = Record;

@@ -1,5 +1,5 @@
-// Takes the place of the shell's "open" in a test program: it starts no host, which would stay behind and
-// hold the output of the test, and only records documents.
+// Replaces ShellExecute in a test program. A document is only recorded. The host is not started, because it
+// would outlive the test and keep its output open.
 #pragma once
 
 #include <string>

@@ -15,8 +15,8 @@ class ScratchFolder {
 public:
     ScratchFolder()
         : before(std::filesystem::current_path()) {
-        // Another folder than any before: process numbers come again, and a program that is just ending may
-        // have kept its file from being removed.
+        // Always a new folder. One with this process ID may be left over: IDs are reused, and a folder is not
+        // removed while a program in it is still ending.
         do {
             path = std::filesystem::temp_directory_path() /
                    ("obrin-test-" + std::to_string(GetCurrentProcessId()) + "-" + std::to_string(++number));
@@ -38,7 +38,8 @@ private:
     std::filesystem::path before;
 };
 
-/// A picture of 24 bits a pixel, white and black from one to the next; the width is a multiple of 4.
+/// The bytes of a BMP file with 24 bits a pixel, whose pixels are white and black in turn. The width must be
+/// a multiple of 4.
 inline std::string Bmp(int width, int height) {
     const BITMAPINFOHEADER info{sizeof info, width, height, 1, 24, BI_RGB, 0, 0, 0, 0, 0};
     const std::string head("BM\0\0\0\0\0\0\0\0\x36\0\0\0", 14);

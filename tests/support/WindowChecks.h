@@ -50,7 +50,8 @@ inline std::string FontOf(HWND window) {
            (shape.lfUnderline != 0 ? "u" : "");
 }
 
-/// The size in pixels of a text in the window's font, broken into lines of `width` pixels.
+/// The size in pixels of a text in the window's font, broken into lines of `width` pixels. `format` adds
+/// flags of DrawText (DT_...).
 inline SIZE TextSize(HWND window, const std::string& text, LONG width, UINT format = 0) {
     const HDC context = GetDC(window);
     const HGDIOBJ old =
