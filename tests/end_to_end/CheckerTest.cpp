@@ -1,4 +1,5 @@
-// The checker as a program, and what it says of faulty installations compared with what the menu does there.
+// Runs the checker as a program, and compares what it predicts for faulty installations with what the menu
+// does there.
 
 #include "checker/PathChecks.h"
 #include "common/Installation.h"
@@ -13,7 +14,8 @@
 namespace obrin::test {
 namespace {
 
-// Runs the checker in the current folder: what it writes and complains of, and its exit code.
+// Runs the checker in the current folder. Returns its standard output and error as one text, and its exit
+// code.
 std::pair<std::string, DWORD> RunChecker(const std::string& arguments) {
     SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
     HANDLE readEnd = nullptr, writeEnd = nullptr;
@@ -61,20 +63,21 @@ Files Everything() {
     return files;
 }
 
-// With HERE in the place of the current folder.
-std::string WithoutFolder(std::string text) {
+// Replaces the path of the current folder by HERE.
+std::string ReplaceCurrentFolder(std::string text) {
     const std::string folder = CurrentFolder();
     if (const auto place = text.find(folder); place != std::string::npos)
         text.replace(place, folder.size(), "HERE");
     return text;
 }
 
-std::vector<ExpectedFinding> InShort(const Findings& findings) {
+// Drops consequences and remedies, and sorts by place and problem.
+std::vector<ExpectedFinding> Simplify(const Findings& findings) {
     std::vector<ExpectedFinding> result;
     for (const auto& [effect, place, trouble, consequence] : findings)
         result.push_back(
-            {WithoutFolder(place.file) + (place.line == 0 ? "" : ':' + std::to_string(place.line)), effect,
-             WithoutFolder(trouble.problem)});
+            {ReplaceCurrentFolder(place.file) + (place.line == 0 ? "" : ':' + std::to_string(place.line)),
+             effect, ReplaceCurrentFolder(trouble.problem)});
     std::ranges::sort(
         result, {}, [](const ExpectedFinding& finding) { return std::tie(finding.place, finding.problem); });
     return result;
@@ -88,27 +91,27 @@ bool KeepsConfiguration() {
     try {
         return ReadFileBytes(hostConfigurationFile).find("Files 120") != std::string::npos;
     } catch (const RunTimeError&) {
-        return true; // none, or held
+        return true; // the file is missing or held open on purpose
     }
 }
 
-void Compare(const std::vector<FaultyInstallation>& rows) {
-    for (const auto& [name, breakIt, added, menuIsTried] : rows) {
+void CompareWithMenu(const std::vector<FaultyInstallation>& rows) {
+    for (const auto& [name, breakIt, expected, menuIsTried] : rows) {
         SCOPED_TRACE(name);
         const SoundInstallation installation;
         breakIt();
         const Files before = Everything();
         const Findings findings = Check();
-        EXPECT_EQ(before, Everything()) << "the checker changes nothing";
-        EXPECT_EQ(InShort(findings), added);
+        EXPECT_EQ(before, Everything()) << "the checker must change nothing";
+        EXPECT_EQ(Simplify(findings), expected);
         if (!menuIsTried)
             continue;
-        const Effect predicted = Predicted(findings);
+        const Effect predicted = PredictedEffect(findings);
         Effect done = TryMenu(predicted);
         if (predicted == Effect::EndsShownSystem && done == Effect::EndsEveryStart)
-            done = predicted; // the first system is shown at the start
+            done = predicted; // the start shows the first system
         EXPECT_EQ(done, predicted);
-        EXPECT_TRUE(KeepsConfiguration());
+        EXPECT_TRUE(KeepsConfiguration()) << "the menu must keep the line Files 120";
     }
 }
 
@@ -119,21 +122,21 @@ TEST(Checker, FindsNothingInASoundInstallation) {
 }
 
 TEST(Checker, PredictsTheMenuWithFaultyMenuFiles) {
-    Compare(FaultyMenuFiles());
+    CompareWithMenu(FaultyMenuFiles());
 }
 
 TEST(Checker, PredictsTheMenuWithRememberedSystems) {
     if (!MayRememberSystem())
         GTEST_SKIP() << "this user may not write the menu's key of the registry";
-    Compare(RememberedSystems());
+    CompareWithMenu(RememberedSystems());
 }
 
 TEST(Checker, PredictsTheMenuWithFaultyFiles) {
-    Compare(FaultyFiles());
+    CompareWithMenu(FaultyFiles());
 }
 
 TEST(Checker, PredictsTheMenuWithFaultySettings) {
-    Compare(FaultySettings());
+    CompareWithMenu(FaultySettings());
 }
 
 void ExpectLine(const Findings& findings, const std::string& line) {
@@ -149,7 +152,7 @@ TEST(Checker, PredictsTheMenuWithTooManySystems) {
     ExpectLine(findings,
                ".mnu: error: at most 99 menu files are allowed, and this is one more: the menu ends "
                "with an error at every start; remove those that nobody uses");
-    EXPECT_EQ(TryMenu(Predicted(findings)), Effect::EndsEveryStart);
+    EXPECT_EQ(TryMenu(PredictedEffect(findings)), Effect::EndsEveryStart);
 }
 
 TEST(Checker, WarnsOfAFolderWithoutAShortForm) {
@@ -180,11 +183,11 @@ TEST(Checker, NamesTheVariableOnceForAShareThatCannotBeReached) {
     EXPECT_EQ(findings[0].place.file, temporaryFolderVariable);
 }
 
-TEST(Checker, SaysThatItCannotTryTheLibraryOfTheOtherArchive) {
+TEST(Checker, WarnsThatTheMenuIsFromTheOtherArchive) {
     const std::string otherBits =
         sizeof(void*) == 8 ? "C:\\Windows\\SysWOW64\\cmd.exe" : "C:\\Windows\\Sysnative\\cmd.exe";
     if (!FileExists(otherBits))
-        GTEST_SKIP() << "this computer runs programs of one kind alone";
+        GTEST_SKIP() << "this computer runs only programs with as many bits as this test";
     const SoundInstallation installation;
     WriteFileBytes(menuProgram, ReadFileBytes(otherBits));
     ExpectLine(Check(),
@@ -192,14 +195,14 @@ TEST(Checker, SaysThatItCannotTryTheLibraryOfTheOtherArchive) {
                "Corvel.dll has not been checked; use the ObrinCheck that came with ObrinMenu.exe");
 }
 
-TEST(Menu, LeavesNoHostHiddenWithoutItsLibrary) {
+TEST(Menu, StartsNoHostWithoutItsLibrary) {
     const SoundInstallation installation;
     DeleteFileA(supportLibraryFile);
     EXPECT_EQ(TryMenu(Effect::EndsEveryStart), Effect::EndsEveryStart);
     EXPECT_EQ(installation.Logged("process"), Lines{});
 }
 
-TEST(Checker, TakesFoldersFilesAndNothingElse) {
+TEST(Checker, AcceptsOnlyFoldersMenuFilesAndOptions) {
     const SoundInstallation installation;
     CreateFolder("empty");
     WriteFileBytes("other.txt", "T");
@@ -210,7 +213,7 @@ TEST(Checker, TakesFoldersFilesAndNothingElse) {
     struct {
         std::string arguments;
         DWORD exitCode;
-        std::string output; // somewhere in it
+        std::string output; // a part of it
     } const cases[] = {
         {"", 0, "0 errors, 0 warnings in 1 menu file (" + CurrentFolder() + ", user " + LoginName()},
         {"empty", 1, "empty\\FennConfig.Sys: error: missing"},

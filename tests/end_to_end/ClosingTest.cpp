@@ -44,7 +44,7 @@ TEST_F(Closing, EndOfTheSessionLetsACommandBeTypedToItsEnd) {
     ExpectRemembered("UB.mnu");
 }
 
-TEST_F(Closing, SessionThatGoesOnLeavesTheMenuOpen) {
+TEST_F(Closing, CancelledEndOfTheSessionLeavesTheMenuOpen) {
     SendMessageA(menu->Window(), WM_ENDSESSION, FALSE, 0);
     EXPECT_TRUE(IsWindow(menu->Window()));
     EXPECT_EQ(installation.Logged("line"), typed);

@@ -48,7 +48,7 @@ void SetAttributes(const std::string& path, DWORD attributes) {
     SetFileAttributesA(path.c_str(), attributes);
 }
 
-// Another program has the file open, and shares it so.
+// Keeps the file open as another program may do. `sharing` is what others may do meanwhile (FILE_SHARE_...).
 void Hold(const std::string& path, DWORD sharing = 0) {
     held.push_back(CreateFileA(path.c_str(), GENERIC_READ, sharing, nullptr, OPEN_EXISTING, 0, nullptr));
 }
@@ -68,13 +68,14 @@ void Patch(const std::string& path, std::string_view from, std::string_view to) 
     Write(path, bytes);
 }
 
-// A file of settings with these contents, for the program CSBackup.
+// Writes the settings file of the program CSBackup.
 void WriteSettings(const std::string& bytes) {
     MakeFolder("Temp\\Ini\\Core\\Programs");
     Write(csBackupSettings, bytes);
 }
 
-constexpr bool checkerOnly = false; // not the menu: it works, or writes where it must not in a test
+// For faults that do not stop the menu, that Wine treats differently, or with which the menu cannot be tried.
+constexpr bool checkerOnly = false;
 constexpr bool is64 = sizeof(void*) == 8;
 
 } // namespace
@@ -106,16 +107,16 @@ std::vector<FaultyInstallation> FaultyMenuFiles() {
              WriteMenu("T" + entries);
          },
          {{"UB.mnu:32769", EndsShownSystem, "more than 32,767 entries"}}},
-        {"a key with a character of no file name",
+        {"a key with a character that no file name may hold",
          [] { WriteMenu("T\r\nA^a?"); },
          {{"UB.mnu:2", EndsProperties, "the key a? holds the character ?"}}},
         {"a key with a control character",
          [] { WriteMenu("T\r\nA^K\x1B[2J"); },
          {{"UB.mnu:2", EndsProperties, "the key K\x1B[2J holds a control character"}}},
-        {"a key that is a device",
+        {"a key that names a device",
          [] { WriteMenu("T\r\nA^Core\\nul"); },
          {{"UB.mnu:2", EndsProperties, "the key Core\\nul names a device of Windows (nul)"}}},
-        {"a key that leads outside",
+        {"a key that leads out of the settings folder",
          [] { WriteMenu("T\r\nA^..\\K"); },
          {{"UB.mnu:2", None, "the key ..\\K holds \"..\""}}},
         {"a second system with a fault",
@@ -134,7 +135,7 @@ std::vector<FaultyInstallation> FaultyMenuFiles() {
              Hold("ZZ.mnu");
          },
          {{"ZZ.mnu", None, isHeld}, {"ZZ.mnu", None, "hidden or a system file"}}},
-        {"a name in capitals",
+        {"a file name in capitals",
          [] { Write("ZZ.MNU", "T"); },
          {{"ZZ.MNU", None, "the name does not end in .mnu in small letters"}}},
         {"a folder with the name of a menu file",
@@ -146,7 +147,7 @@ std::vector<FaultyInstallation> FaultyMenuFiles() {
         {"a menu file that another program holds",
          [] { Hold("UB.mnu"); },
          {{"UB.mnu", EndsEveryStart, isHeld}}},
-        {"two systems of one code",
+        {"two systems with the same code",
          [] { Write("ub2.mnu", "T\r\nA^K"); },
          {{"ub2.mnu", None, "the system code ub is that of UB.mnu too"}}},
     };
@@ -190,7 +191,7 @@ std::vector<FaultyInstallation> FaultyFiles() {
          [] { MakeFolder(temporaryConfigurationFile); },
          {{"Core\\TempOut.tmp", EndsEveryStart, isFolder}}},
         {"no library", [] { Delete(supportLibraryFile); }, {{"Corvel.dll", EndsEveryStart, "missing"}}},
-        {"a library of other bits",
+        {"a 32-bit library for a 64-bit menu, or the reverse",
          [] {
              Patch(supportLibraryFile, "PE\0\0"s + (is64 ? "\x64\x86" : "\x4C\x01"),
                    "PE\0\0"s + (is64 ? "\x4C\x01" : "\x64\x86"));
@@ -199,12 +200,12 @@ std::vector<FaultyInstallation> FaultyFiles() {
            std::string("cannot be used (Corvel.dll is not a ") + (is64 ? "64" : "32") +
                "-bit library. Use the one that came with ObrinMenu.exe: " + PlatformText(ERROR_INVALID_DATA) +
                ")"}}},
-        {"another library",
+        {"a library without SetRegValue",
          [] { Patch(supportLibraryFile, "\0SetRegValue\0"s, "\0SetRegFalue\0"s); },
          {{"Corvel.dll", EndsEveryStart,
            "cannot be used (Looking for SetRegValue in Corvel.dll: " + PlatformText(ERROR_PROC_NOT_FOUND) +
                ")"}}},
-        {"a library that needs another one",
+        {"a library that needs a missing one",
          [] { Patch(supportLibraryFile, "OLEAUT32.dll", "OLEAUT99.dll"); },
          {{"Corvel.dll", EndsEveryStart,
            "cannot be used (Loading Corvel.dll: " + PlatformText(ERROR_MOD_NOT_FOUND) + ")"}}},
@@ -220,7 +221,7 @@ std::vector<FaultyInstallation> FaultyFiles() {
          [] { Write(menuProgram, ""); },
          {{"ObrinMenu.exe", WaitsForEver, "not a program that Windows can start"}},
          checkerOnly},
-        {"a picture that is none",
+        {"a picture file without a picture",
          [] { Write(startupPictureFile, "no picture"); },
          {{"Startup.bmp", EndsEveryStart,
            "no picture that can be shown (" + PlatformText(ERROR_INVALID_DATA) + ")"}}},
@@ -230,7 +231,7 @@ std::vector<FaultyInstallation> FaultyFiles() {
              Hold(startupPictureFile);
          },
          {{"Startup.bmp", EndsEveryStart, isHeld}}},
-        {"pictures that are not shown",
+        {"a faulty picture that is hidden",
          [] {
              Write(startupPictureFile, "no picture");
              SetAttributes(startupPictureFile, FILE_ATTRIBUTE_HIDDEN);
@@ -292,7 +293,7 @@ std::vector<FaultyInstallation> FaultyFiles() {
          {{"Help\\Index.html", None, isFolder}},
          checkerOnly},
         {"no shortcut", [] { Delete("Obrin-User.url"); }, {{"Obrin-User.url", None, "missing"}}, checkerOnly},
-        {"hidden files that are written",
+        {"hidden files that the menu writes",
          [] {
              SetAttributes(updateRegisterFile, FILE_ATTRIBUTE_HIDDEN);
              SetAttributes(userRecordsFile, FILE_ATTRIBUTE_HIDDEN);
@@ -328,24 +329,26 @@ std::vector<FaultyInstallation> FaultySettings() {
         {"a folder with a control character",
          [] { Set(temporaryFolderVariable, CurrentFolder() + "\\a\x01"); },
          {{"TesselTemp", EndsProperties, leadsTo + "HERE\\a\x01, which holds a control character"}}},
-        {"a folder that is made", [] { Set(temporaryFolderVariable, CurrentFolder() + "\\New\\Temp"); }, {}},
+        {"a missing folder that the menu makes",
+         [] { Set(temporaryFolderVariable, CurrentFolder() + "\\New\\Temp"); },
+         {}},
         {"a key that is too long",
          [] { WriteMenu("T\r\nA^" + std::string(250, 'x')); },
          {{"UB.mnu:2", EndsProperties,
            "the key " + std::string(200, 'x') + "... makes the path of its settings file too long"}},
          checkerOnly},
-        {"a slash where no folder is",
+        {"a slash after a missing folder",
          [] { WriteMenu("T\r\nA^Core/CSBackup"); },
          {{"UB.mnu:2", EndsProperties,
            "the key Core/CSBackup leads to a folder that is missing, and the menu makes only folders in "
            "front of a \"\\\""}}},
-        {"a slash where a folder is",
+        {"a slash after an existing folder",
          [] {
              MakeFolder("Temp\\Ini\\Core");
              WriteMenu("T\r\nA^Core/CSBackup");
          },
          {}},
-        {"a file in the place of a folder of the key",
+        {"a file in the place of a folder in the key",
          [] {
              MakeFolder("Temp\\Ini");
              Write("Temp\\Ini\\Core", "x");

@@ -1,4 +1,4 @@
-// Installations with one fault each: how it is made, and what the checker finds.
+// Installations with one change each, most of them faults: how each is made, and what the checker finds.
 #pragma once
 
 #include "end_to_end/MenuTrial.h"
@@ -8,7 +8,7 @@
 
 namespace obrin::test {
 
-/// A finding without its consequence and remedy, which are words for the reader alone.
+/// A finding without its consequence and remedy.
 struct ExpectedFinding {
     std::string place; ///< "FILE" or "FILE:LINE", HERE for the current folder
     Effect effect;
@@ -23,18 +23,18 @@ struct ExpectedFinding {
 
 struct FaultyInstallation {
     const char* name;
-    void (*breakIt)();                  ///< a sound installation, the current folder
-    std::vector<ExpectedFinding> added; ///< sorted by place and problem
-    bool menuIsTried = true;            ///< and not the checker alone
+    void (*breakIt)();                     ///< changes the sound installation in the current folder
+    std::vector<ExpectedFinding> expected; ///< sorted by place and problem
+    bool menuIsTried = true;               ///< false: only the checker is tried
 };
 
-/// By what the fault is in.
+/// Each function lists the faults of one kind of file or value.
 std::vector<FaultyInstallation> FaultyMenuFiles();
 std::vector<FaultyInstallation> RememberedSystems();
 std::vector<FaultyInstallation> FaultyFiles();
 std::vector<FaultyInstallation> FaultySettings();
 
-/// Lets go of files that an installation holds open, and makes everything in it writable and visible.
+/// Closes the files that a fault holds open, and makes everything in the current folder writable and visible.
 void EndFaults();
 
 } // namespace obrin::test

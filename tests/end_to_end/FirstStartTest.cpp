@@ -7,8 +7,8 @@ namespace {
 
 constexpr const char* questionTitle = "Please Select a WSID";
 
-// An installation that does not know the user yet. Another user has number 9, in a last record that ends
-// behind its number, as the host leaves it.
+// An installation that does not know the user yet. Another user has number 9. That record, the last one, is
+// cut off after the number, as the host writes it.
 struct FirstStart : testing::Test {
     FirstStart() { WriteFileBytes("UserWSID.sys", otherRecord.substr(0, 102)); }
 
@@ -49,8 +49,8 @@ TEST_F(FirstStart, AppendsTheNumberToTheRecordsOfOtherUsers) {
     EXPECT_EQ(ReadFileBytes("UserWSID.sys"), otherRecord + UserWsidRecord(user, 5));
 }
 
-TEST_F(FirstStart, ClosedAtTheQuestionGoesNoFurther) {
-    DeleteFileA("Corvel.dll"); // its absence would be an error before the host is started
+TEST_F(FirstStart, MenuClosedAtTheQuestionGoesNoFurther) {
+    DeleteFileA("Corvel.dll"); // a menu that went on would end with an error
     const RunningMenu menu;
     EXPECT_TRUE(menu.Window(questionTitle));
     EXPECT_FALSE(IsWindowEnabled(menu.LoadingWindow()));
@@ -58,15 +58,15 @@ TEST_F(FirstStart, ClosedAtTheQuestionGoesNoFurther) {
     EXPECT_EQ(menu.ExitCode(), 0);
 }
 
-TEST(DamagedRecord, WithANegativeNumberWaitsWithoutAQuestionUntilTheMenuIsClosed) {
+TEST(DamagedRecord, WithANegativeNumberMakesTheMenuWaitUntilItIsClosed) {
     const Installation installation(-7);
-    DeleteFileA("Corvel.dll"); // its absence would be an error before the host is started
+    DeleteFileA("Corvel.dll"); // a menu that went on would end with an error
     const RunningMenu menu;
     EXPECT_TRUE(menu.LoadingWindow());
     SendMessageA(menu.LoadingWindow(), WM_SETTINGCHANGE, 0, 0); // there are no controls for new fonts yet
     Sleep(300);
     EXPECT_FALSE(menu.Shown(questionTitle));
-    EXPECT_FALSE(menu.Shown("ObrinMenu")) << "an error";
+    EXPECT_FALSE(menu.Shown("ObrinMenu")) << "the menu must not show an error";
     menu.Close();
     EXPECT_EQ(menu.ExitCode(), 0);
 }

@@ -1,5 +1,5 @@
-// The link to a host that the test plays itself, window by window: windows that come late, keys that take
-// long, the end of the session.
+// The link to a host whose windows the test makes itself: windows that come late or never, and a session that
+// ends while keys are typed.
 
 #include "end_to_end/Installation.h"
 
@@ -17,8 +17,8 @@ constexpr const char* firstSystem = "LOAD CORE\xDCSTARTSYS\rRUN\rUB\r";
 constexpr const char* exitCommand = "RUN CORE\xDC"
                                     "EXIT\r";
 
-// The stand-in host that the menu starts never names its window: the station is a window of this thread. The
-// class of the station does not matter.
+// The menu starts the stand-in host, whose window gets no caption here. So the menu takes a window of this
+// thread for the station: it looks for the caption only, and any window class will do.
 struct HostLinkTest : testing::Test {
     HostLinkTest() {
         SetEnvironmentVariableA("FENN_NEVER", "caption");
@@ -35,7 +35,7 @@ struct HostLinkTest : testing::Test {
         station = CreateWindowExA(0, windowClass, "Obrin-05", WS_OVERLAPPEDWINDOW, 0, 0, 300, 200, nullptr,
                                   nullptr, nullptr, nullptr);
     }
-    // Its child takes the keys.
+    // The child of the station that takes the keys.
     void MakeCommandWindow() const {
         CreateWindowExA(0, "ObrinTest.Command", "", WS_CHILD, 0, 0, 0, 0, station, nullptr, nullptr, nullptr);
     }
@@ -50,8 +50,8 @@ struct HostLinkTest : testing::Test {
         return 0;
     }
 
-    // Processes messages until the condition holds; false when it never did.
-    static bool Until(const std::function<bool()>& condition, DWORD milliseconds = 20'000) {
+    // Processes messages until the condition holds. Returns false if it does not within this time.
+    static bool WaitUntil(const std::function<bool()>& condition, DWORD milliseconds = 20'000) {
         for (const ULONGLONG start = GetTickCount64(); !condition();) {
             if (GetTickCount64() - start > milliseconds)
                 return false;
@@ -61,7 +61,7 @@ struct HostLinkTest : testing::Test {
         return true;
     }
     static bool ShowsMenu(const RunningMenu& menu, DWORD milliseconds = 20'000) {
-        return Until([&] { return menu.Shown(menuCaption) != nullptr; }, milliseconds);
+        return WaitUntil([&] { return menu.Shown(menuCaption) != nullptr; }, milliseconds);
     }
 
     static inline std::function<void()> onNextKey; // called once, before the key is noted
@@ -75,7 +75,7 @@ TEST_F(HostLinkTest, WaitsForTheCommandWindowOfTheStation) {
     MakeStation();
     ShowStation();
     const RunningMenu menu;
-    EXPECT_FALSE(ShowsMenu(menu, 2000)) << "it would type into nothing";
+    EXPECT_FALSE(ShowsMenu(menu, 2000)) << "there is no window to type into yet";
     MakeCommandWindow();
     EXPECT_TRUE(ShowsMenu(menu));
     EXPECT_EQ(typed, firstSystem);
@@ -92,7 +92,7 @@ TEST_F(HostLinkTest, HidesAStationThatIsShownALittleLater) {
     EXPECT_FALSE(IsWindowVisible(station));
 }
 
-// As it hides, the host puts the window that takes the keys in front.
+// While the host's window is being hidden, the host brings the child that takes the keys to the front.
 LRESULT CALLBACK PutCommandWindowInFront(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_SHOWWINDOW && wParam == FALSE)
         SetWindowPos(FindWindowExA(window, nullptr, "ObrinTest.Command", nullptr), HWND_TOP, 0, 0, 0, 0,
@@ -122,7 +122,7 @@ TEST_F(HostLinkTest, GoesOnWithAStationThatIsNeverShown) {
 
 TEST_F(HostLinkTest, NoticeStaysWhileTheHostHandlesTheFirstCommand) {
     const RunningMenu menu;
-    ASSERT_TRUE(Until([&] { return menu.Shown(noticeTitle) != nullptr; }));
+    ASSERT_TRUE(WaitUntil([&] { return menu.Shown(noticeTitle) != nullptr; }));
     EXPECT_EQ(menu.Texts(noticeTitle).find("could not be started"), std::string::npos);
     bool isNoticeShown = false;
     onNextKey = [&] { isNoticeShown = menu.Shown(noticeTitle) != nullptr; };
@@ -131,7 +131,7 @@ TEST_F(HostLinkTest, NoticeStaysWhileTheHostHandlesTheFirstCommand) {
     ShowStation();
     EXPECT_TRUE(ShowsMenu(menu));
     EXPECT_TRUE(isNoticeShown);
-    EXPECT_TRUE(Until([&] { return menu.Shown(noticeTitle) == nullptr; }));
+    EXPECT_TRUE(WaitUntil([&] { return menu.Shown(noticeTitle) == nullptr; }));
 }
 
 TEST_F(HostLinkTest, EndOfTheSessionDuringACloseFinishesTheClose) {
@@ -141,18 +141,18 @@ TEST_F(HostLinkTest, EndOfTheSessionDuringACloseFinishesTheClose) {
     const RunningMenu menu;
     ASSERT_TRUE(ShowsMenu(menu));
     const HWND window = menu.Window();
-    std::string typedAtAnswer;
+    std::string typedAtSessionEnd;
     bool isMarkerThere = true;
     onNextKey = [&] {
-        // As Windows does; the program may be ended right behind it.
+        // Windows does the same, and may end the program as soon as the call returns.
         SendMessageA(window, WM_ENDSESSION, TRUE, 0);
-        typedAtAnswer = typed;
+        typedAtSessionEnd = typed;
         isMarkerThere = FileExists("Menu 5.txt");
     };
     PostMessageA(window, WM_CLOSE, 0, 0);
-    EXPECT_TRUE(Until([&] { return !IsWindow(window); }));
-    // The key at which the session ended is noted behind the others.
-    EXPECT_EQ(typedAtAnswer, std::string(firstSystem) + (exitCommand + 1));
+    EXPECT_TRUE(WaitUntil([&] { return !IsWindow(window); }));
+    // Without the first key of the exit command, which is noted only after this check.
+    EXPECT_EQ(typedAtSessionEnd, std::string(firstSystem) + (exitCommand + 1));
     EXPECT_FALSE(isMarkerThere);
 }
 

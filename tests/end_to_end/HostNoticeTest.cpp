@@ -16,14 +16,14 @@ TEST_F(HostNoticeTest, IsNotShownInTheFirstTwoSeconds) {
     SetEnvironmentVariableA("FENN_START_DELAY_MS", "600"); // from the window to its caption
     const ULONGLONG start = GetTickCount64();
     const RunningMenu menu;
-    bool noticed = false;
+    bool wasShown = false;
     EXPECT_TRUE(Eventually([&] {
-        noticed = noticed || menu.Shown(noticeTitle) != nullptr;
+        wasShown = wasShown || menu.Shown(noticeTitle) != nullptr;
         return menu.Shown(menuCaption) != nullptr;
     }));
     if (GetTickCount64() - start >= 2000)
         GTEST_SKIP() << "The machine is too busy to tell.";
-    EXPECT_FALSE(noticed);
+    EXPECT_FALSE(wasShown);
 }
 
 TEST_F(HostNoticeTest, MenuIsHiddenAndHasNoCaptionYet) {
@@ -66,7 +66,7 @@ TEST_F(HostNoticeTest, MenuClosedBeforeItShowsASystemChangesNothing) {
     EXPECT_EQ(menu.ExitCode(), 0);
     ExpectRemembered("UB.mnu ");
     EXPECT_FALSE(FileExists("Menu 5.txt"));
-    EXPECT_EQ(installation.Logged("process").size(), 1U) << "no second host";
+    EXPECT_EQ(installation.Logged("process").size(), 1U) << "the menu must not start a second host";
 }
 
 TEST_F(HostNoticeTest, ComesToTheFrontAtASecondStart) {

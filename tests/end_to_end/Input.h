@@ -20,7 +20,7 @@ inline void PressWithAlt(BYTE key) {
 }
 
 /// Posts a key to a control as the keyboard does while it is held down: pressed once and repeated. A real key
-/// is let go by this display as soon as another window comes to the front.
+/// would be released by the display as soon as another window comes to the front.
 inline void HoldKey(HWND control, WPARAM key, int repeats) {
     constexpr LPARAM pressed = 1, repeated = pressed | LPARAM{KF_REPEAT} << 16;
     PostMessageA(control, WM_KEYDOWN, key, pressed);
@@ -43,8 +43,7 @@ inline void Click(HWND control) {
     mouse_event(leftClick, 0, 0, 0, 0);
 }
 
-/// A place of the screen on the text of one of the tree's visible rows, counted from 0; `depth` is the
-/// node's.
+/// A point on the text of a visible row of the tree, in screen coordinates. Rows and depths count from 0.
 inline POINT PlaceOfRow(HWND tree, int row, int depth) {
     const int height = TreeView_GetItemHeight(tree);
     POINT place{static_cast<int>(TreeView_GetIndent(tree)) * (depth + 1) + 10, height * row + height / 2};

@@ -10,8 +10,9 @@ constexpr const char* logFile = "fenn.log";
 
 namespace {
 
-// Windows lets no program come to the front of the one that is being used, and so the tests could not bring
-// up the menu to type into it. Off during the run, for this session only.
+// Windows does not let a program come in front of the one in use, so the tests could not bring the menu to
+// the front to type into it. Switches this lock off while the tests run, and does not save that for later
+// sessions.
 class WithoutForegroundLock : public testing::Environment {
     void SetUp() override {
         SystemParametersInfoA(SPI_GETFOREGROUNDLOCKTIMEOUT, 0, &timeout, 0);
@@ -147,7 +148,7 @@ void RememberSystem(const std::string& name) {
 }
 
 void ExpectRemembered(const std::string& name) {
-    // A user without the right to write there has no system remembered.
+    // Without the right to write there, nothing can be remembered.
     EXPECT_EQ(SupportLibrary().GetRegValue(HKEY_LOCAL_MACHINE, menuRegistryKey, lastSystemValue),
               MayRememberSystem() ? name : "");
 }

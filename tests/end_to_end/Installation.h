@@ -20,19 +20,19 @@ namespace obrin::test {
 
 using Lines = std::vector<std::string>;
 
-/// Waits until the window has kept the keyboard for a while: when another one closes, the display hands it to
-/// and fro, and what is typed meanwhile is lost.
+/// Waits until the window has stayed in front for a while. When another window closes, several may come to
+/// the front in turn, and keys typed meanwhile are lost.
 bool KeepsForeground(HWND window);
 
-/// The text of a window of another process, controls included.
+/// The text of a window or control, also of another process. Empty if that hangs.
 std::string TextOf(HWND window);
 
 /// A folder with FennConfig.Sys, Core, the menu file UB.mnu, the menu, the support library and the stand-in
-/// host. It is the current directory while the object lives, and is removed with it. Registry and environment
-/// are as new.
+/// host. It is the current directory while the object lives, and is removed with it. No system is remembered,
+/// and the environment variables of menu and host are reset.
 class Installation {
 public:
-    /// The current user gets this number without being asked; 0 for a user who is asked.
+    /// Gives the current user this workstation number. 0 gives none, so that the menu asks for it.
     explicit Installation(int wsid);
     ~Installation() { EndHost(); }
 

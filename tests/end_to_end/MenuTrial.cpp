@@ -22,8 +22,8 @@ namespace {
 
 class Trial {
 public:
-    explicit Trial(Effect whatIsExpected)
-        : expected(whatIsExpected) {}
+    explicit Trial(Effect expectedEffect)
+        : expected(expectedEffect) {}
 
     Effect Run() {
         const Effect effect = FindEffect();
@@ -61,26 +61,28 @@ private:
 
     bool Starts() const {
         const ULONGLONG end = GetTickCount64() + 1500;
-        const auto comes = [&] { return running.Shown("Obrin System Menu") != nullptr; };
+        const auto isMenuShown = [&] { return running.Shown("Obrin System Menu") != nullptr; };
         EXPECT_TRUE(Eventually([&] {
-            const bool waits = expected == Effect::WaitsForEver && GetTickCount64() > end;
-            return Box() != nullptr || comes() || waits || running.Shown("Waiting for Fenn") != nullptr;
+            const bool waitedEnough = expected == Effect::WaitsForEver && GetTickCount64() > end;
+            return Box() != nullptr || isMenuShown() || waitedEnough ||
+                   running.Shown("Waiting for Fenn") != nullptr;
         }));
-        return comes();
+        return isMenuShown();
     }
 
-    // Returns when the message has been handled, or an error box is shown.
+    // Sends a message to the menu. Returns false if it shows an error box. While the box is open, the message
+    // is not answered, but WM_NULL is.
     bool Handles(UINT message, WPARAM wParam) const {
-        constexpr UINT moment = 300, longTime = 20'000; // milliseconds
+        constexpr UINT shortTime = 300, longTime = 20'000; // milliseconds
         DWORD_PTR result = 0;
-        if (SendMessageTimeoutA(menu, message, wParam, 0, SMTO_NORMAL, moment, &result) == 0)
+        if (SendMessageTimeoutA(menu, message, wParam, 0, SMTO_NORMAL, shortTime, &result) == 0)
             SendMessageTimeoutA(menu, WM_NULL, 0, 0, SMTO_NORMAL, longTime, &result);
         return Box() == nullptr;
     }
 
     bool ShowsEverySystem() const {
         const std::size_t count = std::min<std::size_t>(EnumerateMenuFiles().size(), 5);
-        for (std::size_t i = 1; i <= count; ++i) { // the first one last
+        for (std::size_t i = 1; i <= count; ++i) { // the first system last: its program is run then
             if (!Handles(WM_COMMAND, ID_SYSTEMS + i % count))
                 return false;
         }
@@ -119,15 +121,16 @@ private:
     bool OpensProperties(HTREEITEM program) const {
         const char* dialog = "Properties";
         TreeView_SelectItem(running.Tree(), program);
-        const auto popsUp = [] {
+        const auto isPopupShown = [] {
             return FindTopWindow([](HWND window) {
-                       return GetClassWord(window, GCW_ATOM) == 32768 && IsWindowVisible(window);
+                       return GetClassWord(window, GCW_ATOM) == 32768 && // a popup menu
+                              IsWindowVisible(window);
                    }) != nullptr;
         };
         PostMessageA(running.Tree(), WM_CONTEXTMENU, 0, -1);
-        EXPECT_TRUE(Eventually(popsUp));
+        EXPECT_TRUE(Eventually(isPopupShown));
         PostMessageA(menu, WM_KEYDOWN, VK_ESCAPE, 0);
-        EXPECT_TRUE(Eventually([&] { return !popsUp(); }));
+        EXPECT_TRUE(Eventually([&] { return !isPopupShown(); }));
         PostMessageA(menu, WM_COMMAND, ID_TREE_PROPERTIES, 0);
         EXPECT_TRUE(Eventually([&] { return Box() != nullptr || running.Shown(dialog) != nullptr; }));
         if (const HWND properties = running.Shown(dialog); Box() == nullptr) {
@@ -148,7 +151,7 @@ Effect TryMenu(Effect expected) {
     return Trial(expected).Run();
 }
 
-Effect Predicted(const Findings& findings) {
+Effect PredictedEffect(const Findings& findings) {
     for (const Effect effect : {Effect::EndsEveryStart, Effect::WaitsForEver, Effect::EndsShownSystem,
                                 Effect::EndsProgramRun, Effect::EndsProperties}) {
         if (std::ranges::find(findings, effect, &Finding::effect) != findings.end())

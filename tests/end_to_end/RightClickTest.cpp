@@ -27,7 +27,7 @@ struct RightClick : testing::Test {
         EXPECT_TRUE(Eventually(ShownPopup));
     }
 
-    // Within the height of a row.
+    // Allows for the height of a row.
     void ExpectPopupNear(POINT place) const {
         ASSERT_TRUE(Eventually(ShownPopup));
         RECT popup;
@@ -57,7 +57,7 @@ TEST_F(RightClick, SelectsAHeadingWithoutAPopup) {
     EXPECT_FALSE(ShownPopup());
 }
 
-TEST_F(RightClick, ThatIsHandledWhenThePointerHasLeftTheTreeDoesNothingToTheNextOne) {
+TEST_F(RightClick, HandledAfterThePointerHasLeftTheTreeDoesNotDisturbTheNextOne) {
     PointAt({0, 0});
     SendMessageA(tree, WM_RBUTTONDOWN, MK_RBUTTON, 0);
     ClickRow(tree, 1, 0, rightClick);

@@ -51,7 +51,7 @@ TEST_F(RunningPrograms, DoubleClickOpensAHeadingAndRunsAProgramInIt) {
     ExpectRun("UB\\PROGRAMS\\POST");
 }
 
-TEST_F(RunningPrograms, ButtonBehindTheTreeRunsTheSelectedProgram) {
+TEST_F(RunningPrograms, SpaceOnTheButtonRunsTheSelectedProgram) {
     PressKey(VK_TAB);
     PressKey(VK_SPACE);
     ExpectRun(backup);
@@ -65,7 +65,7 @@ TEST_F(RunningPrograms, HeadingRunsNothing) {
 
 TEST_F(RunningPrograms, CommandIsSentKeyByKeyAndNotPosted) {
     EXPECT_NE(ReadFileBytes("fenn.log").find("down 76\r\nup 76\r\ndown 79\r\nup 79\r\n"), std::string::npos)
-        << "L and O of LOAD; the host logs a posted key with another word";
+        << "the keys L and O of LOAD; the host adds \"posted\" to the line of a posted key";
 }
 
 // --- Awkward moments ---
@@ -84,10 +84,10 @@ TEST_F(RunningPrograms, AltWithTheButtonsLetterRuns) {
     ExpectRun(backup);
 }
 
-TEST_F(RunningPrograms, EnterBehindAClickOnTheButtonRuns) {
+TEST_F(RunningPrograms, EnterAfterAClickOnTheButtonRuns) {
     Click(button);
     ExpectRun(backup);
-    // Closes the window of the program and comes back to the menu.
+    // Closes the window of the program and brings the menu to the front.
     HWND program = nullptr;
     EXPECT_TRUE(Eventually([&] { return IsWindowVisible(program = FindWindowA("FennProgram", backup)); }));
     PostMessageA(program, WM_CLOSE, 0, 0);
@@ -144,8 +144,8 @@ TEST(BusyFiles, AreWaitedForAtTheStartAndAtARun) {
 
 // --- The update ---
 
-// Workstation 42 has not been updated. The register has a damaged end, and no whole record of three bytes is
-// 042.
+// Workstation 42 has not been updated. The register holds the records 420 and 420, and an incomplete one, 04.
+// The digits 042 occur in it, but not as a record.
 class FirstRun : public RunningPrograms {
 protected:
     FirstRun()
@@ -172,14 +172,14 @@ TEST_F(FirstRun, EntersTheWorkstationAndRunsTheProgramWhenTheUpdateIsClosed) {
 }
 
 TEST_F(FirstRun, EnterDuringTheUpdateRunsNothing) {
-    // The update that the first Enter begins handles the second one.
+    // The second Enter is handled during the update that the first one starts.
     for (int i = 0; i < 2; ++i)
         PostMessageA(tree, WM_CHAR, VK_RETURN, 0);
     CompleteUpdate();
     menu.Press(title, IDOK);
     ExpectRun(backup);
     ExpectNothingRun();
-    EXPECT_FALSE(menu.Shown(title)) << "a second update";
+    EXPECT_FALSE(menu.Shown(title)) << "there must be no second update";
 }
 
 TEST_F(FirstRun, EnterHeldThroughTheUpdateLeavesItsWindowOpen) {
@@ -197,8 +197,10 @@ TEST_F(FirstRun, ShowsTheUpdateBelowAndRightOfTheMenusCorner) {
     RECT corner, update;
     GetWindowRect(CompleteUpdate(), &update);
     GetWindowRect(menu.Window(), &corner);
-    EXPECT_EQ(update.top - corner.top, (update.bottom - update.top) / 2 / 2) << "a quarter of its height";
-    EXPECT_EQ(update.left - corner.left, (update.right - update.left) / 2) << "half its width";
+    EXPECT_EQ(update.top - corner.top, (update.bottom - update.top) / 2 / 2)
+        << "a quarter of the height of the update window";
+    EXPECT_EQ(update.left - corner.left, (update.right - update.left) / 2)
+        << "half the width of the update window";
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-// A start beside an open host or another menu.
+// A start while a host or another menu is open.
 
 #include "end_to_end/Installation.h"
 
@@ -36,9 +36,10 @@ TEST_F(OpenHost, MakesTheMenuAskWhetherToShowIt) {
     const HWND box = menu.Window(questionTitle);
     EXPECT_TRUE(GetDlgItem(box, IDYES));
     EXPECT_FALSE(GetDlgItem(box, IDCANCEL));
-    EXPECT_TRUE(SendDlgItemMessageA(box, IDNO, WM_GETDLGCODE, 0, 0) & DLGC_DEFPUSHBUTTON) << "Enter means No";
+    EXPECT_TRUE(SendDlgItemMessageA(box, IDNO, WM_GETDLGCODE, 0, 0) & DLGC_DEFPUSHBUTTON)
+        << "No must be the default button";
     EXPECT_TRUE(ReadFileBytes("FennConfig.Sys").starts_with("Drive S," + ShortPath(CurrentFolder()) + ","))
-        << "rewritten before the question";
+        << "the file must be rewritten before the question";
 }
 
 TEST_F(OpenHost, StaysHiddenAfterNo) {

@@ -46,7 +46,7 @@ TEST_F(Systems, TreeOfTheChosenOneKeepsTheKeyboard) {
     PressKey(VK_DOWN);
     EXPECT_TRUE(Eventually([&] {
         return TreeView_GetSelection(tree) == TreeView_GetNextSibling(tree, TreeView_GetRoot(tree));
-    })) << "from the first node to the second";
+    })) << "the selection must move from the first node to the second";
 }
 
 TEST_F(Systems, ShownOneIsRememberedAtTheEnd) {
@@ -56,7 +56,7 @@ TEST_F(Systems, ShownOneIsRememberedAtTheEnd) {
     ExpectRemembered("ZZ.mnu");
 }
 
-TEST(TitleWithMarks, IsShownWithoutThemAndTakesNoKey) {
+TEST(TitleWithMnemonic, IsShownWithoutItAndTakesNoKey) {
     const Installation installation(5);
     WriteFileBytes("UB.mnu", "R&&D of &Core\r\nA^K\r\n");
     const RunningMenu menu;
@@ -74,7 +74,7 @@ TEST(TitleWithMarks, IsShownWithoutThemAndTakesNoKey) {
 
 TEST(RememberedSystem, IsShownIfItIsAFile) {
     if (!MayRememberSystem())
-        GTEST_SKIP() << "no right to write the registry's local machine";
+        GTEST_SKIP() << "this user may not write the menu's key of the registry";
     const Installation installation(5);
     WriteFileBytes("AA.mnu", "Assets\r\n");
     WriteFileBytes("Ledger.txt", "General Ledger\r\n");
@@ -84,9 +84,9 @@ TEST(RememberedSystem, IsShownIfItIsAFile) {
         std::string code;
         const char* reason;
     } const cases[] = {
-        {"Ledger.txt", "LE", "any name will do"}, {" Ledger.txt ", "LE", "blanks are removed"},
-        {"gone.mnu", first, "no such file"},      {"Core", first, "a folder"},
-        {"*.mnu", first, "the name of no file"},
+        {"Ledger.txt", "LE", "any name will do"},  {" Ledger.txt ", "LE", "blanks are removed"},
+        {"gone.mnu", first, "no such file"},       {"Core", first, "a folder"},
+        {"*.mnu", first, "a pattern, not a name"},
     };
     for (const auto& [remembered, code, reason] : cases) {
         RememberSystem(remembered);
