@@ -2,6 +2,7 @@
 #pragma once
 
 #include "end_to_end/Installation.h"
+#include "support/TopWindow.h"
 
 namespace obrin::test {
 
@@ -30,8 +31,10 @@ inline void HoldKey(HWND control, WPARAM key, int repeats) {
 
 /// The popup menu on the screen, or null.
 inline HWND ShownPopup() {
-    const HWND popup = FindWindowA("#32768", nullptr); // the class of every popup menu
-    return IsWindowVisible(popup) != FALSE ? popup : nullptr;
+    constexpr ULONG_PTR popupMenuClass = 32768;
+    return FindTopWindow([](HWND window) {
+        return GetClassWord(window, GCW_ATOM) == popupMenuClass && IsWindowVisible(window);
+    });
 }
 
 /// Clicks in the middle of a control.

@@ -1,9 +1,8 @@
 #include "end_to_end/MenuTrial.h"
 
-#include "end_to_end/Installation.h"
+#include "end_to_end/Input.h"
 #include "menu/MenuDefinition.h"
 #include "menu/MenuFiles.h"
-#include "support/TopWindow.h"
 
 #include <algorithm>
 
@@ -121,16 +120,10 @@ private:
     bool OpensProperties(HTREEITEM program) const {
         const char* dialog = "Properties";
         TreeView_SelectItem(running.Tree(), program);
-        const auto isPopupShown = [] {
-            return FindTopWindow([](HWND window) {
-                       return GetClassWord(window, GCW_ATOM) == 32768 && // a popup menu
-                              IsWindowVisible(window);
-                   }) != nullptr;
-        };
         PostMessageA(running.Tree(), WM_CONTEXTMENU, 0, -1);
-        EXPECT_TRUE(Eventually(isPopupShown));
+        EXPECT_TRUE(Eventually(ShownPopup));
         PostMessageA(menu, WM_KEYDOWN, VK_ESCAPE, 0);
-        EXPECT_TRUE(Eventually([&] { return !isPopupShown(); }));
+        EXPECT_TRUE(Eventually([&] { return ShownPopup() == nullptr; }));
         PostMessageA(menu, WM_COMMAND, ID_TREE_PROPERTIES, 0);
         EXPECT_TRUE(Eventually([&] { return Box() != nullptr || running.Shown(dialog) != nullptr; }));
         if (const HWND properties = running.Shown(dialog); Box() == nullptr) {
