@@ -12,7 +12,7 @@ usage: ./demo.sh
   this desktop. The installation keeps what the programs write; remove build/demo to start over.
 usage: ./demo.sh --screenshot FILE [--dpi N] [--size WxH] [--do SCRIPT]
                  [--without-host | --faulty-menu]
-  Does this for a new user and on a hidden desktop, takes a picture of the screen and closes the menu.
+  The same for a new user and on a hidden desktop. Takes a picture of the screen and closes the menu.
   --dpi N      the screen's resolution as Windows programs see it (96)
   --size WxH   the menu window's size in pixels, without its frame
   --do SCRIPT  bash script to run before the picture, which can open a menu or a dialog with xdotool; MENU_WINDOW is
@@ -103,7 +103,7 @@ menu_has_size() {
   [[ $(xdotool getwindowgeometry --shell "$MENU_WINDOW") == *"WIDTH=${size%x*}"$'\n'"HEIGHT=${size#*x}"$'\n'* ]]
 }
 
-# Two pictures of the screen, a moment apart, are the same.
+# Whether two pictures of the screen, a moment apart, are the same.
 screen_is_still() {
   local before
   before=$(import -silent -window root rgb:- | sha256sum)
@@ -143,7 +143,7 @@ take_picture() {
     limited 60 bash "$script" || give_up "$script failed" || return
   fi
   wait_until 10 screen_is_still || echo "The screen keeps changing; taking the picture all the same"
-  # A popup menu is a window of its own and may reach beyond the menu's. The screen shows nothing else.
+  # Takes the whole screen, which shows nothing else: a popup menu may reach beyond the menu's window.
   import -silent -window root -trim +repage "$picture" || return
   wait_until 20 close_menu || give_up "The menu does not close" || return
   local code=0
@@ -160,7 +160,7 @@ build_preset x64 ObrinMenu Corvel Fenn
 if [[ -z $picture ]]; then
   show
 else
-  # A new user each time.
+  # A new prefix, so a new user, each time.
   use_prefix screenshot
   end_prefix
   rm -rf build/screenshot "$wine_folder/screenshot"
@@ -180,7 +180,7 @@ else
       ;;
   esac
   make_prefix screenshot
-  # Pictures show folders on this drive, as on a share.
+  # The pictures show paths on this drive, as if the installation were on a share.
   ln -sfn "$obrin_root/build/screenshot" "$WINEPREFIX/dosdevices/s:"
   printf '\n[Control Panel\\\\Desktop]\n"LogPixels"=dword:%08x\n' "$dpi" >>"$WINEPREFIX/pristine/user.reg"
   mkdir -p "$(dirname "$picture")"

@@ -82,10 +82,10 @@ make_archive() {
   (cd "$files" && cmake -E tar cf "$2" --format=zip -- *)
 }
 
-# CMake gives this time to every file in an archive: later sources have a later one, as tools that copy what is newer
-# expect.
+# CMake gives this time to every file in an archive. It is that of the last commit, so files of newer sources are newer,
+# as tools that copy only newer files expect.
 SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct)}
-# Archives hold local time, and their files in the order of the locale: one zone and one order.
+# Archives hold local times, and their files in the order of the locale. Both are fixed here.
 export SOURCE_DATE_EPOCH TZ=UTC LC_ALL=C
 
 install_packages "${build_packages[@]}" "${guide_packages[@]}"

@@ -95,7 +95,7 @@ unpack_and_run() {
   return "$result"
 }
 
-# Makes the archives signed, apart from the ones to hand out, and looks at the signature of every image in them.
+# Makes signed archives in a folder of their own, and verifies the signature of every image in them.
 run_signing() {
   if run_step "Testing signed archives" build/log/test-signing.txt sign_and_verify; then
     summary+=("signed archives: 6 images signed, 6 verified")

@@ -38,7 +38,7 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE /*previous*/, LPSTR arguments, 
 
     MSG message{};
     while (GetMessageA(&message, nullptr, 0, 0) > 0) {
-        if (fenn::IsProgramWindowKey(message))
+        if (fenn::HandleProgramWindowMessage(message))
             continue;
         TranslateMessage(&message);
         DispatchMessageA(&message);

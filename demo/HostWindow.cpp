@@ -94,7 +94,7 @@ void HostWindow::CreateChildren() {
                                 LBS_NOSEL,
                             0, 0, 0, 0, window, nullptr, instance, nullptr);
     SendMessageA(lines, WM_SETFONT, reinterpret_cast<WPARAM>(TextFont()), FALSE);
-    // The command window must be the first child: the menu looks for that one.
+    // The menu types into the first child, which must be the command window.
     SetWindowPos(commandHandle, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
@@ -115,7 +115,7 @@ void HostWindow::LineTyped(const std::string& line) {
 }
 
 void HostWindow::ProgramStarted(const std::string& program, const std::string& system) {
-    // Posts a message: a window that opens now would take the focus from the sender of the keys.
+    // Posts a message, because a window that opens now would take the focus from the sender of the keys.
     pendingStarts.push_back({.program = program, .system = system});
     PostMessageA(window, showProgramMessage, 0, 0);
 }

@@ -1,4 +1,4 @@
-// The host's main window: shows the typed lines. Its caption shows that the station has started.
+// The host's main window. It shows the typed lines, and its caption says that the station has started.
 #pragma once
 
 #include "Behaviour.h"

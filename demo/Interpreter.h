@@ -7,7 +7,8 @@
 namespace fenn {
 
 /// Knows the commands LOAD program, RUN and RUN program. RUN without a program runs the loaded one. The
-/// program CORE\STARTSYS reads a system code from the next line. Commands must be in capitals.
+/// program CORE\STARTSYS reads a system code from the next line, and CORE\EXIT ends the host. Commands must
+/// be in capitals.
 class Interpreter {
 public:
     enum class Action { Nothing, OpenProgram, StartSystem, Exit, NotUnderstood };

@@ -5,10 +5,10 @@
 //   process 312                 the process id
 //   window                      the host's window is open
 //   caption Obrin-05            the host sets this caption
-//   down 76  /  up 76           a key message; then " posted" if another thread has not sent it by
-//                               SendMessage; then lParam if it is not 0
+//   down 76  /  up 76           a key message, followed by "posted" if it was not sent by SendMessage from
+//                               another thread, and by its lParam if that is not 0
 //   line LOAD CORE\START        a completed line
-//   hang LINE                   the host hangs now
+//   hang LINE                   the host hangs because of this line
 //   run CORE\PROGRAMS\X         the line before opened this program
 //   system UB                   the line before started this system
 //   unknown LINE                the line before is not a command

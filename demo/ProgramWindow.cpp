@@ -139,7 +139,7 @@ void OpenProgramWindow(HINSTANCE instance, const std::string& program, const std
     SetForegroundWindow(window);
 }
 
-bool IsProgramWindowKey(MSG& message) {
+bool HandleProgramWindowMessage(MSG& message) {
     if (!message.hwnd)
         return false;
     HWND root = GetAncestor(message.hwnd, GA_ROOT);

@@ -12,7 +12,8 @@ namespace fenn {
 void OpenProgramWindow(HINSTANCE instance, const std::string& program, const std::string& system,
                        int station);
 
-/// Handles the keys of a program window: Enter and Esc close it. Returns true if the message was such a key.
-bool IsProgramWindowKey(MSG& message);
+/// Passes a message for a program window to the dialog manager, by which Enter and Esc close the window.
+/// Returns true if the message has been handled.
+bool HandleProgramWindowMessage(MSG& message);
 
 } // namespace fenn

@@ -1,7 +1,7 @@
 #!/bin/bash
-# Makes the demonstration installation: a folder from which start-demo.cmd starts the menu with everything it uses.
-# In an installation that is there already, it replaces the files that come with the demonstration and keeps those that
-# the programs have written: host configuration, workstation numbers, update register and settings.
+# Makes the demonstration installation: a folder with start-demo.cmd, the menu and everything that the menu uses.
+# If there is one already, replaces the files that come with the demonstration, and keeps those that the programs have
+# written: host configuration, workstation numbers, update register and settings.
 set -euo pipefail
 
 usage() {
@@ -37,8 +37,8 @@ if [ -d "$target" ] && [ -n "$(ls -A "$target")" ]; then
 fi
 mkdir -p "$target"
 
-# The texts in the repository are UTF-8 with LF. The programs read the Windows code page with CR LF.
-deliver() {
+# Copies a file. The texts in the repository are UTF-8 with LF. The programs read the Windows code page with CR LF.
+copy_file() {
   local file=$1
   mkdir -p "$(dirname "$target/$file")"
   case "$file" in
@@ -52,8 +52,8 @@ while IFS= read -r file; do
   if [ "$file" = FennConfig.Sys ] && [ -f "$target/$file" ]; then
     continue
   fi
-  deliver "$file"
+  copy_file "$file"
 done < <(cd "$source" && find . -type f -printf '%P\n')
 
-# install makes a new file instead of writing into the old one, so programs that run keep theirs.
+# install makes a new file instead of writing into the old one, so a program that runs keeps its file.
 install -m 755 -t "$target" "$programs/ObrinMenu.exe" "$programs/Corvel.dll" "$programs/Fenn.exe"

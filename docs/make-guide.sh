@@ -18,7 +18,7 @@ embed_pictures() {
   done
 }
 
-# Makes every chapter's title a target of links, and lists the chapters below the page's title.
+# Gives every chapter's title an id for links, and lists the chapters below the page's title.
 add_contents() {
   awk '
     match($0, /^<h2>/) {

@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# For ./demo.sh --do: the Properties dialog of a program, on its page of margins.
+# Opens the Properties dialog of a program and shows its page of margins. For ./demo.sh --do.
 xdotool windowactivate --sync "$MENU_WINDOW" key Right key Down key Right key Down key Menu key p
 for _ in $(seq 100); do
   if dialog=$(xdotool search --onlyvisible --name '^Properties$'); then

@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# For ./demo.sh --do: the update of a workstation, which the first program that runs begins.
+# Runs a program, which begins the update of the workstation. For ./demo.sh --do.
 xdotool windowactivate --sync "$MENU_WINDOW" key Right key Down key Right key Down key Return
 for _ in $(seq 100); do
   xdotool search --onlyvisible --name '^Auto Update Utility$' >/dev/null && exit

@@ -50,7 +50,7 @@ install_packages() {
     -o Dpkg::Use-Pty=0 install -y --no-install-recommends "${missing[@]}"
 }
 
-# Prints how many packages would be installed, with those that they need, and their size:
+# Prints how many packages would be installed, including those that they need, and their size:
 # "182, 281 MB to download, 1180 MB on disk".
 size_of_packages() {
   LC_ALL=C apt-get -o Debug::NoLocking=1 --assume-no install --no-install-recommends "$@" 2>/dev/null | sed -n -E \

@@ -58,13 +58,13 @@ show_status() {
   fi
 }
 
-# apt-get that also prints how far it is. It closes the file descriptor for these lines when it runs the packages' own
-# scripts, so that must not be the one of their output.
+# apt-get that also prints how far it is. These lines get a file descriptor of their own, because apt-get closes it
+# when it runs the packages' scripts, which need the one of the output.
 # shellcheck disable=SC2034
 apt_get=(bash -c 'exec apt-get -o APT::Status-Fd=3 "$@" 3>&1' apt-get)
 
-# How far the command is that writes this log; nothing if the log does not say. In this order: ninja (our own
-# loops print the same format), ctest with its count of failures, and apt-get, which first downloads and then installs.
+# Prints how far the command is that writes this log, or nothing if the log does not say. Knows the lines of ninja
+# (unpack_wine32 prints the same), of ctest, with its count of failures, and of apt_get, which downloads and installs.
 progress_in() {
   local progress failures
   progress=$(sed -n -E -e 's|^\[([0-9]+)/([0-9]+)\] .*|\1 of \2|p' \
@@ -76,7 +76,7 @@ progress_in() {
   echo "$progress"
 }
 
-# The log without the lines that only say how far the command is.
+# Prints the log without the lines that only say how far the command is.
 without_progress() {
   grep -v -E '^\[[0-9]+/[0-9]+\] |^ +Start +[0-9]+: | +Passed +[0-9.]+ sec$|^(dl|pm)status:' "$1" || true
 }

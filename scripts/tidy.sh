@@ -19,7 +19,7 @@ for preset in native x64; do
   fi
 done
 
-# The sources in the repository that a preset builds.
+# Prints the sources in the repository that a preset builds.
 sources_of() {
   sed -n "s|^ *\"file\": \"$PWD/\(.*\)\",\{0,1\}$|\1|p" "build/$1/compile_commands.json" | sort -u |
     comm -12 - <(git ls-files -- '*.cpp' | sort)
@@ -30,7 +30,7 @@ library=$(x86_64-w64-mingw32-g++-posix -print-file-name=include/c++)
 cross=(--extra-arg=-isystem"$library" --extra-arg=-isystem"$library/x86_64-w64-mingw32"
   --extra-arg=-Wno-unknown-warning-option)
 
-# Reads names of sources, and hides clang-tidy's counts of findings.
+# Checks the sources that it reads the names of, and hides clang-tidy's counts of findings: tidy PRESET OPTION...
 tidy() {
   xargs -r -d '\n' -P "$(nproc)" -n 1 clang-tidy --quiet -p "build/$1" "${@:2}" 2> >(
     grep -v -E ' warnings?( and [0-9]+ errors?)? generated| warnings? treated as error' >&2

@@ -10,7 +10,7 @@ wine32_root=$wine_folder/root32
 # shellcheck source=scripts/steps.sh
 source "$obrin_root/scripts/steps.sh"
 
-# Exports the environment of the Windows programs in prefix $1, for run_wine.
+# Exports the environment in which run_wine runs programs in prefix $1.
 use_prefix() {
   local programs=/usr/lib/wine
   if [[ $1 == x86 ]]; then
@@ -34,7 +34,7 @@ run_wine_for() {
   limited "$1" "$WINELOADER" "${@:2}"
 }
 
-# The Windows form of an absolute path: drive Z is the root folder in every prefix.
+# Prints the Windows form of an absolute path: drive Z is the root folder in every prefix.
 windows_path() {
   printf '%s\n' "Z:${1//\//\\}"
 }
@@ -91,7 +91,7 @@ unpack_wine32() {
   for package in "${packages[@]}"; do
     count=$((count + 1))
     echo "[$count/${#packages[@]}] ${package##*/}"
-    # The system's libc6-i386 holds the C library, and the loader, which needs exactly that one.
+    # Not the C library: the one in the system's libc6-i386 must be used, because the loader comes from there.
     [[ ${package##*/} == libc6_* ]] || dpkg -x "$package" "$wine32_root" || return
   done
   mkdir -p "$wine32_root/usr/lib/x86_64-linux-gnu" &&
@@ -117,7 +117,7 @@ make_prefix() {
 }
 
 prepare_prefix() {
-  local stamp recipe=2 # count up when a prefix is to be made differently
+  local stamp recipe=2 # to be raised when prefixes must be made anew
   if [[ $1 == x86 ]]; then
     make_wine32 || return
   elif [[ $1 != x64 ]]; then
@@ -148,7 +148,7 @@ prepare_prefix() {
   printf '%s\n' "$recipe" >"$stamp"
 }
 
-# Puts the current prefix's registry back to what it was in the new prefix. The server must not run.
+# Restores the registry that the current prefix had when it was new. The server must not run.
 restore_registry() {
   cp "$WINEPREFIX"/pristine/*.reg "$WINEPREFIX"
 }
@@ -203,8 +203,8 @@ in_session() {
     fi
     trap end_session EXIT
     export OBRIN_SESSION=$prefix
-    # On a loaded machine, about one desktop in some hundred does not start at once.
-    # Programs do not inherit the lock, as they may outlive this shell for a moment.
+    # Tries twice: on a loaded machine, one desktop in a few hundred does not start.
+    # Programs do not inherit the lock, because they may outlive this shell for a moment.
     {
       { start_desktop || { end_session && start_desktop; }; } && "$@"
     } 9>&-
@@ -232,7 +232,7 @@ start_desktop() {
 }
 
 # Starts the display, the window manager and one program that keeps Wine's own processes running.
-# Their output goes to /dev/null: whoever reads this script's output through a pipe would wait until they end, too.
+# Their output goes to /dev/null: otherwise a reader of this script's output would wait until they end, too.
 start_session() {
   local display number
   # A session that was interrupted may have left processes.
@@ -265,7 +265,7 @@ window_manager_runs() {
   timeout 5 xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'
 }
 
-# The program's window is there, and with it the desktop and the services.
+# Whether the program that keeps Wine's processes running has its window.
 keeper_has_window() {
   timeout 5 xprop -root _NET_CLIENT_LIST | grep -q 'window id # 0x'
 }

@@ -1,6 +1,6 @@
 @echo off
-rem Starts the menu in this folder, with a workstation's local folders beside it.
-rem pushd and not cd: it also works when this folder is on a share.
+rem Starts the menu in this folder. The folder Workstation stands for the local folders of a workstation.
+rem pushd also works on a share, and cd does not.
 pushd "%~dp0"
 set "Tessel=%~dp0Workstation\Tessel"
 set "TesselTemp=%~dp0Workstation\Temp"
