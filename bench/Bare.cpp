@@ -15,6 +15,7 @@ namespace {
 
 HWND hostCommandWindow, picture, labels[5];
 
+// Sends each character as a key code. "\xDC" is the key that carries the backslash.
 void Type(const char* key) {
     for (; *key != '\0'; ++key) {
         SendMessageA(hostCommandWindow, WM_KEYDOWN, static_cast<unsigned char>(*key), 0);
@@ -37,7 +38,7 @@ LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lPar
     }
 }
 
-HWND WaitFor(const char* windowClass, const char* caption) {
+HWND WaitForWindow(const char* windowClass, const char* caption) {
     HWND found = nullptr;
     while ((found = FindWindowA(windowClass, caption)) == nullptr) {
         MSG message;
@@ -109,9 +110,9 @@ void MakeOtherCalls(HWND window) {
 } // namespace
 
 int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR arguments, int) {
-    char* const all = std::strchr(arguments, ' ');
-    if (all != nullptr)
-        *all = '\0';
+    char* const optionAll = std::strchr(arguments, ' ');
+    if (optionAll != nullptr)
+        *optionAll = '\0'; // leaves the name of the menu file
     const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_WIN95_CLASSES};
     InitCommonControlsEx(&controls);
     WNDCLASSA windowClass{};
@@ -127,16 +128,16 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR arguments, int) {
                                       WS_CHILD | WS_VISIBLE | TVS_HASLINES | TVS_LINESATROOT | TVS_HASBUTTONS,
                                       20, 30, 380, 410, window, nullptr, instance, nullptr);
 
-    if (all != nullptr)
+    if (optionAll != nullptr)
         CreateOtherControls(window);
     ShellExecuteA(window, "open", "Fenn.exe", "run core\\start -5", nullptr, SW_SHOWNORMAL);
-    WaitFor("ZafWindow", nullptr);
-    const HWND station = WaitFor(nullptr, "Obrin-05");
+    WaitForWindow("ZafWindow", nullptr);
+    const HWND station = WaitForWindow(nullptr, "Obrin-05");
     ShowWindow(station, SW_HIDE);
     hostCommandWindow = FindWindowExA(station, nullptr, nullptr, nullptr);
 
     FillTree(tree, arguments);
-    if (all != nullptr)
+    if (optionAll != nullptr)
         MakeOtherCalls(window);
     ShowWindow(window, SW_SHOWNORMAL);
     SetForegroundWindow(window);

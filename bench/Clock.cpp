@@ -36,7 +36,7 @@ Medians MeasureAlternately(int runs, const std::function<double()>& menu,
     menu();
     bare();
     for (int run = 0; run < runs; ++run) {
-        // The first of two runs may change memory and processes for the second, so the order changes.
+        // The first run of a pair may slow down or speed up the second, so the order alternates.
         if (run % 2 == 0) {
             menus.push_back(menu());
             bares.push_back(bare());

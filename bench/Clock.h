@@ -20,11 +20,11 @@ double Median(std::vector<double> values);
 
 struct Medians {
     double menu, bare;
-    double ratio; ///< median of the ratios of two runs in a row
+    double ratio; ///< median of the ratios menu / bare, one for each pair of runs
 };
 
-/// Calls two measurements `runs` times in turn, so that other work of the machine disturbs both alike. Each
-/// returns its result. The first call of each does not count.
+/// Calls both measurements alternately, so that other work of the machine disturbs both alike. Each returns a
+/// time or a size. Makes `runs` pairs of calls after one pair that does not count.
 Medians MeasureAlternately(int runs, const std::function<double()>& menu,
                            const std::function<double()>& bare);
 

@@ -22,14 +22,15 @@ namespace {
     throw std::system_error(static_cast<int>(GetLastError()), std::system_category(), action);
 }
 
-double ThreadTime(DWORD id) {
+// In milliseconds.
+double ThreadCpuTime(DWORD id) {
     const UniqueHandle thread(OpenThread(THREAD_QUERY_INFORMATION, FALSE, id));
     FILETIME created;
     FILETIME ended;
     FILETIME kernel;
     FILETIME user;
     if (!thread || !GetThreadTimes(thread.get(), &created, &ended, &kernel, &user))
-        ThrowLastError("reading a thread's time");
+        ThrowLastError("reading the CPU time of a thread");
     const auto value = [](const FILETIME& time) {
         return static_cast<double>(ULARGE_INTEGER{{time.dwLowDateTime, time.dwHighDateTime}}.QuadPart);
     };
@@ -134,7 +135,7 @@ double RunningMenu::CpuTime() const {
     for (BOOL more = Thread32First(threads.get(), &thread); more;
          more = Thread32Next(threads.get(), &thread)) {
         if (thread.th32OwnerProcessID == processId)
-            time += ThreadTime(thread.th32ThreadID);
+            time += ThreadCpuTime(thread.th32ThreadID);
     }
     return time;
 }

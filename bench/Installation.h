@@ -22,8 +22,8 @@ std::vector<Entry> MakeEntries(int count);
 
 std::string MenuFileText(const char* title, const std::vector<Entry>& entries);
 
-/// An installation in the current folder: three systems, a picture and workstation number 5 for this user.
-/// `host` is the file name of a program in this program's folder; it becomes the host.
+/// An installation in a new current folder: three systems, a picture and workstation number 5 for this user.
+/// `host` names a program in the folder of bench.exe; the installation gets it as Fenn.exe.
 class Installation {
 public:
     explicit Installation(const char* host);
@@ -55,7 +55,7 @@ public:
     ~RunningMenu();
 
     void WaitUntilShown() const;
-    /// Returns the CPU time of all running threads in milliseconds.
+    /// Returns the CPU time of the menu's running threads in milliseconds.
     double CpuTime() const;
     /// Waits until the window is painted and returns the peak private memory in MB.
     double PeakMemory() const;

@@ -1,5 +1,5 @@
-// A host for workstation 5 that sets its caption after a random delay. It remembers when it has set the
-// caption and when the menu has hidden it. It ignores keys.
+// A host for workstation 5 that sets its caption after a random delay. It remembers when it set the caption
+// and when the menu hid its window. It ignores keys.
 
 #include "LateHost.h"
 
@@ -11,23 +11,23 @@ using namespace obrin::bench;
 
 constexpr UINT_PTR captionTimer = 1;
 
-LONGLONG captionSet, hidden; // ticks; 0 if it has not happened yet
+LONGLONG captionTime, hidingTime; // ticks; 0 until then
 
 LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_TIMER:
         KillTimer(window, captionTimer);
-        captionSet = Now();
+        captionTime = Now();
         SetWindowTextA(window, "Obrin-05");
         return 0;
     case WM_SHOWWINDOW:
-        if (wParam == FALSE && captionSet != 0 && hidden == 0)
-            hidden = Now();
+        if (wParam == FALSE && captionTime != 0 && hidingTime == 0)
+            hidingTime = Now();
         return 0;
     case askCaptionTime:
-        return static_cast<LRESULT>(captionSet); // needs a 64-bit build, the only one that is run
+        return static_cast<LRESULT>(captionTime); // 64 bits: bench.sh builds no 32-bit programs
     case askHidingTime:
-        return static_cast<LRESULT>(hidden);
+        return static_cast<LRESULT>(hidingTime);
     case WM_KEYDOWN:
     case WM_KEYUP:
         return 0;

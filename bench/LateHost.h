@@ -3,8 +3,8 @@
 
 namespace obrin::bench {
 
-/// The result of each message is a time in ticks of the performance counter; 0 if it has not happened yet.
-constexpr unsigned askCaptionTime = 0x8000;            ///< WM_APP: when the host set its caption
-constexpr unsigned askHidingTime = askCaptionTime + 1; ///< when the menu hid the host after that
+/// The result of each message is a time in ticks of the performance counter, or 0 before that time.
+constexpr unsigned askCaptionTime = 0x8000;            ///< WM_APP; asks when the host set its caption
+constexpr unsigned askHidingTime = askCaptionTime + 1; ///< asks when the menu then hid the host's window
 
 } // namespace obrin::bench

@@ -1,5 +1,5 @@
-// Compares saving and loading a settings file with bare calls that are as safe. Compares opening the
-// Properties dialog with the same dialog resources without any code.
+// Compares saving and loading a settings file with bare calls that do the same, as safely. Compares opening
+// the Properties dialog with opening its dialog templates without filling their controls.
 
 #include "Installation.h"
 #include "Measurements.h"
@@ -60,22 +60,22 @@ INT_PTR CALLBACK DialogProcedure(HWND dialog, UINT message, WPARAM wParam, LPARA
     return TRUE;
 }
 
-LONGLONG shown; // ticks; 0 if the dialog is not shown yet
+LONGLONG shownTime; // ticks; 0 until the dialog is shown
 
 // A modal dialog sends WM_ENTERIDLE to its owner when it is shown, painted and has no more messages.
 LRESULT CALLBACK OwnerProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message != WM_ENTERIDLE || shown != 0)
+    if (message != WM_ENTERIDLE || shownTime != 0)
         return DefWindowProcA(window, message, wParam, lParam);
-    shown = Now();
+    shownTime = Now();
     PostMessageA(reinterpret_cast<HWND>(lParam), WM_COMMAND, IDCANCEL, 0);
     return 0;
 }
 
 double TimeToShown(const std::function<void()>& open) {
-    shown = 0;
+    shownTime = 0;
     const LONGLONG start = Now();
     open();
-    return Milliseconds(shown - start);
+    return Milliseconds(shownTime - start);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
-// Compares a start of the menu with a start of the bare program (Bare.cpp): time and memory. Counts the files
-// that a start opens, and measures the size of the program file, because a start loads it from a share.
+// Compares a start of the menu with a start of the bare program (Bare.cpp): time and memory. Counts how
+// often a start opens or looks for a file, and measures the size of the program file, because a start loads
+// it from a share.
 
 #include "Installation.h"
 #include "Measurements.h"
@@ -59,7 +60,7 @@ void MeasureMemory() {
 // which bench.sh writes to a file. Does not count when the shell looks for the host's program.
 void MeasureOpens() {
     constexpr int menuFiles = 98;
-    constexpr int others = 10;
+    constexpr int otherCalls = 10;
     const Installation installation(demoHost); // with three menu files
     for (int i = 3; i < menuFiles; ++i)
         WriteFileBytes("S" + std::to_string(i) + ".mnu", "Title of a system^\r\n");
@@ -83,13 +84,13 @@ void MeasureOpens() {
         const bool isRelative = name.find(':') == std::string::npos;
         if ((isRelative || name.find(folder) != std::string::npos) && !name.ends_with("Fenn.exe"))
             ++calls[thread];
-        if (name == "UserWSID.sys")
+        if (name == "UserWSID.sys") // the host does not open it
             menuThread = thread;
     }
     if (menuThread.empty())
         throw std::runtime_error("the trace of the menu's files is missing: run bench.sh");
     PrintValue("opens and look-ups of a start with 98 menu files", "times", calls[menuThread],
-               menuFiles + others);
+               menuFiles + otherCalls);
 }
 
 void MeasureSize() {

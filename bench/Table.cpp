@@ -22,7 +22,7 @@ void PrintRow(const char* what, const char* menu, const char* bare, const char* 
 
 } // namespace
 
-void PrintHead() {
+void PrintHeader() {
     PrintRow("what", "menu", "bare calls", "ratio", "target", false);
 }
 

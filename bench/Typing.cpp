@@ -1,5 +1,5 @@
-// Compares typing a command into the host with sending the same key messages in a loop. Uses the late host,
-// which ignores keys, so that only the work of the menu counts.
+// Compares typing a command into the host with sending the same key messages in a loop. Uses the late host:
+// it ignores keys, so that the times do not contain the work of a host.
 
 #include "Installation.h"
 #include "Measurements.h"
@@ -20,6 +20,7 @@ void MeasureTyping() {
 
     HostLink link(host);
     const std::string command = "Load Core\\Programs\\CSBackup\rRun\r";
+    // The same as key codes: "\xDC" is the key that carries the backslash.
     const std::string_view keys = "LOAD CORE\xDCPROGRAMS\xDC"
                                   "CSBACKUP\rRUN\r";
     const auto sendKeys = [&] {

@@ -1,5 +1,6 @@
-// Measures the wait for the host: its CPU time and how late it notices the host's caption. Compares the time
-// from the caption to the shown menu with a bare program that makes the same calls.
+// Measures the wait for the host: its CPU time, and the time from the host's caption until the menu hides
+// the host. Compares the time from the caption to the shown menu with a bare program that makes the same
+// calls.
 
 #include "Installation.h"
 #include "LateHost.h"
@@ -18,15 +19,15 @@ namespace {
 double WaitingShare() {
     const RunningMenu menu(obrinMenu);
     WaitFor("the host's window", [] { return FindWindowA(hostWindowClass, nullptr) != nullptr; });
-    Sleep(3000); // the rest of the start and the opening of the notice do not count
+    Sleep(3000); // the rest of the start, and opening the notice "Waiting for Fenn", do not count
     const double before = menu.CpuTime();
-    const double watched = MeasureTime([] { Sleep(10'000); }); // long, because CPU time has steps of 10 ms
-    const double share = 100 * (menu.CpuTime() - before) / watched;
+    const double elapsed = MeasureTime([] { Sleep(10'000); }); // long, because CPU time has steps of 10 ms
+    const double share = 100 * (menu.CpuTime() - before) / elapsed;
     menu.Close();
     return share;
 }
 
-// Times since the host has set its caption, in milliseconds.
+// Times since the host set its caption, in milliseconds.
 struct Delays {
     double untilHidden;
     double untilShown;
@@ -35,12 +36,13 @@ struct Delays {
 Delays StartWithLateHost(const MenuProgram& program) {
     const RunningMenu menu(program);
     menu.WaitUntilShown();
-    const LONGLONG shown = Now();
+    const LONGLONG shownTime = Now();
     const HWND host = FindWindowA(hostWindowClass, nullptr);
-    const LONGLONG caption = SendMessageA(host, askCaptionTime, 0, 0);
-    const LONGLONG hidden = SendMessageA(host, askHidingTime, 0, 0);
+    const LONGLONG captionTime = SendMessageA(host, askCaptionTime, 0, 0);
+    const LONGLONG hidingTime = SendMessageA(host, askHidingTime, 0, 0);
     menu.Close();
-    return {.untilHidden = Milliseconds(hidden - caption), .untilShown = Milliseconds(shown - caption)};
+    return {.untilHidden = Milliseconds(hidingTime - captionTime),
+            .untilShown = Milliseconds(shownTime - captionTime)};
 }
 
 constexpr int lateStarts = 21;
@@ -62,7 +64,7 @@ void MeasureWait() {
     std::ranges::generate(delays, [] { return StartWithLateHost(obrinMenu).untilHidden; });
     std::ranges::sort(delays);
     // Ignores the longest, because other work of the machine sometimes delays a start.
-    PrintValue("from the host's caption to its hiding, second longest", "ms", delays[lateStarts - 2], 35);
+    PrintValue("from the caption to the hidden host, second longest", "ms", delays[lateStarts - 2], 35);
 }
 
 void MeasureCaption() {

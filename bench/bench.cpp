@@ -39,7 +39,7 @@ int main(int count, char** arguments) {
     const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_WIN95_CLASSES};
     InitCommonControlsEx(&controls);
     int exitCode = 0;
-    PrintHead();
+    PrintHeader();
     for (const auto& [name, measure] : measurements) {
         if (!names.empty() && !names.contains(name))
             continue;
