@@ -1,4 +1,4 @@
-// Proves that any header of a picture can be read, and that a longer file holds what a shorter one does.
+// Checks that any BMP header can be read, and that a picture that fits into a file fits into a longer one.
 #include "Fuzz.h"
 
 #include "common/BitmapFile.h"

@@ -1,3 +1,4 @@
+// Checks that the checker can read any bytes as user records and as an update register.
 #include "Fuzz.h"
 
 #include "checker/OtherFileRules.h"

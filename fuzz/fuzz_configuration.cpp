@@ -1,4 +1,5 @@
-// Proves that a rewritten configuration has its drive line first, ends each line in CR LF and is final.
+// Checks that a rewritten configuration begins with the drive line and ends each line with CR LF, and that
+// the next rewrite changes nothing.
 #include "Fuzz.h"
 
 #include "startup/HostConfiguration.h"
@@ -13,6 +14,6 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string once = Rewrite(Text(data, size));
     Require(once.starts_with("Drive S,C:\\HOST,X,\\\r\n"));
     Require(std::ranges::count(once, '\n') == std::ranges::count(once, '\r'));
-    Require(Rewrite(once) == once); // the next start changes nothing
+    Require(Rewrite(once) == once);
     return 0;
 }

@@ -1,4 +1,4 @@
-// Proves that every menu file gives a tree, and that menu and checker refuse the same files.
+// Checks that every menu file gives a tree, and that menu and checker refuse the same files.
 #include "Fuzz.h"
 
 #include "checker/MenuFileRules.h"
@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-// Every entry hangs below a heading in front of it, or stands at the top level.
+// Each entry is at top level (parent 0) or below a heading that comes before it. entries[0] has tree index 1.
 static void RequireTree(const std::vector<obrin::MenuEntry>& entries) {
     for (std::size_t i = 0; i < entries.size(); ++i) {
         const auto parent = static_cast<std::size_t>(entries[i].parent);
@@ -18,7 +18,7 @@ static void RequireTree(const std::vector<obrin::MenuEntry>& entries) {
 static void RequireSameVerdict(std::string_view file, const obrin::MenuDefinition& definition) {
     const auto findings = obrin::CheckMenuFile("F", file, definition, {.isLeadByte = IsLeadByte});
     Require(definition.faults.empty() != obrin::HasErrors(findings));
-    // One line for each finding and each entry, whatever the file holds.
+    // Control characters in the file add no lines to the report or to the printed tree.
     const auto lines = [](const std::string& text) {
         return static_cast<std::size_t>(std::ranges::count(text, '\n'));
     };

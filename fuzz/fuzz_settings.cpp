@@ -1,4 +1,4 @@
-// Proves that settings survive saving and reading, and that every text gives a margin that a slider can take.
+// Checks that settings survive saving and loading, and that every text gives a margin in the slider's range.
 #include "Fuzz.h"
 
 #include "common/RunTimeError.h"
@@ -23,7 +23,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     try {
         RequireToSurviveSaving(text);
     } catch (const obrin::RunTimeError&) {
-        // a line without "="
+        // a line without "=": the menu does not load such a file
     }
     return 0;
 }

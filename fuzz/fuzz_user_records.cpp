@@ -1,12 +1,12 @@
-// Proves that a record behind the last one of any file is found, and that an answer is a number from 1 to 99.
+// Checks that a record appended to any file is found, and that an accepted answer is a number from 1 to 99.
 #include "Fuzz.h"
 
 #include "startup/UserRecords.h"
 
 static void RequireToFindANewRecord(std::string_view file) {
-    const auto slots = obrin::ScanUserRecords(file, "anna").recordsRead * obrin::userRecordSlot;
+    const auto end = obrin::ScanUserRecords(file, "anna").recordsRead * obrin::userRecordSlot;
     std::string longer(file);
-    longer.resize(slots); // the last slot may lack its end
+    longer.resize(end); // completes the last slot, or removes an incomplete record
     longer += obrin::UserWsidRecord("anna", 42);
     Require(obrin::ScanUserRecords(longer, "anna").wsid == 42);
 }
