@@ -17,7 +17,7 @@ std::string Variable(const char* name) {
     return value;
 }
 
-/// Returns milliseconds; the default if the text is not a number.
+/// Returns milliseconds; the default if the variable does not begin with a number.
 unsigned Duration(const char* name, unsigned byDefault) {
     const std::string text = Variable(name);
     unsigned value = byDefault;

@@ -11,7 +11,7 @@
 
 namespace fenn {
 
-/// The command window calls these functions while the sender of a key waits: they must not show a window.
+/// These functions must not open a window: the sender of a key may still wait for the command window.
 class CommandListener {
 public:
     virtual void LineTyped(const std::string& line) = 0;
@@ -33,7 +33,7 @@ public:
     /// Creates the window as a child of `parent`, which destroys it.
     HWND Create(HWND parent, HINSTANCE instance);
 
-    /// Returns the height for the layout, in pixels.
+    /// Returns the height that the window needs, in pixels.
     static int Height();
 
 private:

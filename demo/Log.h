@@ -9,9 +9,9 @@
 //                               another thread, and by its lParam if that is not 0
 //   line LOAD CORE\START        a completed line
 //   hang LINE                   the host hangs because of this line
-//   run CORE\PROGRAMS\X         the line before opened this program
-//   system UB                   the line before started this system
-//   unknown LINE                the line before is not a command
+//   run CORE\PROGRAMS\X         the last line opens this program
+//   system UB                   the last line starts this system
+//   unknown LINE                the last line is not a command
 //   exit                        the process ends
 #pragma once
 

@@ -8,7 +8,7 @@
 namespace fenn {
 
 /// Opens a window in front of all others. Its class is "FennProgram" and its caption is the path of the
-/// program. It has no owner, because it must be visible while the host's window is hidden.
+/// program. It has no owner, so that it does not depend on the host's window, which is hidden.
 void OpenProgramWindow(HINSTANCE instance, const std::string& program, const std::string& system,
                        int station);
 

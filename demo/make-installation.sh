@@ -48,7 +48,7 @@ copy_file() {
 }
 
 while IFS= read -r file; do
-  # The menu rewrites the configuration at every start.
+  # Keeps the configuration: the menu rewrites it at every start.
   if [ "$file" = FennConfig.Sys ] && [ -f "$target/$file" ]; then
     continue
   fi
