@@ -5,7 +5,7 @@
 namespace obrin {
 namespace {
 
-TEST(Finding, IsReportedInTheOrderOfFilesAndLines) {
+TEST(Report, SortsFindingsByFileAndLine) {
     EXPECT_EQ(
         Report({{Effect::None, {"B", 10}, {"p", "r"}, "c"},
                 {Effect::None, {"B", 9}, {"p", "r"}, "c"},
@@ -15,26 +15,26 @@ TEST(Finding, IsReportedInTheOrderOfFilesAndLines) {
         "r\r\n");
 }
 
-TEST(Finding, HasTheConsequenceOfItsEffectUnlessItHasOneOfItsOwn) {
+TEST(Report, DescribesTheEffectOfAFindingWithoutAConsequence) {
     EXPECT_EQ(Report({{Effect::EndsEveryStart, {"A", 0}, {"p", "r"}, ""}}),
               "A: error: p: the menu ends with an error at every start; r\r\n");
     EXPECT_EQ(Report({{Effect::EndsProperties, {"A", 0}, {"p", "r"}, ""}}),
               "A: warning: p: the Properties dialog ends the menu with an error; r\r\n");
 }
 
-TEST(Finding, IsOneLineWhateverItNames) {
+TEST(Report, KeepsAFindingWithControlCharactersOnOneLine) {
     EXPECT_EQ(Report({{Effect::None, {"A\x1B", 0}, {"p\r\n\x7F\xE4", "r"}, "c"}}),
               "A?: warning: p???\xE4: c; r\r\n");
 }
 
-TEST(Finding, IsCounted) {
+TEST(Summary, CountsErrorsWarningsAndMenuFiles) {
     EXPECT_EQ(
         Summary({{Effect::None, {"A", 0}, {"", ""}, ""}, {Effect::EndsProperties, {"A", 0}, {"", ""}, ""}}, 1,
                 "details"),
         "0 errors, 2 warnings in 1 menu file (details)\r\n");
 }
 
-TEST(Finding, ShortensATextToTwoHundredCharacters) {
+TEST(Shorten, KeepsTwoHundredCharacters) {
     EXPECT_EQ(Shorten(std::string(200, 'x'), nullptr), std::string(200, 'x'));
     EXPECT_EQ(Shorten(std::string(201, 'x'), nullptr), std::string(200, 'x') + "...");
 }

@@ -26,13 +26,13 @@ std::vector<std::string> Problems(Findings findings) {
 
 using Lines = std::vector<std::string>;
 
-TEST(MenuFileRules, BlameNoEmptyLineAboveAnotherHeading) {
+TEST(MenuFileRules, BlameAnEmptyLineOnlyIfNoTopLevelHeadingFollowsIt) {
     EXPECT_EQ(Problems(Check("T\r\n\r\nA\r\n>>B^K")),
               (Lines{"2 an empty line", "3 the heading \"A\" holds no program",
                      "4 there is no heading one level above this entry"}));
 }
 
-TEST(MenuFileRules, ReadDoubleByteCharactersAsOne) {
+TEST(MenuFileRules, IgnoreSpecialBytesInsideATwoByteCharacter) {
     EXPECT_EQ(Problems(Check("T\r\nA^\x81|\r\nB^\x81^\r\nC^\x81\\..", {.isLeadByte = IsLeadByte})), Lines{});
 }
 
@@ -53,22 +53,24 @@ TEST(MenuFileRules, WarnOfByteOrderMarks) {
 TEST(MenuFileRules, WarnOfUtf8WhereTheCodePageIsAnother) {
     const std::string utf8 = "text in UTF-8";
     EXPECT_EQ(Problems(Check("T\r\nA\xC3\xA4^K\r\nB\xE2\x82\xAC^\xF0\x9F\x98\x80")), Lines{"2 " + utf8});
-    EXPECT_EQ(Problems(Check("T\r\nA\xC3\xA4^K\r\nB\xE4^L")), Lines{}) << "one line is not: none is";
-    EXPECT_EQ(Problems(Check("T\xC0\xA0\r\nA^K")), Lines{}) << "ASCII in two bytes";
+    EXPECT_EQ(Problems(Check("T\r\nA\xC3\xA4^K\r\nB\xE4^L")), Lines{})
+        << "a line that is not UTF-8 shows that the file is ANSI text";
+    EXPECT_EQ(Problems(Check("T\xC0\xA0\r\nA^K")), Lines{}) << "C0 begins no character of UTF-8";
 }
 
 TEST(MenuFileRules, WarnOfOtherTextWhereTheCodePageIsUtf8) {
     const CodePage utf8{.isUtf8 = true};
     EXPECT_EQ(Problems(Check("T\xC3\xA4\r\nA^K", utf8)), Lines{});
     EXPECT_EQ(Problems(Check("T\xC3\xA4\r\nA\xE4^K", utf8)), Lines{"2 text that is not UTF-8"});
-    EXPECT_EQ(Problems(Check("T\xC3\r\nA^K", utf8)), Lines{"1 text that is not UTF-8"}) << "cut off";
+    EXPECT_EQ(Problems(Check("T\xC3\r\nA^K", utf8)), Lines{"1 text that is not UTF-8"})
+        << "a character without its second byte";
 }
 
 TEST(MenuFileRules, WarnOfBlanksAroundKeys) {
     EXPECT_EQ(Problems(Check("T\r\nA^ K")), Lines{"2 the key  K begins or ends with a blank"});
 }
 
-TEST(MenuFileRules, WarnOfKeysThatLeadAboveTheirFolder) {
+TEST(MenuFileRules, WarnOfKeysWithTheFolderDotDot) {
     EXPECT_EQ(Problems(Check("T\r\nA^D/../E\r\nB^..M\\N..")), Lines{"2 the key D/../E holds \"..\""});
 }
 
@@ -88,7 +90,7 @@ TEST(MenuFileRules, TellWhyAKeyIsNoFileName) {
         EXPECT_EQ(FindFileNameFault(key, nullptr), reason) << key;
 }
 
-TEST(MenuFileRules, KnowNamesThatAreMistakenForMenuFiles) {
+TEST(MenuFileRules, RecognizeMenuFileNamesInAnyCase) {
     EXPECT_TRUE(IsMenuFileNameInAnyCase("UB.MNU"));
     EXPECT_TRUE(IsMenuFileNameInAnyCase("UB.Mnu"));
     EXPECT_FALSE(IsMenuFileNameInAnyCase(".MNU"));
@@ -101,7 +103,7 @@ TEST(MenuFileRules, ShowTheTreeWithLineNumbersAndKeys) {
         "T\r\n    2:  A>\r\n    3:    BC [K1]\r\n    4:    D?\r\n    5:      E []\r\n");
 }
 
-TEST(MenuFileRules, ShowAnEntryWithoutItsHeadingAtTheTopLevel) {
+TEST(MenuFileRules, ShowAnEntryWhoseHeadingIsMissingAtTheTopLevel) {
     EXPECT_EQ(FormatMenuTree(ParseMenuDefinition("T\r\n>>A^K", nullptr), nullptr), "T\r\n    2:  A [K]\r\n");
 }
 

@@ -6,7 +6,7 @@
 namespace obrin {
 namespace {
 
-// The report on records of these users when anna runs the checker.
+// Reports on a file with these user records. The user anna runs the checker.
 std::string ReportOn(const std::vector<std::pair<std::string, std::int16_t>>& users) {
     std::string bytes;
     for (const auto& [name, wsid] : users)
@@ -24,14 +24,14 @@ TEST(UserRecordRules, WarnOfASecondRecordAndIgnoreTheNumberInTheFirst) {
         "F: warning: the user anna has the records 1 and 2: the last one counts; remove the others\r\n");
 }
 
-TEST(UserRecordRules, WarnOfNumbersThatAreNoWorkstation) {
+TEST(UserRecordRules, WarnOfNumbersOutsideOneToNinetyNine) {
     for (const std::int16_t wsid : std::initializer_list<std::int16_t>{0, 100})
         EXPECT_EQ(ReportOn({{"anna", wsid}}),
                   "F: warning: record 1 gives the user anna the workstation number " + std::to_string(wsid) +
                       ": it must be from 1 to 99; remove the record, so that the menu asks for a number\r\n");
 }
 
-TEST(UserRecordRules, FindANegativeNumberOfAnyUser) {
+TEST(UserRecordRules, TellWhetherANegativeNumberStopsThisUserOrAnother) {
     for (const auto& [user, effect] :
          {std::pair{"anna", Effect::WaitsForEver}, {"bert", Effect::FailsForOthers}})
         EXPECT_EQ(CheckUserRecords("F", UserWsidRecord(user, -7), "anna").at(0).effect, effect) << user;
@@ -51,7 +51,7 @@ TEST(UserRecordRules, WarnOfUsersThatDifferInCaseAlone) {
         "number depends on how the name is typed; give both records the same number\r\n");
 }
 
-TEST(UserRecordRules, LetOneUserInTwoSpellingsHaveOneNumber) {
+TEST(UserRecordRules, AcceptTheSameNumberForTwoSpellingsOfOneUser) {
     EXPECT_EQ(ReportOn({{"Anna", 1}, {"anna", 1}}), "");
 }
 
@@ -59,7 +59,7 @@ TEST(UpdateRegisterRules, WarnOfBytesThatAreNoDigits) {
     EXPECT_EQ(CheckUpdateRegister("F", "001\r\n0").front().trouble.problem, "byte 4 is no digit");
 }
 
-TEST(UpdateRegisterRules, WarnOfAPartOfARecordAtTheEnd) {
+TEST(UpdateRegisterRules, WarnOfAnIncompleteRecordAtTheEnd) {
     EXPECT_EQ(CheckUpdateRegister("F", "0050").front().trouble.problem, "the last record is cut off");
 }
 
