@@ -33,7 +33,7 @@ TEST(ParseNumber, ReadsADecimalNumberWithBlanksAroundIt) {
         EXPECT_EQ(ParseNumber(text), number) << text;
 }
 
-TEST(ParseNumber, RefusesATextThatIsNotANumberAsAWhole) {
+TEST(ParseNumber, RefusesATextThatIsNotExactlyOneNumber) {
     for (const char* text : {"", " ", "abc", "12abc", "1 2", "1,5", ".", "-", "1e", "1.2.3", "\t5", "5\t"})
         EXPECT_EQ(ParseNumber(text), std::nullopt) << '"' << text << '"';
 }

@@ -21,7 +21,7 @@ TEST(FindCharacter, FindsTheFirstAtOrAfterAPosition) {
 TEST(FindCharacter, SkipsTheSecondByteOfACharacter) {
     EXPECT_EQ(FindCharacter("\x81^^", '^', IsLeadByte), 2U);
     EXPECT_EQ(FindCharacter("\x81\x81^", '^', IsLeadByte), 2U) << "even when it looks like a lead byte";
-    EXPECT_EQ(FindCharacter("a\x81", '\x81', IsLeadByte), 1U) << "at the end there is none";
+    EXPECT_EQ(FindCharacter("a\x81", '\x81', IsLeadByte), 1U) << "a lead byte at the end has no second byte";
     EXPECT_EQ(FindCharacter("\x81^^", '^', nullptr), 1U) << "in a code page without such characters";
 }
 
@@ -45,12 +45,12 @@ TEST(TrimBlanks, RemovesOnlySpacesAtBothEnds) {
     EXPECT_EQ(TrimBlanks("\ta\r\n"), "\ta\r\n");
 }
 
-TEST(RemoveAccessKeyMarks, IsTheCaptionAsItIsShown) {
+TEST(RemoveAccessKeyMarks, ReturnsTheCaptionAsItIsShown) {
     EXPECT_EQ(RemoveAccessKeyMarks("A&bout Obrin"), "About Obrin");
     EXPECT_EQ(RemoveAccessKeyMarks("Billing && Payroll&"), "Billing & Payroll");
 }
 
-TEST(DoubleAmpersands, IsShownWithoutAccessKeys) {
+TEST(DoubleAmpersands, PreventsAccessKeys) {
     EXPECT_EQ(DoubleAmpersands("&Billing & Payroll"), "&&Billing && Payroll");
 }
 
