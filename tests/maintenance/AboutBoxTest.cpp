@@ -12,7 +12,7 @@ TEST_F(AboutBox, ShowsTheIconAndItsTitleInBoldLetters) {
     });
 }
 
-TEST_F(AboutBox, StaysOpenBehindTheMessageThatThereIsNoTool) {
+TEST_F(AboutBox, StaysOpenAfterTheMessageThatTheToolIsMissing) {
     WhileAboutBox([](HWND box) {
         const auto press = [=] { SendDlgItemMessageA(box, IDC_CMD_SYS_INFO, BM_CLICK, 0, 0); };
         EXPECT_TRUE(

@@ -4,7 +4,7 @@
 
 namespace obrin {
 
-TEST(VersionText, HasPlainNumbers) {
+TEST(VersionText, HasThreeNumbersWithoutLeadingZeros) {
     EXPECT_EQ(VersionText({.major = 2, .minor = 0, .revision = 38}), "Version 2.0.38");
 }
 

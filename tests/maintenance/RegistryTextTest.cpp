@@ -21,22 +21,22 @@ TEST(RegistryText, OtherTypesAreEmpty) {
     EXPECT_EQ(RegistryText(expandableStringType, "C:\\Tools\0"s), "");
 }
 
-TEST(RegistryText, NumberIsDecimal) {
+TEST(RegistryText, NumberIsWrittenInDecimal) {
     struct {
         const char* rule;
         std::string bytes;
         const char* text;
     } const cases[] = {
         {"the lowest byte comes first", "\xFE\xFF\xFF\x7F"s, "2147483646"},
-        {"a NUL at the end is no part of it", "\x05\0"s, "5"},
+        {"a NUL at the end changes nothing", "\x05\0"s, "5"},
         {"zero", "\0\0\0\0"s, "0"},
         {"hexadecimal 105 loses the zero of its byte 05", "\x05\x01\0\0"s, "21"},
-        {"hexadecimal 1000 loses that of its byte 00", "\0\x10\0\0"s, "256"},
+        {"hexadecimal 1000 loses a zero of its byte 00", "\0\x10\0\0"s, "256"},
         {"16 bits are signed", "\xFF\xFF\0\0"s, "-1"},
-        {"five digits are more than 16 bits", "\x10\x10\x01\0"s, "69648"},
+        {"a number above 16 bits keeps its highest digit", "\x10\x10\x01\0"s, "69648"},
         {"32 bits are signed", "\xFE\xFF\xFF\xFF"s, "-2"},
         {"more than 32 bits are no number", "\x10\xBC\x10\x10\x1A"s, "&h1A1010BC10"},
-        {"nor is nothing", ""s, "&h"},
+        {"no bytes are no number", ""s, "&h"},
     };
     for (const auto& [rule, bytes, text] : cases)
         EXPECT_EQ(RegistryText(numberType, bytes), text) << rule;

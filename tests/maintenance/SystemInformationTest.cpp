@@ -9,8 +9,8 @@ namespace {
 
 constexpr const char* reportVariable = "OBRIN_TEST_TOOL_REPORT";
 
-// The started tool is this program again. It reports its command line and the state of its window, and ends
-// before any test runs.
+// The tests start a copy of this program as the tool. The copy writes its command line and the state of its
+// window into a report, and ends before any test runs.
 const bool startedAsTool = [] {
     const std::string report = EnvironmentVariable(reportVariable);
     if (report.empty())
@@ -28,13 +28,12 @@ protected:
         SetEnvironmentVariableA(reportVariable, report.c_str());
         CreateFolder("Tools");
         CopyFileA(test::OwnProgram().string().c_str(), "Tool One.exe", FALSE);
-        CopyFileA("Tool One.exe", "Tool.exe", FALSE); // must not be started instead, because of the blank
+        CopyFileA("Tool One.exe", "Tool.exe", FALSE); // an unquoted path would start this one
         CopyFileA("Tool One.exe", "Tools\\MSINFO32.EXE", FALSE);
     }
     ~SystemInformation() override { SetEnvironmentVariableA(reportVariable, nullptr); }
 
-    /// Launches with these two entries in the registry. Returns the tool's report, or the text of the
-    /// message.
+    /// Sets the two registry entries and launches the tool. Returns its report, or the text of the message.
     std::string Launch(const std::string& path, const std::string& toolFolder,
                        DWORD pathType = REG_SZ) const {
         machine.Set("SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", "PATH", pathType, path);
@@ -51,14 +50,14 @@ protected:
         return result;
     }
 
-    /// The same with a second try: Wine now and then fails to start a program on a loaded machine.
+    /// Tries twice, because Wine sometimes fails to start a program on a loaded machine.
     std::string LaunchTool(const std::string& path) const {
         const std::string result = Launch(path, here + "Tools");
         return result == unavailable ? Launch(path, here + "Tools") : result;
     }
 
     const std::string here = folder.path.string() + "\\", report = here + "report.txt";
-    const std::string missing = std::string(1025, 'x'); // too long to be read
+    const std::string missing = std::string(1025, 'x'); // too long: the menu ignores it
     const std::string unavailable = "System Information Is Unavailable At This Time";
 };
 
@@ -71,17 +70,17 @@ TEST_F(SystemInformation, FallsBackToTheToolInItsFolder) {
 }
 
 TEST_F(SystemInformation, IsUnavailableWhenNothingCanBeStarted) {
-    CreateFolder("MSINFO32.EXE"); // a folder of the tool's name
+    CreateFolder("MSINFO32.EXE"); // a folder instead of the tool
     struct {
         const char* reason;
         std::string path, toolFolder;
         DWORD pathType = REG_SZ;
     } const cases[] = {
-        {"the path leads nowhere, whatever the folder has", here + "gone.exe", here + "Tools"},
+        {"the path leads nowhere, and the folder is not tried", here + "gone.exe", here + "Tools"},
         {"the path is empty", "", here + "Tools"},
-        {"the path is no plain text", here + "Tool One.exe", here + "Tools", REG_EXPAND_SZ},
+        {"the path has another registry type", here + "Tool One.exe", here + "Tools", REG_EXPAND_SZ},
         {"there is neither path nor folder", missing, missing},
-        {"there is no tool in the folder", missing, here + "."},
+        {"the folder holds a folder of that name", missing, here + "."},
     };
     for (const auto& [reason, path, toolFolder, pathType] : cases)
         EXPECT_EQ(Launch(path, toolFolder, pathType), unavailable) << reason;

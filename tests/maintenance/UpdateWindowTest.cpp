@@ -7,7 +7,7 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-// The texts of the progress label, one after the other.
+// The texts that the progress label shows one after the other.
 const Texts progress{"Updating:\r\nTessel.exe",       "Updating:\r\nSweeper.exe", "Updating:\r\nNotebox.exe",
                      "Updating:\r\nShowAllFenns.exe", "Updating:\r\nGlass.exe",   "Updating:\r\nComplete"};
 
@@ -21,8 +21,8 @@ protected:
             WriteFileBytes("Tessel\\Exe\\" + name + ".exe", "new " + name);
     }
 
-    /// Updates workstation 5 and presses the button at the end. Calls `act` with the window after each text
-    /// of the progress label. The window does not notice that it is watched.
+    /// Updates workstation 5 and presses the button at the end. Calls `act` with the window after each new
+    /// text of the progress label.
     void Update(const test::WindowAction& act = [](HWND) {}) {
         onProgress = act;
         const HHOOK hook = SetWindowsHookExA(WH_CALLWNDPROCRET, Watch, nullptr, GetCurrentThreadId());
@@ -56,7 +56,7 @@ private:
     static inline test::WindowAction onProgress;
 };
 
-TEST_F(UpdateWindow, ShowsEachFileAlsoOneThatCannotBeCopied) {
+TEST_F(UpdateWindow, ShowsEachFileEvenIfOneCannotBeCopied) {
     DeleteFileA("Tessel\\Exe\\Sweeper.exe");
     Update();
     EXPECT_EQ(shown, progress);
@@ -69,13 +69,13 @@ TEST_F(UpdateWindow, CopiesTheFilesOverOlderOnes) {
         EXPECT_EQ(ReadFileBytes("Local\\" + name + ".exe"), "new " + name);
 }
 
-// A copy can take minutes, in which nothing is painted.
+// A copy can take minutes, and nothing is painted meanwhile.
 TEST_F(UpdateWindow, IsPaintedBeforeTheFirstCopy) {
     Update();
     EXPECT_TRUE(isPaintedBeforeCopy);
 }
 
-TEST_F(UpdateWindow, CopiesAgainAfterAResizeWhenItIsComplete) {
+TEST_F(UpdateWindow, FinishesItsCopiesAndRepeatsThemAfterAResize) {
     for (const std::size_t resizedAt : {2U, 6U}) {
         shown.clear();
         DeleteFileA("Updated.txt");
@@ -92,7 +92,7 @@ TEST_F(UpdateWindow, HidesOkayWhileItCopies) {
     Update([](HWND window) { EXPECT_FALSE(IsWindowVisible(GetDlgItem(window, IDOK))) << shown.back(); });
 }
 
-TEST_F(UpdateWindow, GivesOkayTheKeyboardWhenItIsComplete) {
+TEST_F(UpdateWindow, GivesOkayTheFocusWhenItIsComplete) {
     int focused = 0;
     ActInDialog(
         owner, [this] { CheckWorkstationUpdate(owner, 5); },
@@ -101,7 +101,7 @@ TEST_F(UpdateWindow, GivesOkayTheKeyboardWhenItIsComplete) {
     EXPECT_EQ(focused, IDOK);
 }
 
-TEST_F(UpdateWindow, HasItsProgressLabelInTheSecondQuarterOfItsHeightInGeorgia) {
+TEST_F(UpdateWindow, ShowsProgressInGeorgiaInTheSecondQuarterOfItsHeight) {
     Update([](HWND window) {
         const HWND label = GetDlgItem(window, IDC_LABEL1);
         RECT inside;
@@ -112,16 +112,16 @@ TEST_F(UpdateWindow, HasItsProgressLabelInTheSecondQuarterOfItsHeightInGeorgia) 
     });
 }
 
-TEST_F(UpdateWindow, ClosedWhileCopyingStaysUntilAllIsCopied) {
+TEST_F(UpdateWindow, StaysOpenUntilAllIsCopiedIfClosedEarlier) {
     Update([this](HWND window) {
         if (shown.size() == 2)
             SendMessageA(window, WM_CLOSE, 0, 0);
-        EXPECT_FALSE(IsWindowEnabled(owner)) << "the menu could be used";
+        EXPECT_FALSE(IsWindowEnabled(owner)) << "the menu must stay disabled while files are copied";
     });
     EXPECT_EQ(shown, progress);
 }
 
-TEST_F(UpdateWindow, GoneWithTheMenuCopiesNoMoreAndIsShownAtTheNextStart) {
+TEST_F(UpdateWindow, StopsCopyingAndRegistersNothingWhenTheMenuCloses) {
     Update([this](HWND) {
         if (shown.size() == 2)
             PostMessageA(owner, WM_CLOSE, 0, 0);
