@@ -1,4 +1,4 @@
-// The link "E-Mail us!" of the menu window, and the pointer, which it changes for the whole window.
+// The link "E-Mail us!" of the menu window, and the mouse pointer, which it changes for the whole window.
 
 #include "menu/MenuWindowTest.h"
 #include "support/Eventually.h"
@@ -9,12 +9,13 @@ namespace {
 
 class Link : public MenuWindowTest {
 protected:
-    // Moves the pointer to a place of a control and returns its shape there.
+    // Moves the pointer to a place in a control. Returns the shape of the pointer.
     static HCURSOR PointerOver(HWND control, LONG x, LONG y) {
         POINT place{x, y};
         ClientToScreen(control, &place);
         PointAt(place);
-        const HWND under = WindowFromPoint(place); // the window, where a control lets the mouse through
+        const HWND under =
+            WindowFromPoint(place); // the menu window if the control is transparent to the mouse
         SendMessageA(under, WM_SETCURSOR, reinterpret_cast<WPARAM>(under),
                      MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
         return GetCursor();
@@ -23,7 +24,7 @@ protected:
     static constexpr const char* shortcut = "Help\\BetterIdea.url";
 };
 
-TEST_F(Link, IsOpenedOnceByEnterOrSpaceAlsoWhenHeld) {
+TEST_F(Link, IsOpenedOnceByEnterOrSpaceEvenIfTheKeyIsHeld) {
     for (const WPARAM key : {WPARAM{VK_RETURN}, WPARAM{VK_SPACE}, WPARAM{VK_DOWN}}) {
         SendMessageA(link, WM_KEYDOWN, key, 0);
         SendMessageA(link, WM_KEYDOWN, key, LPARAM{KF_REPEAT} << 16);
@@ -31,7 +32,7 @@ TEST_F(Link, IsOpenedOnceByEnterOrSpaceAlsoWhenHeld) {
     EXPECT_EQ(TakeOpenedDocuments(), (std::vector<std::string>{shortcut, shortcut}));
 }
 
-TEST_F(Link, TakesEnterButLeavesTabToTheDialogManager) {
+TEST_F(Link, HandlesEnterButLeavesTabToTheDialogManager) {
     for (const WPARAM key : {WPARAM{VK_RETURN}, WPARAM{VK_TAB}}) {
         MSG typed{link, WM_KEYDOWN, key, 0, 0, {}};
         const LRESULT code = SendMessageA(link, WM_GETDLGCODE, key, reinterpret_cast<LPARAM>(&typed));
@@ -46,26 +47,26 @@ TEST_F(Link, IsOpenedOnceByADoubleClick) {
     EXPECT_EQ(TakeOpenedDocuments(), std::vector<std::string>{shortcut});
 }
 
-TEST_F(Link, ShowsTheFocusWhileItHasTheKeyboard) {
-    const HDC screen = GetDC(link);
+TEST_F(Link, ShowsAFocusRectangleOnlyWhileItHasTheFocus) {
+    const HDC dc = GetDC(link);
     for (const HWND focused : {link, tree, link}) {
         SetFocus(focused);
         SendMessageA(window, WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEFOCUS), 0);
         UpdateWindow(link);
-        const bool isDotted = GetPixel(screen, 0, 0) != GetPixel(screen, 1, 0);
+        const bool isDotted = GetPixel(dc, 0, 0) != GetPixel(dc, 1, 0);
         EXPECT_EQ(isDotted, focused == link);
     }
-    ReleaseDC(link, screen);
+    ReleaseDC(link, dc);
 }
 
 TEST_F(Link, HasTheColoursOfALinkOnTheWindowsBackground) {
-    const HDC screen = GetDC(link);
-    const LRESULT brush = SendMessageA(window, WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(screen),
-                                       reinterpret_cast<LPARAM>(link));
+    const HDC dc = GetDC(link);
+    const LRESULT brush =
+        SendMessageA(window, WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(dc), reinterpret_cast<LPARAM>(link));
     EXPECT_EQ(brush, reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_BTNFACE)));
-    EXPECT_EQ(GetTextColor(screen), GetSysColor(COLOR_HOTLIGHT));
-    EXPECT_EQ(GetBkMode(screen), TRANSPARENT);
-    ReleaseDC(link, screen);
+    EXPECT_EQ(GetTextColor(dc), GetSysColor(COLOR_HOTLIGHT));
+    EXPECT_EQ(GetBkMode(dc), TRANSPARENT);
+    ReleaseDC(link, dc);
 }
 
 TEST_F(Link, TurnsThePointerIntoACrosshairThatOtherControlsKeep) {
@@ -78,7 +79,7 @@ TEST_F(Link, TurnsThePointerIntoACrosshairThatOtherControlsKeep) {
         << "the border has pointers of its own";
 }
 
-TEST_F(Link, LosesTheCrosshairToTheBackground) {
+TEST_F(Link, LosesTheCrosshairWhenThePointerReachesTheBackground) {
     EXPECT_EQ(PointerOver(link, 5, 5), crosshair);
     EXPECT_EQ(PointerOver(window, PlaceOf(frame).right + 10, PlaceOf(frame).bottom - 10), arrow);
     EXPECT_EQ(PointerOver(frame, 4, 100), arrow);

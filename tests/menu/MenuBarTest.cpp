@@ -13,7 +13,7 @@ namespace {
 
 // Returns a line for each item: its caption, and the program or document that it opens while UB.mnu is shown,
 // or its number. The items of a popup follow its caption.
-std::string Listed(HMENU menu) {
+std::string ListItems(HMENU menu) {
     std::string lines;
     for (int i = 0; i < GetMenuItemCount(menu); ++i) {
         std::array<char, 100> caption{};
@@ -21,7 +21,7 @@ std::string Listed(HMENU menu) {
         const auto id = static_cast<int>(GetMenuItemID(menu, i));
         lines += caption.data();
         if (const HMENU popup = GetSubMenu(menu, i))
-            lines += ":\n" + Listed(popup);
+            lines += ":\n" + ListItems(popup);
         else if (const auto program = HostProgramOf(id))
             lines.append(" = ").append(*program).append("\n");
         else
@@ -34,10 +34,10 @@ UniqueMenu Load(int menu) {
     return UniqueMenu(LoadMenuA(Instance(), MAKEINTRESOURCEA(menu)));
 }
 
-TEST(MenuBar, HasItsItemsInOrder) {
+TEST(MenuBar, HasTheseItemsInOrder) {
     const UniqueMenu bar = Load(IDR_MENU_BAR);
     FillSystemList(bar.get(), {{"UB.mnu", "Utility"}, {"PR.mnu", "Payroll"}});
-    EXPECT_EQ(Listed(bar.get()), R"(System List:
+    EXPECT_EQ(ListItems(bar.get()), R"(System List:
 Utility = 400
 Payroll = 401
 &Core Programs:
@@ -64,11 +64,11 @@ A&bout Obrin = 314
 TEST(MenuBar, LeavesOutASystemListWithoutSystems) {
     const UniqueMenu bar = Load(IDR_MENU_BAR);
     FillSystemList(bar.get(), {});
-    EXPECT_TRUE(Listed(bar.get()).starts_with("&Core Programs:"));
+    EXPECT_TRUE(ListItems(bar.get()).starts_with("&Core Programs:"));
 }
 
 TEST(MenuBar, PopupOfTheTreeHasPropertiesAndHelp) {
-    EXPECT_EQ(Listed(Load(IDR_TREE_POPUP).get()), "TreeView Stuff:\n&Properties = 321\n&Help = 322\n");
+    EXPECT_EQ(ListItems(Load(IDR_TREE_POPUP).get()), "TreeView Stuff:\n&Properties = 321\n&Help = 322\n");
 }
 
 } // namespace

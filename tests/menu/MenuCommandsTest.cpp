@@ -7,7 +7,7 @@
 
 namespace obrin {
 
-// MenuBarTest.cpp has the program or document of every item of the menu bar.
+// MenuBarTest.cpp tests the program or document of every item of the menu bar.
 
 TEST(HostProgramOf, IsNothingForAnItemThatOpensADocument) {
     EXPECT_EQ(HostProgramOf(ID_BACKUP), "Core\\Programs\\CSBackup");

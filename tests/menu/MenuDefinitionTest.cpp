@@ -22,7 +22,7 @@ namespace {
 using test::IsLeadByte;
 using Entries = std::vector<MenuEntry>;
 using Kind = MenuFault::Kind;
-using Faults = std::vector<std::pair<int, Kind>>; // with their lines
+using Faults = std::vector<std::pair<int, Kind>>; // line and kind
 
 MenuEntry Heading(const char* text, std::size_t depth = 0, std::int16_t parent = 0) {
     return {.text = text, .key = "", .isProgram = false, .depth = depth, .parent = parent};
@@ -78,7 +78,9 @@ TEST(MenuDefinition, LinesBelowTheTitleAreEntries) {
          "A\r\nTop^K1\r\n>B^K2\r\n",
          {Heading("A"), Program("Top", "K1"), Program("B", "K2", 1, 1)}},
         {"a program loses every depth mark", "A>B^K>1>\r\n", {Program("AB", "K1")}},
-        {"a heading loses only the leading ones", "A>B\r\n>C>D\r\n", {Heading("A>B"), Heading("C>D", 1, 1)}},
+        {"a heading loses only its leading depth marks",
+         "A>B\r\n>C>D\r\n",
+         {Heading("A>B"), Heading("C>D", 1, 1)}},
         {"fields after the key are ignored", "A^K^x^y\r\n", {Program("A", "K")}},
         {"the second byte of a character ends no field",
          "\x81^\r\n>\x81^^UB\\\x81^^x",
@@ -92,30 +94,32 @@ TEST(MenuDefinition, LinesBelowTheTitleAreEntries) {
         EXPECT_EQ(EntriesOf(lines), entries) << rule;
 }
 
-TEST(MenuDefinition, FaultsHaveTheirLines) {
+TEST(MenuDefinition, ReportsEachFaultWithItsLine) {
     struct {
         const char* rule;
         const char* file;
         Faults faults;
     } const cases[] = {
-        {"a file has a header", "", {{1, Kind::NoHeader}}},
+        {"a file needs a header", "", {{1, Kind::NoHeader}}},
         {"an entry needs a heading one level up", "T\r\n>A^K\r\n", {{2, Kind::NoHeading}}},
-        {"a heading that is a fault is one all the same",
+        {"a heading with a fault can still be a parent",
          "T\r\nA\r\n>>>B\r\n>>C^K\r\n>>>>D^L\r\n",
          {{3, Kind::NoHeading}, {4, Kind::NoHeading}}},
         {"a heading closes the deeper ones",
          "T\r\nA\r\n>B\r\n>>C\r\n>D\r\n>>>E^K\r\n",
          {{6, Kind::NoHeading}}},
-        {"also at the top", "T\r\nA\r\n>B\r\nC\r\n>>E^K\r\n", {{5, Kind::NoHeading}}},
-        {"a key comes once; case matters", "T\r\nA^K\r\nB^k\r\nC^K\r\n", {{4, Kind::KeyTwice}}},
-        {"an empty key is no key", "T\r\nA^\r\nB^\r\n", {}},
-        {"a key is not a number", "T\r\nA^12\r\nB^12a\r\n", {{2, Kind::NumberAsKey}}},
+        {"a heading at the top closes all deeper ones",
+         "T\r\nA\r\n>B\r\nC\r\n>>E^K\r\n",
+         {{5, Kind::NoHeading}}},
+        {"a key may occur only once, and case matters", "T\r\nA^K\r\nB^k\r\nC^K\r\n", {{4, Kind::KeyTwice}}},
+        {"an empty key may occur twice", "T\r\nA^\r\nB^\r\n", {}},
+        {"a number is not allowed as a key", "T\r\nA^12\r\nB^12a\r\n", {{2, Kind::NumberAsKey}}},
     };
     for (const auto& [rule, file, faults] : cases)
         EXPECT_EQ(FaultsOf(file), faults) << rule;
 }
 
-TEST(MenuDefinition, DuplicateKeyNamesItsFirstLine) {
+TEST(MenuDefinition, DuplicateKeyRefersToTheLineThatUsedItFirst) {
     EXPECT_EQ(ParseMenuDefinition("T\r\nA^K\r\nB^L\r\nC^K\r\n", IsLeadByte).faults.at(0).firstLine, 2);
 }
 

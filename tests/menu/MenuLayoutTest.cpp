@@ -11,13 +11,14 @@ namespace {
 
 constexpr double infinite = std::numeric_limits<double>::infinity();
 
-// Round numbers, so that the sums can be followed.
+// A design in round numbers, which make the expected sums easy to follow.
 constexpr MenuLayout designed{.frame1 = {.left = 100, .top = 50, .width = 4000, .height = 3000},
                               .treeView1 = {.left = 10, .top = 20, .width = 3800, .height = 2700},
                               .command1 = {}};
 constexpr LayoutMargins margins{.height = 1000, .width = 1000, .treeWidth = 200, .treeHeight = 300};
 
-// The layout in a window of that outer size, whose frame takes 200 of the width and 500 of the height.
+// Returns the layout in a window of this outer size, whose borders take 200 of the width and 500 of the
+// height.
 MenuLayout At(Size outer, const ContentSizes& contents = {}) {
     return Resize(designed, margins, outer, {outer.width - 200, outer.height - 500}, contents);
 }
@@ -36,11 +37,11 @@ TEST(Resize, FrameAndTreeKeepTheirMarginsUnlessThereIsNoRoom) {
         Size outer;
         Size frame, tree;
     } const cases[] = {
-        {"for all", {9000, 8000}, {8000, 7000}, {7800, 6700}},
-        {"of one twip for the frame", {1001, 1001}, {1, 1}, {3800, 2700}},
-        {"for the margins of the frame only", {1000, 1000}, {4000, 3000}, {3800, 2700}},
-        {"of one twip for the tree", {1201, 1301}, {201, 301}, {1, 1}},
-        {"for the margins of the tree only", {1200, 1300}, {200, 300}, {3800, 2700}},
+        {"room for everything", {9000, 8000}, {8000, 7000}, {7800, 6700}},
+        {"room for one twip of the frame", {1001, 1001}, {1, 1}, {3800, 2700}},
+        {"room only for the margins of the frame", {1000, 1000}, {4000, 3000}, {3800, 2700}},
+        {"room for one twip of the tree", {1201, 1301}, {201, 301}, {1, 1}},
+        {"room only for the margins of the tree", {1200, 1300}, {200, 300}, {3800, 2700}},
     };
     for (const auto& [room, outer, frame, tree] : cases) {
         const MenuLayout layout = At(outer);
@@ -51,7 +52,7 @@ TEST(Resize, FrameAndTreeKeepTheirMarginsUnlessThereIsNoRoom) {
     }
 }
 
-TEST(Resize, CommandIsBelowTheTree) {
+TEST(Resize, ButtonIsBelowTheTree) {
     EXPECT_EQ(At({9000, 8000}).command1.top, 20 + 6700 + design::command1Gap);
 }
 
@@ -78,7 +79,7 @@ TEST(Resize, RightHandControlsMoveDownBelowTallText) {
     EXPECT_EQ(At({9000, 8000}, contents).image1.top, design::label2Top + 500 + 700);
 }
 
-TEST(Resize, LinkIsInTheInnerCorner) {
+TEST(Resize, LinkIsInTheLowerRightCornerOfTheInnerArea) {
     ContentSizes contents{};
     contents.label5 = {.width = 600, .height = 250};
     const MenuLayout layout = At({9000, 8000}, contents); // 8800 x 7500 inside
@@ -96,11 +97,11 @@ TEST(Resize, QuestionTouchesTheLinkOnTheLeft) {
 
 TEST(Resize, RefusesAnInfinitePosition) {
     EXPECT_THROW(RecordMargins({.width = infinite, .height = 4000}, designed), RunTimeError);
-    ContentSizes boundless{};
-    boundless.label1 = infinite;
+    ContentSizes infiniteTitle{};
+    infiniteTitle.label1 = infinite;
     EXPECT_THROW(At({infinite, 8000}), RunTimeError);
     EXPECT_THROW(At({9000, infinite}), RunTimeError);
-    EXPECT_THROW(At({9000, 8000}, boundless), RunTimeError);
+    EXPECT_THROW(At({9000, 8000}, infiniteTitle), RunTimeError);
 }
 
 } // namespace

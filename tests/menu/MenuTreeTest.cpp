@@ -26,23 +26,23 @@ protected:
     HTREEITEM First() const { return TreeView_GetRoot(window); }
     void Select(HTREEITEM node) const { TreeView_SelectItem(window, node); }
 
-    /// Clicks the right button now. The clicks that the tree then puts in get lost.
+    /// Discards the synthetic clicks of an earlier press, and then presses the right button.
     void RightClick() const {
         MSG message;
         while (PeekMessageA(&message, nullptr, WM_MOUSEFIRST, WM_MOUSELAST, PM_REMOVE))
             continue;
         PostMessageA(window, WM_APP, 0, 0);
-        PeekMessageA(&message, nullptr, WM_APP, WM_APP, PM_REMOVE); // the click gets its time
+        PeekMessageA(&message, nullptr, WM_APP, WM_APP, PM_REMOVE); // sets GetMessageTime for the press
         SendMessageA(window, WM_RBUTTONDOWN, 0, 0);
     }
 
     const HWND window = CreateWindowExA(WS_EX_TOPMOST, WC_TREEVIEWA, "", WS_POPUP | TVS_HASLINES, 0, 0, 200,
                                         50, nullptr, nullptr, nullptr, nullptr);
     MenuTree tree;
-    std::vector<Place> popUps; // where the popup was asked for
+    std::vector<Place> popUps; // the positions at which the tree asked for the popup
 };
 
-TEST_F(Tree, HangsEntriesBelowTheirHeadings) {
+TEST_F(Tree, PutsEntriesBelowTheirHeadings) {
     Fill("Billing\r>Post^K1\r>Reports\r>>Journal^K2\rBackup^K3");
     const HTREEITEM post = TreeView_GetChild(window, First());
     const HTREEITEM journal = TreeView_GetChild(window, TreeView_GetNextSibling(window, post));
@@ -66,7 +66,7 @@ TEST_F(Tree, IsCollapsedAndWithoutASelectionAtFirst) {
     EXPECT_EQ(tree.SelectedKey(), "");
 }
 
-TEST_F(Tree, IsPaintedWhenItIsFilled) {
+TEST_F(Tree, IsRepaintedAfterItIsFilled) {
     UpdateWindow(window);
     Fill("Backup^K");
     EXPECT_TRUE(GetUpdateRect(window, nullptr, FALSE));
@@ -82,33 +82,34 @@ TEST_F(Tree, NodesWithTextAndKeyArePrograms) {
 }
 
 TEST_F(Tree, MenuKeyAsksForThePopupBelowTheSelectedNode) {
-    Fill("A^1\rB^2\rC^3\rD^4\rE^5\rZ^6"); // more than there is room for
+    Fill("A^1\rB^2\rC^3\rD^4\rE^5\rZ^6"); // more nodes than fit
     Select(First());
-    SendMessageA(window, WM_CHAR, 'z', 1);       // selects the node that begins with it
-    SendMessageA(window, WM_VSCROLL, SB_TOP, 0); // out of sight
+    SendMessageA(window, WM_CHAR, 'z', 1);       // selects the node that begins with Z
+    SendMessageA(window, WM_VSCROLL, SB_TOP, 0); // scrolls the node out of view
     SendMessageA(window, WM_CONTEXTMENU, 0, -1);
     union {
         HTREEITEM item;
         RECT text;
     } place{TreeView_GetSelection(window)};
     SendMessageA(window, TVM_GETITEMRECT, TRUE, reinterpret_cast<LPARAM>(&place));
-    EXPECT_LE(place.text.bottom, 50) << "in sight";
+    EXPECT_LE(place.text.bottom, 50) << "the node must be scrolled into view";
     EXPECT_EQ(popUps, (std::vector<Place>{{place.text.left, place.text.bottom}}));
 }
 
-// The first click makes the tree put in two others: a left one, which selects the node, and a right one.
+// At the first click, the tree makes two synthetic ones: a left click, which selects the node, and a right
+// one.
 TEST_F(Tree, EverySecondRightClickAsksForThePopupAtThePointer) {
     RightClick();
     EXPECT_TRUE(popUps.empty());
     RightClick();
     EXPECT_EQ(popUps, (std::vector<Place>{{20, 30}}));
     RightClick();
-    EXPECT_EQ(popUps.size(), 1U) << "a first click again";
+    EXPECT_EQ(popUps.size(), 1U) << "the third click is a first one again";
 }
 
 TEST_F(Tree, LateRightClickIsAFirstOneAgain) {
     RightClick();
-    Sleep(GetDoubleClickTime() + 50); // the clicks that were put in got lost
+    Sleep(GetDoubleClickTime() + 50); // as if the synthetic clicks had got lost
     RightClick();
     EXPECT_TRUE(popUps.empty());
 }

@@ -1,5 +1,5 @@
-// The menu window: the places and looks of its controls, and where the focus goes. EveryWindowTest has what
-// it has in common with the other windows.
+// The menu window: the places and looks of its controls, and where the focus goes. EveryWindowTest tests what
+// all windows have in common.
 
 #include "menu/MenuWindowTest.h"
 #include "common/Twips.h"
@@ -23,7 +23,7 @@ protected:
 
 TEST_F(MenuWindow, OpensAsDesigned) {
     if (GetDpiForWindow(window) != USER_DEFAULT_SCREEN_DPI)
-        GTEST_SKIP() << "The places are those of a screen of 96 DPI.";
+        GTEST_SKIP() << "The expected places are for a screen of 96 DPI.";
     const std::pair<HWND, RECT> places[] = {
         {frame, {10, 8, 410, 488}}, {tree, {10, 28, 390, 432}}, {button, {10, 440, 130, 468}}};
     for (const auto& [control, designed] : places) {
@@ -40,7 +40,7 @@ TEST_F(MenuWindow, OpensAsDesigned) {
     EXPECT_EQ(PlaceOf(picture).top, 120);
 }
 
-// MenuLayoutTest has the rules.
+// MenuLayoutTest tests the rules in detail.
 TEST_F(MenuWindow, ControlsFollowItsSize) {
     const SIZE before = SizeOf(PlaceOf(window)), frameBefore = SizeOf(PlaceOf(frame));
     Resize(before.cx + 200, before.cy + 100);
@@ -59,7 +59,7 @@ TEST_F(MenuWindow, ControlsFollowItsSize) {
     }
 }
 
-TEST_F(MenuWindow, LinkAndItsLabelComeBeforeTheFrameAfterAResize) {
+TEST_F(MenuWindow, LinkAndQuestionAreInFrontOfTheFrameAfterAResize) {
     for (const HWND control : {frame, link})
         SetWindowPos(control, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
     Resize(1000, 700);
@@ -82,19 +82,19 @@ TEST_F(MenuWindow, IsCentredOnItsScreenAndNoLargerThanIt) {
 
 TEST_F(MenuWindow, HasTheFontsOfItsDesign) {
     MoveToScreenOf(96);
-    EXPECT_EQ(FontOf(title), "Comic Sans MS-24b") << "bold";
+    EXPECT_EQ(FontOf(title), "Comic Sans MS-24b") << "24 pixels, bold";
     EXPECT_EQ(FontOf(question), "Georgia-13");
     EXPECT_EQ(FontOf(link), "Georgia-13u") << "underlined";
     EXPECT_EQ(FontOf(button), "MS Sans Serif-11");
 }
 
-TEST_F(MenuWindow, PictureIsScaledSmoothlyToTheDpi) {
+TEST_F(MenuWindow, PictureIsScaledSmoothlyToAHigherDpi) {
     MoveToScreenOf(144);
     EXPECT_EQ(SizeOf(PlaceOf(picture)).cx, 180);
     const UniqueDc memory(CreateCompatibleDC(nullptr));
     const LRESULT image = SendMessageA(picture, STM_GETIMAGE, IMAGE_BITMAP, 0);
     const HGDIOBJ old = SelectObject(memory.get(), reinterpret_cast<HBITMAP>(image));
-    bool hasGrey = false; // in the last line of a picture of black and white
+    bool hasGrey = false; // in the last row; the file has only black and white
     for (int x = 0; x < 180; ++x) {
         const COLORREF pixel = GetPixel(memory.get(), x, 134);
         hasGrey = hasGrey || (pixel != CLR_INVALID && pixel != RGB(0, 0, 0) && pixel != RGB(255, 255, 255));
@@ -103,9 +103,9 @@ TEST_F(MenuWindow, PictureIsScaledSmoothlyToTheDpi) {
     SelectObject(memory.get(), old);
 }
 
-TEST_F(MenuWindow, ShowsLevelsAndTheSelectionAndCanBeSized) {
+TEST_F(MenuWindow, ShowsTreeLinesAndTheSelectionAndCanBeResized) {
     EXPECT_TRUE(HasStyle(tree, TVS_HASLINES | TVS_LINESATROOT | TVS_HASBUTTONS));
-    EXPECT_TRUE(HasStyle(tree, TVS_SHOWSELALWAYS)) << "the program that the button would run";
+    EXPECT_TRUE(HasStyle(tree, TVS_SHOWSELALWAYS)) << "to show which program the button would run";
     EXPECT_TRUE(HasStyle(window, WS_OVERLAPPEDWINDOW));
 }
 

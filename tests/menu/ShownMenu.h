@@ -1,5 +1,5 @@
-// The menu window in this process, so that a test can send it what Windows sends, and ask its controls what
-// only their own process may ask.
+// The menu window in this process. A test can send it the messages of Windows, also those that work only
+// within one process.
 #pragma once
 
 #include "common/Installation.h"
@@ -26,14 +26,14 @@ public:
     ShownMenu& operator=(const ShownMenu&) = delete;
     ~ShownMenu() {
         SendMessageA(menu.Window(), WM_CLOSE, 0, 0);
-        RunEvents(); // the closed window has asked to end the program
+        RunEvents(); // removes the quit message that closing the menu has posted
         DestroyWindow(station);
     }
 
     HWND Window() const { return menu.Window(); }
 
 private:
-    // The host's window, which the menu finds, with a child, into which it types.
+    // A stand-in for the host's window. The menu finds it and types into its child.
     static HWND MakeStation() {
         WNDCLASSA hostClass{};
         hostClass.lpfnWndProc = DefWindowProcA;
