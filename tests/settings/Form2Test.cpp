@@ -9,7 +9,7 @@ namespace {
 struct ClosedProperties : test::WindowTest {
     ~ClosedProperties() override { DestroyWindow(dialog); }
 
-    /// Opens the dialog modeless, so that the test can go on. A dialog that closes itself is then hidden.
+    /// Opens the dialog modeless, so that the test can go on. EndDialog then only hides the dialog.
     void Open() {
         DestroyWindow(dialog);
         form.emplace(corvel, programKey).ShowModeless(owner, IDD_PROPERTIES);
@@ -29,7 +29,7 @@ struct ClosedProperties : test::WindowTest {
         return ReadFileBytes(path).find(line + "\r\n") != std::string::npos;
     }
 
-    std::string programKey = "Core\\Programs\\CSBackup"; // the tree's
+    std::string programKey = "Core\\Programs\\CSBackup"; // of the program in the tree
     const std::string path = folder.path.string() + "\\Ini\\Core\\Programs\\CSBackup.ini";
     std::optional<Form2> form;
     HWND dialog = nullptr;
@@ -69,7 +69,7 @@ TEST_F(ClosedProperties, ShowTheCodeOfTheLastSystemReadOnly) {
     EXPECT_TRUE(test::HasStyle(Control(IDC_TXT_SYSTEM), ES_READONLY));
 }
 
-// The platform would need half a minute to lay out the whole value.
+// A box would need half a minute to show the whole value.
 TEST_F(ClosedProperties, ShowAsMuchOfAValueAsCanBeTypedAndKeepTheRest) {
     const std::string large(10'000'000, 'x');
     WriteDefaultSettings(path, "");
@@ -103,7 +103,7 @@ TEST_F(Properties, ProgramOfTheTreeIsSavedNotTheTextOfTheBox) {
     SetText(IDC_TXT_PROGRAM_NAME, "edited");
     programKey = "Core\\Other";
     Press(IDC_APPLY);
-    EXPECT_TRUE(FileHas("Program           =     Core\\Other")) << "in the file of the opening";
+    EXPECT_TRUE(FileHas("Program           =     Core\\Other")) << "in the file that was opened";
 }
 
 TEST_F(Properties, RestoreDefaultsUsesThePathOfTheFileAsProgramName) {
@@ -126,7 +126,7 @@ struct Pages : Properties {
     }
 };
 
-TEST_F(Pages, OpenOnTheFirstOneWithTheKeyboardOnTheTabs) {
+TEST_F(Pages, OpenOnTheFirstOneWithTheFocusOnTheTabs) {
     EXPECT_EQ(GetWindow(dialog, GW_CHILD), Page(0)) << "in front";
     EXPECT_EQ(GetFocus(), Control(IDC_TABSTRIP1));
 }
@@ -142,7 +142,7 @@ TEST_F(Pages, TabBringsItsPageToTheFrontAndHidesTheOneBefore) {
     }
 }
 
-TEST_F(Pages, KeyboardLeavesAPageThatIsHidden) {
+TEST_F(Pages, FocusMovesToTheTabsFromAPageThatIsHidden) {
     SetFocus(Control(IDC_TXT_HELP_FILE));
     SelectTab(1);
     EXPECT_EQ(GetFocus(), Control(IDC_TABSTRIP1));
@@ -171,13 +171,13 @@ struct Orientation : Properties {
     std::string Paper() const { return Text(IDC_TXT_HEIGHT) + " x " + Text(IDC_TXT_WIDTH); }
 };
 
-TEST_F(Orientation, SwapsHeightAndWidthWhenItDiffersFromTheOneAtOpeningTheList) {
+TEST_F(Orientation, SwapsHeightAndWidthUnlessItIsTheOneWhenTheListOpened) {
     OpenList();
     Press(VK_DOWN);
     EXPECT_EQ(Text(IDC_CMB_ORIENTATION), "Landscape");
     EXPECT_EQ(Paper(), "8.500 x 11.000");
     Press(VK_UP);
-    EXPECT_EQ(Paper(), "8.500 x 11.000") << "Portrait, on which the list was opened";
+    EXPECT_EQ(Paper(), "8.500 x 11.000") << "Portrait again, as when the list was opened: no swap";
     Press(VK_DOWN);
     EXPECT_EQ(Paper(), "11.000 x 8.500") << "still compared with Portrait";
 }
@@ -203,43 +203,43 @@ struct Margins : Properties {
     LRESULT Slider() const { return Send(IDC_SLD_MARGIN, TBM_GETPOS); }
 };
 
-// Whenever the slider moves, the dialog replaces the text of the box while the user types.
-TEST_F(Margins, AreTypedKeyByKey) {
+// When typing moves the slider, the dialog writes the slider's value into the box. When the focus leaves the
+// box, the dialog does so only if the text is that number, or a number above the largest margin.
+TEST_F(Margins, FollowEachTypedKey) {
     struct {
         const char* typed;
         const char* box;
         LRESULT slider;
-        const char*
-            boxWhenLeft; // the slider's value, if the box holds that number or one above the largest margin
+        const char* boxWithoutFocus;
     } const cases[] = {
         {"0.25", "0.25", 250, "0.25"}, {"0.500", "0.500", 500, "0.5"},       {".75", "0.75", 750, "0.75"},
         {"01.5", "1.5", 1500, "1.5"},  {"2.0501", "2.0501", 2050, "2.0501"}, // finer than the slider
-        {"7.5", "4.5", 4000, "4"},   // at the "7" the slider has reached its end
+        {"7.5", "4.5", 4000, "4"},   // "7" moves the slider to its end, and the box to "4"
         {"0.1", "0.1", 4000, "0.1"}, // below the smallest margin: the slider stays
         {"abc", "abc", 4000, "abc"},
     };
-    for (const auto& [typed, box, slider, boxWhenLeft] : cases) {
+    for (const auto& [typed, box, slider, boxWithoutFocus] : cases) {
         Type(typed);
         EXPECT_EQ(Box(), box) << typed;
         EXPECT_EQ(Slider(), slider) << typed;
         SetFocus(Control(IDC_SLD_MARGIN));
-        EXPECT_EQ(Box(), boxWhenLeft) << typed;
+        EXPECT_EQ(Box(), boxWithoutFocus) << typed;
     }
 }
 
-TEST_F(Margins, TypedOneIsPaintedOnTheSlider) {
+TEST_F(Margins, TypingRepaintsTheSlider) {
     UpdateWindow(Control(IDC_SLD_MARGIN));
     Type("2");
     EXPECT_TRUE(GetUpdateRect(Control(IDC_SLD_MARGIN), nullptr, FALSE));
 }
 
-TEST_F(Margins, SlidersValueIsSavedNotTheText) {
+TEST_F(Margins, ValueOfTheSliderIsSavedNotTheText) {
     Type("0.1");
     Press(IDC_APPLY);
     EXPECT_TRUE(FileHas("TopMargin         =     0.5"));
 }
 
-TEST_F(Margins, SliderWritesItsBox) {
+TEST_F(Margins, KeysOfTheSliderChangeItsBox) {
     Send(IDC_SLD_MARGIN + 3, WM_KEYDOWN, VK_RIGHT);
     EXPECT_EQ(Text(IDC_TXT_MARGIN + 3), "0.51") << "a hundredth more";
     Send(IDC_SLD_MARGIN + 3, WM_KEYDOWN, VK_NEXT);
@@ -252,7 +252,7 @@ TEST_F(Margins, EndOfASliderDragKeepsTheTypedText) {
     EXPECT_EQ(Box(), "0.50");
 }
 
-TEST_F(Margins, SliderTellsItsValueInATip) {
+TEST_F(Margins, SliderShowsItsValueInATooltip) {
     const HWND tips = test::FindTopWindow([this](HWND window) {
         return test::HasClass(window, TOOLTIPS_CLASSA) && GetWindow(window, GW_OWNER) == dialog;
     });
@@ -265,7 +265,7 @@ TEST_F(Margins, SliderTellsItsValueInATip) {
     Send(IDC_SLD_MARGIN, WM_KEYDOWN, VK_RIGHT);
     SendMessageA(tips, TTM_GETTOOLINFOA, 0, reinterpret_cast<LPARAM>(&tip));
     EXPECT_STREQ(text.data(), "0.51");
-    EXPECT_TRUE(tip.uFlags & TTF_SUBCLASS) << "where the pointer rests on the slider";
+    EXPECT_TRUE(tip.uFlags & TTF_SUBCLASS) << "the tooltip must appear when the pointer rests on the slider";
 }
 
 } // namespace

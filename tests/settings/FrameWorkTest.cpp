@@ -38,10 +38,10 @@ TEST(EnsurePath, CreatesTheMissingFoldersOutermostFirst) {
         {"a drive is not needed", R"(\Ini\a.ini)", {R"(\Ini\)"}},
         {"starts after the server", R"(\\server\share\a.ini)", {R"(\\server\share\)"}},
         {"a last component with a dot is a file", R"(C:\Data\Old.files)", {R"(C:\Data\)"}},
-        {"one without a dot is a folder", R"(C:\a.b\New)", {R"(C:\a.b\)", R"(C:\a.b\New\)"}},
+        {"a last component without a dot is a folder", R"(C:\a.b\New)", {R"(C:\a.b\)", R"(C:\a.b\New\)"}},
         {"a slash separates nothing", R"(C:\a/b\c.d/e)", {R"(C:\a/b\)"}},
-        {"nor the second byte of a character", "C:\\a\x81\\b\\c.\x81\\d", {"C:\\a\x81\\b\\"}},
-        {"nor that in the server's name", "\\\\a\x81\\b\\share", {"\\\\a\x81\\b\\share\\"}},
+        {"the second byte of a character separates nothing", "C:\\a\x81\\b\\c.\x81\\d", {"C:\\a\x81\\b\\"}},
+        {"the same in a server's name", "\\\\a\x81\\b\\share", {"\\\\a\x81\\b\\share\\"}},
     };
     for (const auto& [rule, path, created] : cases) {
         Disk disk;

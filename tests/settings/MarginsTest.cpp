@@ -28,7 +28,7 @@ TEST(Margin, IsTheNumberAtTheStartOfATextInThousandthsOfAnInch) {
 TEST(EqualsMargin, IsTrueForEveryWayOfWritingTheMargin) {
     for (const char* text : {"0.35", ".35", "0.350", "0.35 in"})
         EXPECT_TRUE(EqualsMargin(text, 350)) << text;
-    EXPECT_FALSE(EqualsMargin("2.0501", 2050)) << "only near";
+    EXPECT_FALSE(EqualsMargin("2.0501", 2050)) << "the slider has no such value";
 }
 
 TEST(EqualsMargin, TreatsALargerNumberAsTheLargestMargin) {

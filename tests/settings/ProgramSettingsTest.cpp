@@ -9,7 +9,7 @@
 namespace obrin {
 namespace {
 
-// The value that a file gives a setting.
+// Returns the value of a setting in a file.
 std::optional<std::string> ValueOf(std::string_view key, std::string_view file) {
     const auto setting = std::ranges::find(settings, key, &Setting::key);
     return ParseSettings(file, "a.ini").at(static_cast<std::size_t>(setting - settings.begin()));
@@ -51,8 +51,8 @@ TEST(ParseSettings, ReadsAValueOnEachLine) {
         std::optional<std::string> lines;
     } const cases[] = {
         {"CR LF ends a line", "Width=8.5\r\nLines=54\r\nHeight=11", "54"},
-        {"so does a CR", "Width=8.5\rLines=54\rHeight=11", "54"},
-        {"and an LF", "Width=8.5\nLines=54\nHeight=11", "54"},
+        {"a lone CR ends a line", "Width=8.5\rLines=54\rHeight=11", "54"},
+        {"a lone LF ends a line", "Width=8.5\nLines=54\nHeight=11", "54"},
         {"key and value are trimmed", "  Lines  =  7 8  \r\n", "7 8"},
         {"a value may be empty", "Lines =\r\n", ""},
         {"a second equals sign ends the value", "Lines = a=b=c\r\n", "a"},
