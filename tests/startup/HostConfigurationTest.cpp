@@ -27,7 +27,7 @@ TEST(BlankDriveLines, EndsEveryLineInCrLf) {
 
 TEST(AddDriveLine, PutsTheDriveLineFirst) {
     EXPECT_EQ(AddDriveLine("C:\\APPS\\HOST", "Files 1\r\n"), "Drive S,C:\\APPS\\HOST,X,\\\r\nFiles 1\r\n");
-    EXPECT_EQ(AddDriveLine("", ""), "Drive S,,X,\\\r\n") << "also of an unknown folder";
+    EXPECT_EQ(AddDriveLine("", ""), "Drive S,,X,\\\r\n") << "the folder is unknown";
 }
 
 TEST(AddDriveLine, DropsOnlyBlankLines) {

@@ -11,7 +11,7 @@ namespace {
 
 using Codes = std::vector<std::uint8_t>;
 
-TEST(HostKeyCodes, AreThoseOfTheCharacters) {
+TEST(HostKeyCodes, FollowTheCharactersOfTheCommand) {
     struct {
         const char* rule;
         const char* command;
@@ -19,15 +19,15 @@ TEST(HostKeyCodes, AreThoseOfTheCharacters) {
     } const cases[] = {
         {"letters become upper case", "aZ9 .\xFF", {'A', 'Z', '9', ' ', '.', 255}},
         {"a backslash is the key 220", "\\a\\", {220, 'A', 220}},
-        {"a character of two bytes is two codes", "\x81\\\\", {0x81, '\\', 220}},
-        {"CR LF is one Enter key", "a\r\nb\r\r\n", {'A', 13, 'B', 13, 13}},
-        {"a lone LF is its own code", "\na\nb", {10, 'A', 10, 'B'}},
+        {"a two-byte character is two codes, even with a backslash", "\x81\\\\", {0x81, '\\', 220}},
+        {"CR LF and a lone CR are one Enter key each", "a\r\nb\r\r\n", {'A', 13, 'B', 13, 13}},
+        {"a lone LF is sent as code 10", "\na\nb", {10, 'A', 10, 'B'}},
     };
     for (const auto& [rule, command, codes] : cases)
         EXPECT_EQ(HostKeyCodes(command, test::UpperCase, test::IsLeadByte), codes) << rule;
 }
 
-TEST(HostKeyCodes, BackslashIsTheKey220WhereThatIsALowerCaseLetter) {
+TEST(HostKeyCodes, BackslashIsKey220EvenIf220IsALowerCaseLetter) {
     const UpperCaser greek = [](std::string text) {
         std::ranges::replace(text, '\xDC', '\xA2');
         return text;
@@ -43,7 +43,7 @@ TEST(StartSystemCommand, AnswersTheStartProgramWithTheSystemCode) {
     EXPECT_EQ(StartSystemCommand("UB"), "Load Core\\StartSys\rRun\rUB\r");
 }
 
-TEST(HostStartArguments, HaveThePlainNumber) {
+TEST(HostStartArguments, HaveTheNumberWithoutALeadingZero) {
     EXPECT_EQ(HostStartArguments(5), "run core\\start -5");
 }
 

@@ -6,7 +6,7 @@
 
 namespace obrin {
 
-// The rules of the rewriting have their own tests.
+// HostConfigurationTest tests how the text changes.
 TEST(StartUp, RewritesTheConfigurationBeforeItShowsTheMenu) {
     const test::ScratchFolder folder;
     CreateFolder("Core");
@@ -20,7 +20,7 @@ TEST(StartUp, RewritesTheConfigurationBeforeItShowsTheMenu) {
               }});
         EXPECT_EQ(seen, "Drive S," + ShortPath(CurrentFolder()) + ",X,\\\r\nFiles 1\r\n\xE4last\r\n");
         EXPECT_EQ(ReadFileBytes("Core\\TempOut.tmp"), "\r\nFiles 1\r\n\xE4last\r\n");
-        // The next start need not write it, and nobody may.
+        // From now on, nobody may write the file. The next start must see that it is right already.
         reader.reset(
             CreateFileA("FennConfig.Sys", GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
     }

@@ -16,12 +16,12 @@ TEST(UserWsidRecord, CutsALongName) {
     EXPECT_EQ(UserWsidRecord(std::string(120, 'n'), 42).substr(0, 101), std::string(100, 'n') + '\x2A');
 }
 
-TEST(ReadUserRecords, ReadsNumbersOfTwoBytesWithTheirSign) {
+TEST(ReadUserRecords, ReadsSigned16BitNumbers) {
     EXPECT_EQ(ReadUserRecords(UserWsidRecord("anna", 300)).at(0).wsid, 300);
     EXPECT_EQ(ReadUserRecords(UserWsidRecord("anna", -2)).at(0).wsid, -2);
 }
 
-TEST(ReadUserRecords, LastSlotMayEndAfterItsNumber) {
+TEST(ReadUserRecords, LastRecordMayEndAfterItsNumber) {
     EXPECT_EQ(ReadUserRecords(anna + bert.substr(0, 102)).size(), 2U);
     EXPECT_EQ(ReadUserRecords(anna + bert.substr(0, 101)).size(), 1U) << "a fragment is no record";
 }
