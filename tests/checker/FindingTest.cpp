@@ -22,6 +22,10 @@ TEST(Report, DescribesTheEffectOfAFindingWithoutAConsequence) {
               "A: warning: p: the Properties dialog ends the menu with an error; r\r\n");
 }
 
+TEST(Report, PrefersTheConsequenceOfAFindingToItsEffect) {
+    EXPECT_EQ(Report({{Effect::EndsEveryStart, {"A", 0}, {"p", "r"}, "c"}}), "A: error: p: c; r\r\n");
+}
+
 TEST(Report, KeepsAFindingWithControlCharactersOnOneLine) {
     EXPECT_EQ(Report({{Effect::None, {"A\x1B", 0}, {"p\r\n\x7F\xE4", "r"}, "c"}}),
               "A?: warning: p???\xE4: c; r\r\n");

@@ -90,7 +90,7 @@ TEST(IsWholeBitmap, RefusesAWrongHeader) {
         {"pixels that start inside the header", {.pixelOffset = 53}},
         {"pixels that start inside the palette", {.pixelOffset = 54 + 7, .bits = 1}},
         {"header of unknown size", {.headerBytes = 13}},
-        {"header that is longer than the space before the pixels", {.headerBytes = 0xFFFFFFF0}},
+        {"header that is longer than the space before the pixels", {.headerBytes = 0xFFFFFFF8}},
         {"unknown number of bits", {.bits = 15}},
         {"unknown compression", {.compression = 4, .compressedBytes = 8}},
         {"more colours than the bits can number", {.pixelOffset = 2000, .bits = 4, .colours = 17}},

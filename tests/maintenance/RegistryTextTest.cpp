@@ -28,7 +28,7 @@ TEST(RegistryText, NumberIsWrittenInDecimal) {
         const char* text;
     } const cases[] = {
         {"the lowest byte comes first", "\xFE\xFF\xFF\x7F"s, "2147483646"},
-        {"a NUL at the end changes nothing", "\x05\0"s, "5"},
+        {"a NUL at the end is removed", "\0"s, "&h"},
         {"zero", "\0\0\0\0"s, "0"},
         {"hexadecimal 105 loses the zero of its byte 05", "\x05\x01\0\0"s, "21"},
         {"hexadecimal 1000 loses a zero of its byte 00", "\0\x10\0\0"s, "256"},
