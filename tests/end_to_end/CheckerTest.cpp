@@ -49,14 +49,14 @@ public:
             WriteFileBytes(file, "x");
         SetEnvironmentVariableA("TesselTemp", (CurrentFolder() + "\\Temp").c_str());
     }
-    ~SoundInstallation() { EndFaults(); }
+    ~SoundInstallation() { ReleaseFiles(); }
 };
 
-using Files = std::map<std::string, std::pair<std::filesystem::file_time_type, std::uintmax_t>>;
+using FileList = std::map<std::string, std::pair<std::filesystem::file_time_type, std::uintmax_t>>;
 
-// Everything in the current folder, with times and sizes.
-Files Everything() {
-    Files files;
+// Returns all files and folders below the current folder, with times and sizes.
+FileList ListFiles() {
+    FileList files;
     for (const auto& entry : std::filesystem::recursive_directory_iterator("."))
         files[entry.path().string()] = {entry.last_write_time(),
                                         entry.is_directory() ? 0 : entry.file_size()};
@@ -96,20 +96,21 @@ bool KeepsConfiguration() {
 }
 
 void CompareWithMenu(const std::vector<FaultyInstallation>& rows) {
-    for (const auto& [name, breakIt, expected, menuIsTried] : rows) {
+    for (const auto& [name, makeFault, expected, runsCheckerOnly] : rows) {
         SCOPED_TRACE(name);
         const SoundInstallation installation;
-        breakIt();
-        const Files before = Everything();
+        makeFault();
+        const FileList before = ListFiles();
         const Findings findings = Check();
-        EXPECT_EQ(before, Everything()) << "the checker must change nothing";
+        EXPECT_EQ(before, ListFiles()) << "the checker must change nothing";
         EXPECT_EQ(Simplify(findings), expected);
-        if (!menuIsTried)
+        if (runsCheckerOnly)
             continue;
         const Effect predicted = PredictedEffect(findings);
         Effect done = TryMenu(predicted);
+        // The menu shows the first system when it starts, so a fault in that one ends every start.
         if (predicted == Effect::EndsShownSystem && done == Effect::EndsEveryStart)
-            done = predicted; // the start shows the first system
+            done = predicted;
         EXPECT_EQ(done, predicted);
         EXPECT_TRUE(KeepsConfiguration()) << "the menu must keep the line Files 120";
     }
@@ -121,32 +122,33 @@ TEST(Checker, FindsNothingInASoundInstallation) {
     EXPECT_EQ(TryMenu(Effect::None), Effect::None);
 }
 
-TEST(Checker, PredictsTheMenuWithFaultyMenuFiles) {
+TEST(Checker, PredictsTheEffectOfFaultyMenuFiles) {
     CompareWithMenu(FaultyMenuFiles());
 }
 
-TEST(Checker, PredictsTheMenuWithRememberedSystems) {
+TEST(Checker, PredictsTheEffectOfRememberedSystems) {
     if (!MayRememberSystem())
         GTEST_SKIP() << "this user may not write the menu's key of the registry";
     CompareWithMenu(RememberedSystems());
 }
 
-TEST(Checker, PredictsTheMenuWithFaultyFiles) {
+TEST(Checker, PredictsTheEffectOfFaultyFiles) {
     CompareWithMenu(FaultyFiles());
 }
 
-TEST(Checker, PredictsTheMenuWithFaultySettings) {
+TEST(Checker, PredictsTheEffectOfFaultySettings) {
     CompareWithMenu(FaultySettings());
 }
 
 void ExpectLine(const Findings& findings, const std::string& line) {
     const std::string report = Report(findings);
-    EXPECT_NE(report.find(line + "\r\n"), std::string::npos) << line << '\n' << report;
+    EXPECT_NE(report.find(line + "\r\n"), std::string::npos) << "Missing: " << line << "\nReport:\n"
+                                                             << report;
 }
 
-TEST(Checker, PredictsTheMenuWithTooManySystems) {
+TEST(Checker, PredictsTheEffectOfTooManySystems) {
     const SoundInstallation installation;
-    for (int i = 1; i <= 99; ++i) // beside UB.mnu
+    for (int i = 1; i <= 99; ++i) // 100 with UB.mnu
         WriteFileBytes(std::to_string(i) + ".mnu", "T");
     const Findings findings = Check();
     ExpectLine(findings,
@@ -158,7 +160,7 @@ TEST(Checker, PredictsTheMenuWithTooManySystems) {
 TEST(Checker, WarnsOfAFolderWithoutAShortForm) {
     const SoundInstallation installation;
     std::string deep = "deep";
-    while (FullPath(deep).size() <= 200) // the short form may have 163 characters
+    while (FullPath(deep).size() <= 200) // a short form has at most 163 characters
         deep += "\\deeper";
     std::filesystem::create_directories(deep);
     ExpectLine(CheckPaths({deep}, false, [](std::size_t, std::size_t) {}).findings,
@@ -167,7 +169,7 @@ TEST(Checker, WarnsOfAFolderWithoutAShortForm) {
                       "without them");
 }
 
-TEST(Checker, WarnsWithoutAFolderForSettings) {
+TEST(Checker, WarnsIfNoFolderForSettingsIsSet) {
     const SoundInstallation installation;
     SetEnvironmentVariableA(temporaryFolderVariable, nullptr);
     ExpectLine(Check(), "TesselTemp: warning: this variable is not set here: the Properties dialog keeps "

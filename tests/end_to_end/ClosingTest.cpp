@@ -7,7 +7,7 @@ namespace {
 
 struct Closing : testing::Test {
     Closing() {
-        // The host handles this command for half a second.
+        // The host takes half a second for this command.
         SetEnvironmentVariableA("FENN_HANG", "LOAD CORE\\PROGRAMS\\CSBACKUP");
         SetEnvironmentVariableA("FENN_HANG_MS", "500");
         menu.emplace();
@@ -27,7 +27,7 @@ TEST_F(Closing, EndsTheHostAndRemovesTheMarkerFile) {
     EXPECT_FALSE(FileExists("Menu 5.txt"));
 }
 
-TEST_F(Closing, NeedsNoHost) {
+TEST_F(Closing, WorksAfterTheHostHasEnded) {
     installation.EndHost();
     menu->Close();
     EXPECT_EQ(menu->ExitCode(), 0);
@@ -53,13 +53,13 @@ TEST_F(Closing, CancelledEndOfTheSessionLeavesTheMenuOpen) {
 TEST(ErrorBox, EndsTheMenuWithoutTheOrderlyClose) {
     const Installation installation(5);
     DeleteFileA("Updated.txt");
-    CreateFolder("Updated.txt"); // running a program fails
+    CreateFolder("Updated.txt"); // makes running a program fail
     const RunningMenu menu;
     ASSERT_TRUE(installation.HostGetsLast("UB"));
     menu.Command(IDC_COMMAND1);
     EXPECT_NE(menu.Texts("ObrinMenu").find("Updated.txt"), std::string::npos) << menu.Texts("ObrinMenu");
     EXPECT_FALSE(IsWindowEnabled(menu.Window()));
-    SendMessageA(menu.Window(), WM_CLOSE, 0, 0); // has no effect any more
+    SendMessageA(menu.Window(), WM_CLOSE, 0, 0); // has no effect while the error is shown
     menu.Press("ObrinMenu", IDOK);
     EXPECT_EQ(menu.ExitCode(), 1);
     EXPECT_TRUE(installation.HostGetsLast("UB")) << "the menu must not send the exit command";

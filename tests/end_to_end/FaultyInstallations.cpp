@@ -16,7 +16,7 @@ const std::string isFile = "a file has the name of this folder";
 const std::string csBackupSettings = "Temp\\Ini\\Core\\Programs\\CSBackup.ini";
 const std::string settingsPlace = "HERE\\" + csBackupSettings;
 
-std::vector<HANDLE> held;
+std::vector<HANDLE> heldFiles;
 
 void Write(const std::string& path, const std::string& bytes) {
     WriteFileBytes(path, bytes);
@@ -50,10 +50,10 @@ void SetAttributes(const std::string& path, DWORD attributes) {
 
 // Keeps the file open as another program may do. `sharing` is what others may do meanwhile (FILE_SHARE_...).
 void Hold(const std::string& path, DWORD sharing = 0) {
-    held.push_back(CreateFileA(path.c_str(), GENERIC_READ, sharing, nullptr, OPEN_EXISTING, 0, nullptr));
+    heldFiles.push_back(CreateFileA(path.c_str(), GENERIC_READ, sharing, nullptr, OPEN_EXISTING, 0, nullptr));
 }
 
-void Set(const char* variable, const std::string& value) {
+void SetVariable(const char* variable, const std::string& value) {
     SetEnvironmentVariableA(variable, value.c_str());
 }
 
@@ -75,7 +75,7 @@ void WriteSettings(const std::string& bytes) {
 }
 
 // For faults that do not stop the menu, that Wine treats differently, or with which the menu cannot be tried.
-constexpr bool checkerOnly = false;
+constexpr bool checkerOnly = true;
 constexpr bool is64 = sizeof(void*) == 8;
 
 } // namespace
@@ -119,23 +119,23 @@ std::vector<FaultyInstallation> FaultyMenuFiles() {
         {"a key that leads out of the settings folder",
          [] { WriteMenu("T\r\nA^..\\K"); },
          {{"UB.mnu:2", None, "the key ..\\K holds \"..\""}}},
-        {"a second system with a fault",
+        {"a second menu file with a fault",
          [] { Write("ZZ.mnu", "T\r\n>A^K"); },
          {{"Help\\ZZ\\Index.html", None, "missing"}, {"ZZ.mnu:2", EndsShownSystem, noHeading}}},
-        {"a hidden system with a fault",
+        {"a hidden menu file with a fault",
          [] {
              Write("ZZ.mnu", "T\r\n>A^K");
              SetAttributes("ZZ.mnu", FILE_ATTRIBUTE_HIDDEN);
          },
          {{"ZZ.mnu", None, "hidden or a system file"}, {"ZZ.mnu:2", None, noHeading}}},
-        {"a system marked as a system file, which another program holds",
+        {"a menu file with the system attribute that another program holds",
          [] {
              Write("ZZ.mnu", "T");
              SetAttributes("ZZ.mnu", FILE_ATTRIBUTE_SYSTEM);
              Hold("ZZ.mnu");
          },
          {{"ZZ.mnu", None, isHeld}, {"ZZ.mnu", None, "hidden or a system file"}}},
-        {"a file name in capitals",
+        {"a name that ends in .MNU",
          [] { Write("ZZ.MNU", "T"); },
          {{"ZZ.MNU", None, "the name does not end in .mnu in small letters"}}},
         {"a folder with the name of a menu file",
@@ -216,7 +216,7 @@ std::vector<FaultyInstallation> FaultyFiles() {
         {"a folder in the place of the host",
          [] { PutFolderInPlaceOf(hostProgram); },
          {{"Fenn.exe", WaitsForEver, isFolder}},
-         checkerOnly}, // Windows shows what is in the folder
+         checkerOnly}, // Windows would show the contents of the folder
         {"an empty menu program",
          [] { Write(menuProgram, ""); },
          {{"ObrinMenu.exe", WaitsForEver, "not a program that Windows can start"}},
@@ -240,11 +240,11 @@ std::vector<FaultyInstallation> FaultyFiles() {
         {"a folder in the place of the user records",
          [] { PutFolderInPlaceOf(userRecordsFile); },
          {{"UserWSID.sys", EndsEveryStart, isFolder}}},
-        {"user records that another program only lets others read",
+        {"user records that another program lets others read but not write",
          [] { Hold(userRecordsFile, FILE_SHARE_READ); },
          {{"UserWSID.sys", EndsEveryStart,
            "cannot be written (" + PlatformText(ERROR_SHARING_VIOLATION) + ")"}}},
-        {"a negative number of this user",
+        {"a negative workstation number of this user",
          [] { Write(userRecordsFile, UserWsidRecord(LoginName(), -7)); },
          {{"UserWSID.sys", WaitsForEver,
            "record 1 gives the user " + LoginName() + " the workstation number -7"}}},
@@ -257,7 +257,7 @@ std::vector<FaultyInstallation> FaultyFiles() {
         {"a read-only register",
          [] { SetAttributes(updateRegisterFile, FILE_ATTRIBUTE_READONLY); },
          {{"Updated.txt", EndsProgramRun, "read-only"}},
-         checkerOnly}, // Wine lets some users write it
+         checkerOnly}, // Wine lets root write it
         {"a folder in the place of the marker file",
          [] { MakeFolder("Menu 5.txt"); },
          {{"Menu 5.txt", EndsEveryStart, isFolder}}},
@@ -268,22 +268,22 @@ std::vector<FaultyInstallation> FaultyFiles() {
          [] { Delete("Tessel\\Exe\\Glass.Exe"); },
          {{"Tessel\\Exe\\Glass.Exe", None, "missing"}},
          checkerOnly},
-        {"no programs for the update",
+        {"a due update whose programs are missing",
          [] {
              Delete("Tessel");
              Write(updateRegisterFile, "");
          },
          {{"Tessel\\Exe", None, "this folder is missing"}}},
         {"Tessel is not set",
-         [] { Set(localHostVariable, ""); },
+         [] { SetVariable(localHostVariable, ""); },
          {{"Tessel", None, "this variable is not set here"}},
          checkerOnly},
         {"Tessel leads to a file",
-         [] { Set(localHostVariable, "UB.mnu"); },
+         [] { SetVariable(localHostVariable, "UB.mnu"); },
          {{"Tessel", None, "this variable leads to UB.mnu: " + isFile}},
          checkerOnly},
-        {"Tessel is quoted",
-         [] { Set(localHostVariable, "\"Local\""); },
+        {"Tessel is in quotation marks",
+         [] { SetVariable(localHostVariable, "\"Local\""); },
          {{"Tessel", None,
            "this variable leads to \"Local\": cannot be used for new files (" +
                PlatformText(ERROR_INVALID_NAME) + ")"}},
@@ -306,43 +306,43 @@ std::vector<FaultyInstallation> FaultySettings() {
     const std::string leadsTo = "this variable leads to ";
     const std::string hasNoDrive = "this variable holds no drive or share: ";
     return {
-        {"settings that the dialog has saved", [] { WriteSettings("Lines=1\r\nUnknown=x=y\r\n"); }, {}},
-        {"a quoted folder",
-         [] { Set(temporaryFolderVariable, "\"" + CurrentFolder() + "\\Temp\""); },
+        {"settings with an unknown key", [] { WriteSettings("Lines=1\r\nUnknown=x=y\r\n"); }, {}},
+        {"a folder in quotation marks",
+         [] { SetVariable(temporaryFolderVariable, "\"" + CurrentFolder() + "\\Temp\""); },
          {{"TesselTemp", None, hasNoDrive + "\"HERE\\Temp\""},
           {"TesselTemp", EndsProperties, leadsTo + "\"HERE\\Temp\", which holds the character \""}}},
         {"a relative folder that is missing",
-         [] { Set(temporaryFolderVariable, "Nowhere"); },
+         [] { SetVariable(temporaryFolderVariable, "Nowhere"); },
          {{"TesselTemp", None, hasNoDrive + "Nowhere"},
           {"TesselTemp", EndsProperties, leadsTo + "Nowhere: this folder is missing"}}},
         {"a file in the place of the folder",
-         [] { Set(temporaryFolderVariable, CurrentFolder() + "\\UB.mnu"); },
+         [] { SetVariable(temporaryFolderVariable, CurrentFolder() + "\\UB.mnu"); },
          {{"TesselTemp", EndsProperties, leadsTo + "HERE\\UB.mnu: " + isFile}}},
         {"a missing drive",
-         [] { Set(temporaryFolderVariable, "Q:\\Temp"); },
+         [] { SetVariable(temporaryFolderVariable, "Q:\\Temp"); },
          {{"TesselTemp", EndsProperties, leadsTo + "Q:\\Temp: this folder is missing"}}},
         {"a folder whose path is too long",
-         [] { Set(temporaryFolderVariable, "C:\\" + std::string(250, 'x')); },
+         [] { SetVariable(temporaryFolderVariable, "C:\\" + std::string(250, 'x')); },
          {{"TesselTemp", EndsProperties,
            leadsTo + "C:\\" + std::string(197, 'x') + "..., which is too long"}},
          checkerOnly}, // Wine takes longer paths than Windows
-        {"a folder with a control character",
-         [] { Set(temporaryFolderVariable, CurrentFolder() + "\\a\x01"); },
+        {"a folder whose path holds a control character",
+         [] { SetVariable(temporaryFolderVariable, CurrentFolder() + "\\a\x01"); },
          {{"TesselTemp", EndsProperties, leadsTo + "HERE\\a\x01, which holds a control character"}}},
         {"a missing folder that the menu makes",
-         [] { Set(temporaryFolderVariable, CurrentFolder() + "\\New\\Temp"); },
+         [] { SetVariable(temporaryFolderVariable, CurrentFolder() + "\\New\\Temp"); },
          {}},
         {"a key that is too long",
          [] { WriteMenu("T\r\nA^" + std::string(250, 'x')); },
          {{"UB.mnu:2", EndsProperties,
            "the key " + std::string(200, 'x') + "... makes the path of its settings file too long"}},
          checkerOnly},
-        {"a slash after a missing folder",
+        {"a key with a slash after a missing folder",
          [] { WriteMenu("T\r\nA^Core/CSBackup"); },
          {{"UB.mnu:2", EndsProperties,
            "the key Core/CSBackup leads to a folder that is missing, and the menu makes only folders in "
            "front of a \"\\\""}}},
-        {"a slash after an existing folder",
+        {"a key with a slash after an existing folder",
          [] {
              MakeFolder("Temp\\Ini\\Core");
              WriteMenu("T\r\nA^Core/CSBackup");
@@ -357,7 +357,7 @@ std::vector<FaultyInstallation> FaultySettings() {
         {"settings without an equals sign",
          [] { WriteSettings("Lines=1\r\nLines\r\n"); },
          {{settingsPlace, EndsProperties, "not a settings file, line 2: there is no \"=\""}}},
-        {"a folder in the place of settings",
+        {"a folder in the place of a settings file",
          [] { MakeFolder(csBackupSettings); },
          {{settingsPlace, EndsProperties, isFolder}}},
         {"settings that another program holds",
@@ -366,7 +366,7 @@ std::vector<FaultyInstallation> FaultySettings() {
              Hold(csBackupSettings);
          },
          {{settingsPlace, EndsProperties, isHeld}}},
-        {"settings that a reader holds and lets others replace",
+        {"settings that a reader has open and lets others replace",
          [] {
              WriteSettings("Lines=1");
              Hold(csBackupSettings, FILE_SHARE_READ | FILE_SHARE_DELETE);
@@ -381,10 +381,10 @@ std::vector<FaultyInstallation> FaultySettings() {
     };
 }
 
-void EndFaults() {
-    for (const HANDLE file : held)
+void ReleaseFiles() {
+    for (const HANDLE file : heldFiles)
         CloseHandle(file);
-    held.clear();
+    heldFiles.clear();
     for (const auto& entry : std::filesystem::recursive_directory_iterator("."))
         SetAttributes(entry.path().string(), FILE_ATTRIBUTE_NORMAL);
 }

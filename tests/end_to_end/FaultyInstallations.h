@@ -23,9 +23,9 @@ struct ExpectedFinding {
 
 struct FaultyInstallation {
     const char* name;
-    void (*breakIt)();                     ///< changes the sound installation in the current folder
+    void (*makeFault)();                   ///< changes the sound installation in the current folder
     std::vector<ExpectedFinding> expected; ///< sorted by place and problem
-    bool menuIsTried = true;               ///< false: only the checker is tried
+    bool runsCheckerOnly = false;          ///< the menu is not tried
 };
 
 /// Each function lists the faults of one kind of file or value.
@@ -35,6 +35,6 @@ std::vector<FaultyInstallation> FaultyFiles();
 std::vector<FaultyInstallation> FaultySettings();
 
 /// Closes the files that a fault holds open, and makes everything in the current folder writable and visible.
-void EndFaults();
+void ReleaseFiles();
 
 } // namespace obrin::test

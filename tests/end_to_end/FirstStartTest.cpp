@@ -7,8 +7,8 @@ namespace {
 
 constexpr const char* questionTitle = "Please Select a WSID";
 
-// An installation that does not know the user yet. Another user has number 9. That record, the last one, is
-// cut off after the number, as the host writes it.
+// An installation that does not know the user yet. Another user has number 9. That record ends right
+// after the number, as the last one may.
 struct FirstStart : testing::Test {
     FirstStart() { WriteFileBytes("UserWSID.sys", otherRecord.substr(0, 102)); }
 
@@ -63,7 +63,7 @@ TEST(DamagedRecord, WithANegativeNumberMakesTheMenuWaitUntilItIsClosed) {
     DeleteFileA("Corvel.dll"); // a menu that went on would end with an error
     const RunningMenu menu;
     EXPECT_TRUE(menu.LoadingWindow());
-    SendMessageA(menu.LoadingWindow(), WM_SETTINGCHANGE, 0, 0); // there are no controls for new fonts yet
+    SendMessageA(menu.LoadingWindow(), WM_SETTINGCHANGE, 0, 0); // must not fail: there are no controls yet
     Sleep(300);
     EXPECT_FALSE(menu.Shown(questionTitle));
     EXPECT_FALSE(menu.Shown("ObrinMenu")) << "the menu must not show an error";
@@ -71,7 +71,7 @@ TEST(DamagedRecord, WithANegativeNumberMakesTheMenuWaitUntilItIsClosed) {
     EXPECT_EQ(menu.ExitCode(), 0);
 }
 
-TEST(RecordedUser, GetsTheWorkstationOfTheirNumber) {
+TEST(RecordedUser, GetsTheirRecordedNumber) {
     const Installation installation(5);
     const RunningMenu menu;
     EXPECT_EQ(TextOf(GetDlgItem(menu.Window(), IDC_LABEL2)), "User - " + LoginName());

@@ -64,7 +64,7 @@ struct HostLinkTest : testing::Test {
         return WaitUntil([&] { return menu.Shown(menuCaption) != nullptr; }, milliseconds);
     }
 
-    static inline std::function<void()> onNextKey; // called once, before the key is noted
+    static inline std::function<void()> onNextKey; // called once, before the key is added to `typed`
     static inline std::string typed;
 
     const Installation installation{5};
@@ -151,7 +151,7 @@ TEST_F(HostLinkTest, EndOfTheSessionDuringACloseFinishesTheClose) {
     };
     PostMessageA(window, WM_CLOSE, 0, 0);
     EXPECT_TRUE(WaitUntil([&] { return !IsWindow(window); }));
-    // Without the first key of the exit command, which is noted only after this check.
+    // Without the first key of the exit command, which is added to `typed` only after the call.
     EXPECT_EQ(typedAtSessionEnd, std::string(firstSystem) + (exitCommand + 1));
     EXPECT_FALSE(isMarkerThere);
 }

@@ -58,7 +58,7 @@ TEST_F(HostNoticeTest, ClosingItEndsTheMenu) {
 }
 
 TEST_F(HostNoticeTest, MenuClosedBeforeItShowsASystemChangesNothing) {
-    RememberSystem("UB.mnu ");
+    RememberSystem("UB.mnu "); // with a blank, which the menu would not write
     SetEnvironmentVariableA("FENN_NEVER", "caption");
     const RunningMenu menu;
     EXPECT_TRUE(installation.StartsHost());

@@ -1,4 +1,4 @@
-// Real keys and clicks, as an operator makes them: they go to the window in front.
+// Keys and clicks as an operator makes them. The real ones go to the window in front.
 #pragma once
 
 #include "end_to_end/Installation.h"

@@ -109,7 +109,8 @@ HWND RunningMenu::Shown(const std::string& caption) const {
 
 HWND RunningMenu::Window(const std::string& caption) const {
     HWND window = nullptr;
-    EXPECT_TRUE(Eventually([&] { return (window = Shown(caption)) != nullptr; })) << "no window " << caption;
+    EXPECT_TRUE(Eventually([&] { return (window = Shown(caption)) != nullptr; }))
+        << "no window has the caption " << caption;
     return window;
 }
 

@@ -32,11 +32,12 @@ std::string TextOf(HWND window);
 /// and the environment variables of menu and host are reset.
 class Installation {
 public:
-    /// Gives the current user this workstation number. 0 gives none, so that the menu asks for it.
+    /// Gives the current user this workstation number, and records workstation 5 as updated. 0 does neither,
+    /// so that the menu asks for a number.
     explicit Installation(int wsid);
     ~Installation() { EndHost(); }
 
-    /// The lines of the stand-in host's log that begin with this word, without it.
+    /// The lines of the stand-in host's log that begin with this word, without the word.
     Lines Logged(const std::string& word) const;
     /// Waits until the menu has started the stand-in host.
     bool StartsHost() const {
@@ -70,7 +71,7 @@ public:
     HWND LoadingWindow() const;
     HWND Tree() const { return GetDlgItem(GetDlgItem(Window(), IDC_FRAME1), IDC_TREEVIEW1); }
     HWND Button() const { return GetDlgItem(GetParent(Tree()), IDC_COMMAND1); }
-    /// The texts of the controls of a visible window, one a line.
+    /// Waits for a visible window and returns the texts of its controls, one a line.
     std::string Texts(const std::string& caption = menuCaption) const;
 
     /// Presses a button of a visible window, and waits until the window has gone.
@@ -78,19 +79,20 @@ public:
     /// Posts a command to the menu window, as its menu bar and its button do.
     void Command(int id) const { PostMessageA(Window(), WM_COMMAND, static_cast<WPARAM>(id), 0); }
     void Close() const { PostMessageA(LoadingWindow(), WM_CLOSE, 0, 0); }
-    /// Stops it from handling any message until it is resumed.
+    /// Stops the menu from handling any message until it is resumed.
     void Suspend() const { SuspendThread(started.thread.get()); }
     void Resume() const { ResumeThread(started.thread.get()); }
-    /// Waits for its end. STILL_ACTIVE if it does not end.
+    /// Waits for the menu's end and returns its exit code; STILL_ACTIVE if it does not end.
     int ExitCode() const;
 
 private:
-    // The whole path: without it, the program beside the tests would be started.
+    // The whole path: without it, Windows would start the program beside the tests.
     const StartedProgram started = Start(std::filesystem::current_path() / "ObrinMenu.exe");
 };
 
-/// The value LastSystem in the registry.
+/// Stores the value LastSystem in the registry.
 void RememberSystem(const std::string& name);
+/// Expects this value, or none if the user may not write it.
 void ExpectRemembered(const std::string& name);
 
 } // namespace obrin::test

@@ -26,7 +26,7 @@ public:
 
     Effect Run() {
         const Effect effect = FindEffect();
-        if (const char* box = Box()) {
+        if (const char* box = ErrorBox()) {
             running.Press(box, IDOK);
             EXPECT_LE(running.ExitCode(), 1);
         }
@@ -36,7 +36,7 @@ public:
 private:
     Effect FindEffect() {
         if (!Starts())
-            return Box() != nullptr ? Effect::EndsEveryStart : Effect::WaitsForEver;
+            return ErrorBox() != nullptr ? Effect::EndsEveryStart : Effect::WaitsForEver;
         menu = running.Window();
         if (!ShowsEverySystem())
             return Effect::EndsShownSystem;
@@ -49,8 +49,8 @@ private:
         return Effect::None;
     }
 
-    // The caption of the error box, while there is one.
-    const char* Box() const {
+    // Returns the caption of the error box, or null if none is shown.
+    const char* ErrorBox() const {
         for (const char* caption : {"ObrinMenu", "Error!"}) {
             if (running.Shown(caption) != nullptr)
                 return caption;
@@ -63,7 +63,7 @@ private:
         const auto isMenuShown = [&] { return running.Shown("Obrin System Menu") != nullptr; };
         EXPECT_TRUE(Eventually([&] {
             const bool waitedEnough = expected == Effect::WaitsForEver && GetTickCount64() > end;
-            return Box() != nullptr || isMenuShown() || waitedEnough ||
+            return ErrorBox() != nullptr || isMenuShown() || waitedEnough ||
                    running.Shown("Waiting for Fenn") != nullptr;
         }));
         return isMenuShown();
@@ -76,7 +76,7 @@ private:
         DWORD_PTR result = 0;
         if (SendMessageTimeoutA(menu, message, wParam, 0, SMTO_NORMAL, shortTime, &result) == 0)
             SendMessageTimeoutA(menu, WM_NULL, 0, 0, SMTO_NORMAL, longTime, &result);
-        return Box() == nullptr;
+        return ErrorBox() == nullptr;
     }
 
     bool ShowsEverySystem() const {
@@ -125,12 +125,12 @@ private:
         PostMessageA(menu, WM_KEYDOWN, VK_ESCAPE, 0);
         EXPECT_TRUE(Eventually([&] { return ShownPopup() == nullptr; }));
         PostMessageA(menu, WM_COMMAND, ID_TREE_PROPERTIES, 0);
-        EXPECT_TRUE(Eventually([&] { return Box() != nullptr || running.Shown(dialog) != nullptr; }));
-        if (const HWND properties = running.Shown(dialog); Box() == nullptr) {
+        EXPECT_TRUE(Eventually([&] { return ErrorBox() != nullptr || running.Shown(dialog) != nullptr; }));
+        if (const HWND properties = running.Shown(dialog); ErrorBox() == nullptr) {
             PostMessageA(properties, WM_COMMAND, IDOK, 0);
-            EXPECT_TRUE(Eventually([&] { return Box() != nullptr || !IsWindow(properties); }));
+            EXPECT_TRUE(Eventually([&] { return ErrorBox() != nullptr || !IsWindow(properties); }));
         }
-        return Box() == nullptr;
+        return ErrorBox() == nullptr;
     }
 
     Effect expected;

@@ -117,7 +117,7 @@ TEST_F(RunningPrograms, EnterHeldOnTheButtonRunsOnce) {
     ExpectNothingRun();
 }
 
-TEST_F(RunningPrograms, ClickThatSlipsByAFewPixelsSelects) {
+TEST_F(RunningPrograms, ClickWithASmallMoveOfTheMouseSelects) {
     const POINT place = PlaceOfRow(tree, 0, 0);
     PointAt(place);
     mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
@@ -126,7 +126,7 @@ TEST_F(RunningPrograms, ClickThatSlipsByAFewPixelsSelects) {
     EXPECT_TRUE(Eventually([&] { return TreeView_GetSelection(tree) == TreeView_GetRoot(tree); }));
 }
 
-TEST(BusyFiles, AreWaitedForAtTheStartAndAtARun) {
+TEST(BusyFiles, AreRetriedAtTheStartAndBeforeAProgramRuns) {
     const Installation installation(5);
     WriteFileBytes("Core\\TempOut.tmp", "");
     HeldFile configuration("FennConfig.Sys", 0), temporary("Core\\TempOut.tmp", 0);
@@ -153,7 +153,7 @@ protected:
         WriteFileBytes("Updated.txt", "42042004");
     }
 
-    HWND CompleteUpdate() const {
+    HWND WaitForCompleteUpdate() const {
         EXPECT_TRUE(Eventually([&] { return menu.Texts(title).find("Complete") != std::string::npos; }));
         return menu.Window(title);
     }
@@ -163,7 +163,7 @@ protected:
 
 TEST_F(FirstRun, EntersTheWorkstationAndRunsTheProgramWhenTheUpdateIsClosed) {
     menu.Command(IDC_COMMAND1);
-    CompleteUpdate();
+    WaitForCompleteUpdate();
     ExpectNothingRun();
     EXPECT_EQ(ReadFileBytes("Updated.txt"), "42042004");
     menu.Press(title, IDOK);
@@ -175,7 +175,7 @@ TEST_F(FirstRun, EnterDuringTheUpdateRunsNothing) {
     // The second Enter is handled during the update that the first one starts.
     for (int i = 0; i < 2; ++i)
         PostMessageA(tree, WM_CHAR, VK_RETURN, 0);
-    CompleteUpdate();
+    WaitForCompleteUpdate();
     menu.Press(title, IDOK);
     ExpectRun(backup);
     ExpectNothingRun();
@@ -185,7 +185,7 @@ TEST_F(FirstRun, EnterDuringTheUpdateRunsNothing) {
 TEST_F(FirstRun, EnterHeldThroughTheUpdateLeavesItsWindowOpen) {
     HoldKey(tree, VK_RETURN, 3);
     constexpr LPARAM repeated = 1 | LPARAM{KF_REPEAT} << 16;
-    PostMessageA(GetDlgItem(CompleteUpdate(), IDOK), WM_KEYDOWN, VK_RETURN, repeated);
+    PostMessageA(GetDlgItem(WaitForCompleteUpdate(), IDOK), WM_KEYDOWN, VK_RETURN, repeated);
     ExpectNothingRun();
     EXPECT_TRUE(menu.Shown(title));
     PressKey(VK_RETURN);
@@ -195,7 +195,7 @@ TEST_F(FirstRun, EnterHeldThroughTheUpdateLeavesItsWindowOpen) {
 TEST_F(FirstRun, ShowsTheUpdateBelowAndRightOfTheMenusCorner) {
     menu.Command(IDC_COMMAND1);
     RECT corner, update;
-    GetWindowRect(CompleteUpdate(), &update);
+    GetWindowRect(WaitForCompleteUpdate(), &update);
     GetWindowRect(menu.Window(), &corner);
     EXPECT_EQ(update.top - corner.top, (update.bottom - update.top) / 2 / 2)
         << "a quarter of the height of the update window";

@@ -16,7 +16,7 @@ struct OpenHost : testing::Test {
         ShowWindow(host, SW_HIDE);
     }
 
-    void Answer(int button) const {
+    void StartMenuAndAnswer(int button) const {
         const RunningMenu menu;
         menu.Press(questionTitle, button);
         EXPECT_EQ(menu.ExitCode(), 0);
@@ -43,12 +43,12 @@ TEST_F(OpenHost, MakesTheMenuAskWhetherToShowIt) {
 }
 
 TEST_F(OpenHost, StaysHiddenAfterNo) {
-    Answer(IDNO);
+    StartMenuAndAnswer(IDNO);
     EXPECT_FALSE(IsWindowVisible(host));
 }
 
 TEST_F(OpenHost, IsShownAfterYes) {
-    Answer(IDYES);
+    StartMenuAndAnswer(IDYES);
     // The menu does not wait for the host, which may hang. So the host may appear after the menu has ended.
     EXPECT_TRUE(Eventually([&] { return IsWindowVisible(host) && !IsIconic(host); }));
 }
@@ -80,7 +80,7 @@ TEST_F(OpenMenu, IsRestored) {
     EXPECT_TRUE(Eventually([this] { return !IsIconic(first.Window()); }));
 }
 
-TEST_F(OpenMenu, ThatHangsDoesNotMakeTheSecondHang) {
+TEST_F(OpenMenu, ThatHangsDoesNotMakeTheSecondOneHang) {
     first.Suspend();
     StartSecond();
     first.Resume();

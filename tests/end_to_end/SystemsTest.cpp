@@ -1,4 +1,4 @@
-// Choosing a system, and which one a start shows.
+// Choosing a system, and which system the menu shows at its start.
 
 #include "end_to_end/Input.h"
 
@@ -84,8 +84,10 @@ TEST(RememberedSystem, IsShownIfItIsAFile) {
         std::string code;
         const char* reason;
     } const cases[] = {
-        {"Ledger.txt", "LE", "any name will do"},  {" Ledger.txt ", "LE", "blanks are removed"},
-        {"gone.mnu", first, "no such file"},       {"Core", first, "a folder"},
+        {"Ledger.txt", "LE", "a file of any name is shown"},
+        {" Ledger.txt ", "LE", "blanks are removed"},
+        {"gone.mnu", first, "no such file"},
+        {"Core", first, "a folder"},
         {"*.mnu", first, "a pattern, not a name"},
     };
     for (const auto& [remembered, code, reason] : cases) {
