@@ -1,6 +1,6 @@
 #!/bin/bash
 # Takes all pictures of the README and of the administrator's guide again.
-# Run it on Debian 12: elsewhere Wine draws a little differently, and all pictures are to look alike.
+# Run it on Debian 12: elsewhere Wine draws a little differently, and all pictures should look alike.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 

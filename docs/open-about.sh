@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# Opens the about box by its access keys. For ./demo.sh --do.
+# For ./demo.sh --do: opens the about box by its access keys.
 xdotool windowactivate --sync "$MENU_WINDOW" key alt+h key b
 for _ in $(seq 100); do
   xdotool search --onlyvisible --name '^Obrin Software Systems$' >/dev/null && exit

@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# Opens the Properties dialog of a program and shows its page of margins. For ./demo.sh --do.
+# For ./demo.sh --do: opens the Properties dialog of a program and shows its page of margins.
 xdotool windowactivate --sync "$MENU_WINDOW" key Right key Down key Right key Down key Menu key p
 for _ in $(seq 100); do
   if dialog=$(xdotool search --onlyvisible --name '^Properties$'); then

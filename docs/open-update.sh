@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# Runs a program, which begins the update of the workstation. For ./demo.sh --do.
+# For ./demo.sh --do: runs a program. The first one that is run opens the update of the workstation.
 xdotool windowactivate --sync "$MENU_WINDOW" key Right key Down key Right key Down key Return
 for _ in $(seq 100); do
   xdotool search --onlyvisible --name '^Auto Update Utility$' >/dev/null && exit

@@ -1,11 +1,11 @@
 # shellcheck shell=bash disable=SC2034
-# The distribution's packages that a script needs, and the builds. To be sourced.
+# Installs the packages that the scripts need, and builds presets. To be sourced.
 
 # shellcheck source=scripts/steps.sh
 source "$(dirname "${BASH_SOURCE[0]}")/steps.sh"
 
 # googletest holds sources: each preset builds them with its own compiler. Their CMake files look for Python.
-# mingw-w64-tools holds genpeimg, which marks the images that run from a share.
+# mingw-w64-tools holds genpeimg: it marks images, so that Windows loads them as a whole from a share.
 build_packages=(
   cmake ninja-build googletest python3-minimal
   g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools
@@ -14,7 +14,7 @@ native_packages=(clang libclang-rt-dev clang-format)
 tidy_packages=(clang-tidy)
 # cmark-gfm makes the administrator's guide from its text.
 guide_packages=(cmark-gfm)
-# osslsigncode signs programs. In the test of that, openssl makes a certificate.
+# osslsigncode signs programs. The test of signed archives makes its certificate with openssl.
 sign_packages=(osslsigncode)
 sign_test_packages=(openssl)
 # libc6-i386 lets 64-bit Linux start the 32-bit Wine. openbox is a window manager: without one every window that a

@@ -6,7 +6,7 @@ scripts=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 # shellcheck source=scripts/wine.sh
 source "$scripts/wine.sh"
 
-# Prints the machine field of an image: the dword at 3C points to a signature of four bytes, and the field follows it.
+# Prints the machine field of an image. The dword at 3C is the offset of a signature of four bytes; the field follows.
 image_machine() {
   local header
   header=$(od -An -tu4 -j60 -N4 "$1")
@@ -30,8 +30,9 @@ trap 'rm -rf "$scratch"' EXIT
 TEST_PREMATURE_EXIT_FILE=$(windows_path "$scratch/tests-are-running")
 export TEST_PREMATURE_EXIT_FILE
 
-# Runs the program. A test program whose output is no terminal is run again if it fails without output: on a loaded
-# machine Wine now and then does not start a program, and a test that has begun always prints something.
+# Runs the program. If a test program fails without output, runs it again, at most twice: on a loaded machine Wine
+# sometimes does not start a program, and a test that has begun always prints something. Not on a terminal, where the
+# output should appear at once.
 run_program() {
   local tries=1 result=0
   if [[ $program != *_tests.exe || -t 1 ]]; then

@@ -3,7 +3,7 @@
 
 # Runs a command with its output in a log, and shows the output if it fails: run_step TITLE LOG COMMAND...
 # Shows the progress meanwhile: a terminal gets one line that changes, other outputs get a line every 20 seconds.
-# Both go to the error output, to keep them out of a script's results.
+# Everything is shown on the error output, to keep it out of a script's results.
 run_step() {
   local title=$1 log=$2 result=0 watcher
   shift 2
@@ -58,13 +58,13 @@ show_status() {
   fi
 }
 
-# apt-get that also prints how far it is. These lines get a file descriptor of their own, because apt-get closes it
-# when it runs the packages' scripts, which need the one of the output.
+# apt-get that also prints its progress. It closes the file descriptor of the progress before it runs the scripts of
+# the packages. Descriptor 3 is a copy, so these scripts keep their output.
 # shellcheck disable=SC2034
 apt_get=(bash -c 'exec apt-get -o APT::Status-Fd=3 "$@" 3>&1' apt-get)
 
-# Prints how far the command is that writes this log, or nothing if the log does not say. Knows the lines of ninja
-# (unpack_wine32 prints the same), of ctest, with its count of failures, and of apt_get, which downloads and installs.
+# Prints the progress of the command that writes this log, or nothing if the log does not show it. The patterns are
+# for ninja (our own loops print the same format), for ctest, and for the downloads and installations of apt-get.
 progress_in() {
   local progress failures
   progress=$(sed -n -E -e 's|^\[([0-9]+)/([0-9]+)\] .*|\1 of \2|p' \
@@ -76,7 +76,7 @@ progress_in() {
   echo "$progress"
 }
 
-# Prints the log without the lines that only say how far the command is.
+# Prints the log without the lines that only show progress.
 without_progress() {
   grep -v -E '^\[[0-9]+/[0-9]+\] |^ +Start +[0-9]+: | +Passed +[0-9.]+ sec$|^(dl|pm)status:' "$1" || true
 }

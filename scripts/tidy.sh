@@ -1,6 +1,6 @@
 #!/bin/bash
-# Runs clang-tidy over every source in the repository, with the checks in .clang-tidy. Sources that preset native
-# builds are checked as they build on this machine, the others as preset x64 builds them. Both must be configured.
+# Runs clang-tidy over every source in the repository, with the checks in .clang-tidy. Uses the flags of preset native
+# for the sources that it builds, and those of preset x64 for the others. Both presets must be configured.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source scripts/packages.sh
@@ -30,7 +30,7 @@ library=$(x86_64-w64-mingw32-g++-posix -print-file-name=include/c++)
 cross=(--extra-arg=-isystem"$library" --extra-arg=-isystem"$library/x86_64-w64-mingw32"
   --extra-arg=-Wno-unknown-warning-option)
 
-# Checks the sources that it reads the names of, and hides clang-tidy's counts of findings: tidy PRESET OPTION...
+# Checks the sources whose names it reads, and hides the counts of findings: tidy PRESET [OPTION...]
 tidy() {
   xargs -r -d '\n' -P "$(nproc)" -n 1 clang-tidy --quiet -p "build/$1" "${@:2}" 2> >(
     grep -v -E ' warnings?( and [0-9]+ errors?)? generated| warnings? treated as error' >&2
@@ -41,7 +41,7 @@ echo "Running clang-tidy over $(git ls-files -- '*.cpp' | wc -l) sources" >&2
 status=0
 # A source that no preset builds would not be checked.
 if git ls-files -- '*.cpp' | sort | comm -23 - <({ sources_of native; sources_of x64; } | sort -u) | grep .; then
-  echo "clang-tidy: neither preset builds these sources" >&2
+  echo "clang-tidy: neither preset builds the sources listed above" >&2
   status=1
 fi
 sources_of native | tidy native || status=1

@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# Running Windows programs: the Wine prefixes below build/wine, the 32-bit Wine beside the system's 64-bit one,
+# Runs Windows programs: manages the Wine prefixes below build/wine, the 32-bit Wine beside the system's 64-bit one,
 # and the hidden desktop. To be sourced.
 #
 # Prefix x64 runs 64-bit programs, prefix x86 runs both kinds. A prefix of any other name is a copy of x64.
@@ -91,7 +91,7 @@ unpack_wine32() {
   for package in "${packages[@]}"; do
     count=$((count + 1))
     echo "[$count/${#packages[@]}] ${package##*/}"
-    # Not the C library: the one in the system's libc6-i386 must be used, because the loader comes from there.
+    # The C library must be of the same version as the loader. Both are in libc6-i386, which the system has.
     [[ ${package##*/} == libc6_* ]] || dpkg -x "$package" "$wine32_root" || return
   done
   mkdir -p "$wine32_root/usr/lib/x86_64-linux-gnu" &&
@@ -158,7 +158,7 @@ fill_prefix() {
   (unset DISPLAY && run_wine_for 300 wineboot -i) || return
   # Wine finds its fonts for dialogs only in the prefix itself. Without them, dialogs fall back to a wide font.
   cp /usr/share/wine/fonts/*.{ttf,fon} "$WINEPREFIX/drive_c/windows/Fonts/" || return
-  # Fonts of Windows, and their replacements here.
+  # Free fonts in place of those of Windows, and the colour of links.
   cat >"$WINEPREFIX/drive_c/prefix.reg" <<'REG' || return
 REGEDIT4
 
@@ -203,8 +203,8 @@ in_session() {
     fi
     trap end_session EXIT
     export OBRIN_SESSION=$prefix
-    # Tries twice: on a loaded machine, one desktop in a few hundred does not start.
-    # Programs do not inherit the lock, because they may outlive this shell for a moment.
+    # Tries twice, because on a loaded machine the desktop sometimes does not start.
+    # Programs do not inherit the lock, as they may outlive this shell for a moment.
     {
       { start_desktop || { end_session && start_desktop; }; } && "$@"
     } 9>&-
@@ -232,7 +232,7 @@ start_desktop() {
 }
 
 # Starts the display, the window manager and one program that keeps Wine's own processes running.
-# Their output goes to /dev/null: otherwise a reader of this script's output would wait until they end, too.
+# Their output goes to /dev/null: a reader of this script's output through a pipe would wait until they end, too.
 start_session() {
   local display number
   # A session that was interrupted may have left processes.
@@ -255,7 +255,7 @@ start_session() {
   # Wine ends its desktop and its services with the last program that has a window. Starting them for each test takes
   # seconds, and they would inherit the test runner's pipe. So one minimised program keeps running.
   if ! wait_until 30 window_manager_runs || ! run_wine_for 60 start /min winemine </dev/null >/dev/null 2>&1 ||
-    ! wait_until 30 keeper_has_window; then
+    ! wait_until 30 minimised_program_has_window; then
     echo "The hidden desktop did not start" >&2
     return 1
   fi
@@ -265,7 +265,7 @@ window_manager_runs() {
   timeout 5 xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'
 }
 
-# Whether the program that keeps Wine's processes running has its window.
-keeper_has_window() {
+# Once the program has its window, Wine's desktop and services also run.
+minimised_program_has_window() {
   timeout 5 xprop -root _NET_CLIENT_LIST | grep -q 'window id # 0x'
 }
