@@ -12,13 +12,13 @@ usage: ./demo.sh
   this desktop. The installation keeps what the programs write; remove build/demo to start over.
 usage: ./demo.sh --screenshot FILE [--dpi N] [--size WxH] [--do SCRIPT]
                  [--without-host | --faulty-menu]
-  The same for a new user and on a hidden desktop. Takes a picture of the screen and closes the menu.
-  --dpi N      the screen's resolution as Windows programs see it (96)
+  Does the same for a new user on a hidden desktop, takes a picture of the screen and closes the menu.
+  --dpi N      the screen's resolution as Windows programs see it (default: 96)
   --size WxH   the menu window's size in pixels, without its frame
   --do SCRIPT  bash script to run before the picture, which can open a menu or a dialog with xdotool; MENU_WINDOW is
                the menu's window
-  --without-host  in an installation without the host: takes a picture of the notice "Waiting for Fenn"
-  --faulty-menu   in an installation with a fault in a menu file: takes a picture of the error box
+  --without-host  removes the host first: the picture shows the notice "Waiting for Fenn"
+  --faulty-menu   makes a fault in every menu file first: the picture shows the error box
 TEXT
 }
 
@@ -63,7 +63,7 @@ make_installation() {
   demo/make-installation.sh "$folder/host" build/x64/bin
 }
 
-show() {
+show_menu() {
   make_installation demo
   make_prefix demo
   exec 9>"$WINEPREFIX.lock"
@@ -78,32 +78,32 @@ show() {
   timeout 10 "$WINESERVER" -w 9>&- || true
 }
 
-# Prints the first visible window with this title.
-window_titled() {
+# Prints the id of the first visible window with this title. Fails if there is none.
+find_window() {
   xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | head -n 1 | grep .
 }
 
 question_is_gone() {
-  ! window_titled 'Please Select a WSID'
+  ! find_window 'Please Select a WSID'
 }
 
-# Answers the question for a workstation number if it is open. Succeeds once the menu is open. Callers repeat it,
-# because the question ignores keys at first and the answer may be lost.
-reach_menu() {
+# Answers the question for a workstation number if it is open. Succeeds once the expected window is open.
+# Callers repeat it, because the question ignores keys at first and the answer may be lost.
+reach_expected_window() {
   local box
-  if box=$(window_titled 'Please Select a WSID'); then
+  if box=$(find_window 'Please Select a WSID'); then
     xdotool windowactivate "$box" key --clearmodifiers ctrl+a type 5 || true
     xdotool key Return
     wait_until 2 question_is_gone || true
   fi
-  window_titled "$first_window"
+  find_window "$expected_title"
 }
 
 menu_has_size() {
   [[ $(xdotool getwindowgeometry --shell "$MENU_WINDOW") == *"WIDTH=${size%x*}"$'\n'"HEIGHT=${size#*x}"$'\n'* ]]
 }
 
-# Whether two pictures of the screen, a moment apart, are the same.
+# Succeeds if two pictures of the screen, a moment apart, are the same.
 screen_is_still() {
   local before
   before=$(import -silent -window root rgb:- | sha256sum)
@@ -132,8 +132,8 @@ give_up() {
 take_picture() {
   (cd build/screenshot/host && run_wine ./ObrinMenu.exe) </dev/null >/dev/null 2>&1 &
   menu_process=$!
-  wait_until 40 reach_menu || give_up "The menu did not appear" || return
-  MENU_WINDOW=$(window_titled "$first_window") || return
+  wait_until 40 reach_expected_window || give_up "The menu did not appear" || return
+  MENU_WINDOW=$(find_window "$expected_title") || return
   export MENU_WINDOW
   if [[ -n $size ]]; then
     xdotool windowsize "$MENU_WINDOW" "${size%x*}" "${size#*x}"
@@ -143,12 +143,12 @@ take_picture() {
     limited 60 bash "$script" || give_up "$script failed" || return
   fi
   wait_until 10 screen_is_still || echo "The screen keeps changing; taking the picture all the same"
-  # Takes the whole screen, which shows nothing else: a popup menu may reach beyond the menu's window.
+  # Takes the whole screen, because a popup menu may reach beyond the menu window. The screen shows nothing else.
   import -silent -window root -trim +repage "$picture" || return
   wait_until 20 close_menu || give_up "The menu does not close" || return
   local code=0
   wait "$menu_process" || code=$?
-  if ((code != exit_code)); then
+  if ((code != expected_exit_code)); then
     echo "The menu ended with exit code $code" >&2
     return 1
   fi
@@ -158,29 +158,29 @@ install_packages "${build_packages[@]}" "${wine_packages[@]}" "${font_packages[@
 build_preset x64 ObrinMenu Corvel Fenn
 
 if [[ -z $picture ]]; then
-  show
+  show_menu
 else
   # A new prefix, so a new user, each time.
   use_prefix screenshot
   end_prefix
   rm -rf build/screenshot "$wine_folder/screenshot"
   make_installation screenshot
-  first_window='Obrin System Menu'
-  exit_code=0
+  expected_title='Obrin System Menu'
+  expected_exit_code=0
   case $fault in
     --without-host)
       rm build/screenshot/host/Fenn.exe
-      first_window='Waiting for Fenn'
+      expected_title='Waiting for Fenn'
       ;;
     --faulty-menu)
-      # In every menu file, as the menu may open any of them first.
+      # In every menu file, because the menu may open any of them first.
       sed -i '2s/^/>>/' build/screenshot/host/*.mnu
-      first_window=ObrinMenu
-      exit_code=1
+      expected_title=ObrinMenu
+      expected_exit_code=1
       ;;
   esac
   make_prefix screenshot
-  # The pictures show paths on this drive, as if the installation were on a share.
+  # The menu then shows its folder as S:\host, like one on a share, and not as a path of this machine.
   ln -sfn "$obrin_root/build/screenshot" "$WINEPREFIX/dosdevices/s:"
   printf '\n[Control Panel\\\\Desktop]\n"LogPixels"=dword:%08x\n' "$dpi" >>"$WINEPREFIX/pristine/user.reg"
   mkdir -p "$(dirname "$picture")"

@@ -72,7 +72,7 @@ sign_images() {
   done
 }
 
-# Makes an archive without folders of the built preset: make_archive PRESET ARCHIVE
+# Puts the files of a built preset into an archive, without folders: make_archive PRESET ARCHIVE
 make_archive() {
   local files
   files=$(dirname "$2")/files
@@ -82,10 +82,10 @@ make_archive() {
   (cd "$files" && cmake -E tar cf "$2" --format=zip -- *)
 }
 
-# CMake gives this time to every file in an archive. It is that of the last commit, so files of newer sources are newer,
-# as tools that copy only newer files expect.
+# CMake gives this time to every file in an archive. It is that of the last commit, so files of a later version are
+# newer, and tools that copy only newer files copy them.
 SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct)}
-# Archives hold local times, and their files in the order of the locale. Both are fixed here.
+# An archive holds local times, and its files in the order of the locale. Both must not depend on this machine.
 export SOURCE_DATE_EPOCH TZ=UTC LC_ALL=C
 
 install_packages "${build_packages[@]}" "${guide_packages[@]}"

@@ -8,8 +8,8 @@ source scripts/wine.sh
 usage() {
   cat <<'TEXT'
 usage: ./test.sh [--all] [--fuzz SECONDS]
-  Builds the presets native, x64 and x86. Runs the tests of native (the rules, with sanitizers) and x64 (under Wine),
-  and those of x64 again from their archive, as on a Windows machine. Makes signed archives and verifies them.
+  Builds the presets native, x64 and x86. Runs the tests of native (the rules, with sanitizers) and x64 (under Wine).
+  Also runs the x64 tests from the archive for Windows machines, and makes signed archives and verifies them.
   --all           also the tests of x86, and --fuzz 20
   --fuzz SECONDS  run the fuzz targets, SECONDS in all
 Exit code: 0 everything passed, 1 something failed, 2 nothing failed but some tests could not run, 64 wrong arguments.
@@ -50,7 +50,7 @@ run_tests() {
   summary+=("$preset:" "$(sed -n '/ tests passed, /,$p' "$log" | grep . || echo "stopped before the end")")
 }
 
-# run_ctest PRESET LOG
+# Runs ctest, whose output goes to the log: run_ctest PRESET LOG
 run_ctest() {
   local jobs=1 result=0
   # Windows tests share one desktop, so they run one at a time.
@@ -61,7 +61,7 @@ run_ctest() {
 }
 
 # Runs the archive of the tests in a new prefix, and checks that it restores the registry and removes its folder.
-run_archive() {
+test_archive() {
   rm -rf build/wine/archive
   if ./package.sh --tests &&
     in_session archive run_step "Testing the archive of the tests" build/log/test-archive.txt unpack_and_run; then
@@ -95,8 +95,9 @@ unpack_and_run() {
   return "$result"
 }
 
-# Makes signed archives in a folder of their own, and verifies the signature of every image in them.
-run_signing() {
+# Makes signed archives in build/signing and verifies the signature of every image in them. Also checks that
+# package.sh changes no archive if it cannot sign.
+test_signing() {
   if run_step "Testing signed archives" build/log/test-signing.txt sign_and_verify; then
     summary+=("signed archives: 6 images signed, 6 verified")
   else
@@ -129,12 +130,13 @@ sign_and_verify() {
     return 1
   fi
   if [[ $(ls -l --full-time "$folder/dist") != "$before" ]]; then
-    echo "package.sh has changed the folder of the archives, although it could not sign"
+    echo "package.sh could not sign, but has changed the folder of the archives"
     return 1
   fi
 }
 
-# Runs every fuzz target for its share of the time. It starts with its seeds and with what earlier runs have found.
+# Runs every fuzz target for an equal share of the time. A target starts with its seeds and with the inputs that
+# earlier runs found.
 run_fuzz_targets() {
   local -a targets=()
   local target name folder log share runs total=0
@@ -155,7 +157,7 @@ run_fuzz_targets() {
     [[ ! -d fuzz/seeds/$name ]] || cp -r "fuzz/seeds/$name/." "$folder/corpus"
     run_step "Fuzzing $name ($share s)" "$log" limited $((share + 300)) "$target" -max_total_time="$share" \
       -rss_limit_mb=2048 -timeout=10 -print_final_stats=1 -artifact_prefix="$folder/" "$folder/corpus" ||
-      failed+=("fuzz target $name (its input is in $folder)")
+      failed+=("fuzz target $name (the failing input is in $folder)")
     runs=$(sed -n 's/^stat::number_of_executed_units: *//p' "$log")
     total=$((total + ${runs:-0}))
   done
@@ -179,7 +181,7 @@ for preset in "${built[@]}"; do
     native) run_tests native ;;
     x64)
       run_tests x64 in_session x64
-      run_archive
+      test_archive
       ;;
     x86)
       if ! $all; then
@@ -193,7 +195,7 @@ for preset in "${built[@]}"; do
   esac
 done
 if [[ " ${built[*]} " == *' x64 x86 '* ]]; then
-  run_signing
+  test_signing
 fi
 if ((fuzz_seconds > 0)) && [[ " ${built[*]} " == *' native '* ]]; then
   run_fuzz_targets
