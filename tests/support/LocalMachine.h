@@ -1,5 +1,5 @@
-// While an object lives, HKEY_LOCAL_MACHINE is an empty key of the current user for this process. So the
-// tests need no rights and leave no trace in the real one.
+// While a LocalMachine exists, HKEY_LOCAL_MACHINE of this process is an empty key of the current user. So the
+// tests need no administrator rights and leave the real HKEY_LOCAL_MACHINE as it was.
 #pragma once
 
 #include "platform/WindowsApi.h"

@@ -1,4 +1,4 @@
-// Starts the programs beside the tests, and says what this user may do on the machine.
+// Starts programs, and tells what this user may do on the machine.
 #pragma once
 
 #include "platform/Handle.h"

@@ -43,7 +43,7 @@ inline LOGFONTA FontShapeOf(HWND window) {
 }
 
 /// The face and height of the window's font in pixels, then "b" for bold and "u" for underlined:
-/// "Georgia-20u". A negative height is that of the letters, without the space between lines.
+/// "Georgia-20u". A negative height does not count the font's internal leading.
 inline std::string FontOf(HWND window) {
     const LOGFONTA shape = FontShapeOf(window);
     return shape.lfFaceName + std::to_string(shape.lfHeight) + (shape.lfWeight == FW_BOLD ? "b" : "") +
@@ -76,8 +76,8 @@ inline bool IsLabel(HWND control) {
     return HasClass(control, WC_STATICA) && (GetWindowStyle(control) & SS_TYPEMASK) <= SS_RIGHT;
 }
 
-/// The controls that a person sees. The pages behind the front page are disabled. The box inside a combo box
-/// is a part of it, not a control.
+/// The controls that a person sees. Leaves out the pages behind the front page, which are visible but
+/// disabled, and the box inside a combo box, which is a part of it.
 inline std::vector<HWND> ShownControls(HWND window) {
     std::vector<HWND> controls = ListDescendants(window);
     std::erase_if(controls, [](HWND control) {
