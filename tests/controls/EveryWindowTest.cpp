@@ -75,7 +75,8 @@ bool Overlap(HWND one, HWND other) {
     GetWindowRect(one, &place);
     GetWindowRect(other, &otherPlace);
     IntersectRect(&common, &place, &otherPlace);
-    // Dialog units are rounded to pixels, place and size each for itself: neighbours may share one pixel.
+    // Windows converts the place and the size of a control to pixels separately: neighbours may share a
+    // pixel.
     return SizeOf(common).cx > 1 && SizeOf(common).cy > 1;
 }
 
@@ -100,7 +101,7 @@ RECT LastTab(HWND tabStrip) {
 }
 
 // The size that a control needs for its text. Zeros for a control that shows no fixed text.
-SIZE NeededFor(HWND control, LONG width) {
+SIZE NeededSize(HWND control, LONG width) {
     const std::string text = WindowText(control);
     if (IsLabel(control) && !HasStyle(control, SS_PATHELLIPSIS)) // unless it shortens a long path
         return TextSize(control, text, width, HasStyle(control, SS_NOPREFIX) ? DT_NOPREFIX : 0);
@@ -114,7 +115,7 @@ SIZE NeededFor(HWND control, LONG width) {
 TEST_P(EveryWindow, ShowsItsTextsWhole) {
     OnEveryScreen([](HWND window, UINT) {
         for (const HWND control : ShownControls(window)) {
-            const SIZE room = SizeOf(PlaceOf(control)), needed = NeededFor(control, room.cx);
+            const SIZE room = SizeOf(PlaceOf(control)), needed = NeededSize(control, room.cx);
             EXPECT_LE(needed.cx, room.cx) << Name(control);
             EXPECT_LE(needed.cy, room.cy) << Name(control);
         }
@@ -132,7 +133,7 @@ std::vector<HWND> TabStops(HWND window) {
     return stops;
 }
 
-// Whether the keyboard is for this control. A label that can be clicked is a link.
+// Whether the user can operate this control with the keyboard. A label that can be clicked is a link.
 bool TakesKeys(HWND control) {
     const auto isOneOf = [=](auto... names) { return (HasClass(control, names) || ...); };
     return isOneOf(WC_EDITA, WC_COMBOBOXA, TRACKBAR_CLASSA, WC_TREEVIEWA, WC_TABCONTROLA) ||

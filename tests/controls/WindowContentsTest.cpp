@@ -42,7 +42,7 @@ TEST_F(WindowTest, FixedTextsAreShownLetterForLetterInTabOrder) {
                                  "...",        "Save to as Start:",
                                  "...",        "OK",
                                  "Cancel",     "Apply"}},
-        {&W::WhileMarginsPage, // a box and a slider for each
+        {&W::WhileMarginsPage, // each margin has a box and a slider
          {"Properties", "Page Margins (Print Properties)", "Top Margin", "...", "...", "Bottom Margin", "...",
           "...", "Left Margin", "...", "...", "Right Margin", "...", "...", "OK", "Cancel", "Apply"}},
         {&W::WhileAboutBox,
