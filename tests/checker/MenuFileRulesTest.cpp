@@ -50,7 +50,7 @@ TEST(MenuFileRules, WarnOfByteOrderMarks) {
     EXPECT_EQ(Problems(Check("\xFF\xFET\r\nA^K")), Lines{"1 a byte-order mark of UTF-16"});
 }
 
-TEST(MenuFileRules, WarnOfUtf8WhereTheCodePageIsAnother) {
+TEST(MenuFileRules, WarnOfUtf8IfTheCodePageIsNotUtf8) {
     const std::string utf8 = "text in UTF-8";
     EXPECT_EQ(Problems(Check("T\r\nA\xC3\xA4^K\r\nB\xE2\x82\xAC^\xF0\x9F\x98\x80")), Lines{"2 " + utf8});
     EXPECT_EQ(Problems(Check("T\r\nA\xC3\xA4^K\r\nB\xE4^L")), Lines{})
@@ -58,7 +58,7 @@ TEST(MenuFileRules, WarnOfUtf8WhereTheCodePageIsAnother) {
     EXPECT_EQ(Problems(Check("T\xC0\xA0\r\nA^K")), Lines{}) << "C0 begins no character of UTF-8";
 }
 
-TEST(MenuFileRules, WarnOfOtherTextWhereTheCodePageIsUtf8) {
+TEST(MenuFileRules, WarnOfOtherTextIfTheCodePageIsUtf8) {
     const CodePage utf8{.isUtf8 = true};
     EXPECT_EQ(Problems(Check("T\xC3\xA4\r\nA^K", utf8)), Lines{});
     EXPECT_EQ(Problems(Check("T\xC3\xA4\r\nA\xE4^K", utf8)), Lines{"2 text that is not UTF-8"});

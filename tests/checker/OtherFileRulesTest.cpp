@@ -14,7 +14,7 @@ std::string ReportOn(const std::vector<std::pair<std::string, std::int16_t>>& us
     return Report(CheckUserRecords("F", bytes, "anna"));
 }
 
-TEST(UserRecordRules, FindNothingWhereEachUserHasANumber) {
+TEST(UserRecordRules, FindNothingIfEachUserHasANumber) {
     EXPECT_EQ(ReportOn({{"anna", 1}, {"bert", 99}}), "");
 }
 

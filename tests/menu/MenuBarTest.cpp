@@ -61,7 +61,7 @@ A&bout Obrin = 314
 )");
 }
 
-TEST(MenuBar, LeavesOutASystemListWithoutSystems) {
+TEST(MenuBar, HasNoSystemListIfThereAreNoSystems) {
     const UniqueMenu bar = Load(IDR_MENU_BAR);
     FillSystemList(bar.get(), {});
     EXPECT_TRUE(ListItems(bar.get()).starts_with("&Core Programs:"));

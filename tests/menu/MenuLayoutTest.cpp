@@ -23,7 +23,7 @@ MenuLayout At(Size outer, const ContentSizes& contents = {}) {
     return Resize(designed, margins, outer, {outer.width - 200, outer.height - 500}, contents);
 }
 
-TEST(RecordMargins, AreTheDesignedDistancesInWholeTwips) {
+TEST(RecordMargins, ReturnsTheDesignedDistancesInWholeTwips) {
     const LayoutMargins recorded = RecordMargins({.width = 5000.4, .height = 4000.6}, designed);
     EXPECT_EQ(recorded.width, 1000);
     EXPECT_EQ(recorded.height, 1001);

@@ -107,7 +107,7 @@ TEST_F(Tree, EverySecondRightClickAsksForThePopupAtThePointer) {
     EXPECT_EQ(popUps.size(), 1U) << "the third click is a first one again";
 }
 
-TEST_F(Tree, LateRightClickIsAFirstOneAgain) {
+TEST_F(Tree, LateRightClickCountsAsAFirstOne) {
     RightClick();
     Sleep(GetDoubleClickTime() + 50); // as if the synthetic clicks had got lost
     RightClick();

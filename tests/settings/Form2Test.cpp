@@ -182,7 +182,7 @@ TEST_F(Orientation, SwapsHeightAndWidthUnlessItIsTheOneWhenTheListOpened) {
     EXPECT_EQ(Paper(), "11.000 x 8.500") << "still compared with Portrait";
 }
 
-TEST_F(Orientation, SwapsHeightAndWidthEachTimeBeforeTheListWasEverOpened) {
+TEST_F(Orientation, SwapsHeightAndWidthAtEachChoiceUntilTheListIsOpened) {
     Press(VK_DOWN);
     EXPECT_EQ(Paper(), "8.500 x 11.000");
     Press(VK_UP);

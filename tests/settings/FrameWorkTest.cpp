@@ -34,9 +34,9 @@ TEST(EnsurePath, CreatesTheMissingFoldersOutermostFirst) {
         const char* path;
         Folders created;
     } const cases[] = {
-        {"starts after the drive", R"(C:\a.ini)", {}},
+        {"the first folder follows the drive", R"(C:\a.ini)", {}},
         {"a drive is not needed", R"(\Ini\a.ini)", {R"(\Ini\)"}},
-        {"starts after the server", R"(\\server\share\a.ini)", {R"(\\server\share\)"}},
+        {"the first folder follows the server", R"(\\server\share\a.ini)", {R"(\\server\share\)"}},
         {"a last component with a dot is a file", R"(C:\Data\Old.files)", {R"(C:\Data\)"}},
         {"a last component without a dot is a folder", R"(C:\a.b\New)", {R"(C:\a.b\)", R"(C:\a.b\New\)"}},
         {"a slash separates nothing", R"(C:\a/b\c.d/e)", {R"(C:\a/b\)"}},
