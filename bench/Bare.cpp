@@ -1,4 +1,4 @@
-// The smallest program that does what the menu does at its start. It starts the host, waits for its windows,
+// A small program that does what the menu does at its start. It starts the host, waits for its windows,
 // and shows a window with the same menu bar and the same tree. The menu is measured against it.
 //
 //   bare.exe UB.mnu      needs an installation in the current directory

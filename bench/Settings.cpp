@@ -1,5 +1,5 @@
-// Compares saving and loading a settings file with bare calls that do the same, as safely. Compares opening
-// the Properties dialog with opening its dialog templates without filling their controls.
+// Compares saving and loading a settings file with bare calls that write and read the same bytes as safely.
+// Compares opening the Properties dialog with opening its dialog templates without filling their controls.
 
 #include "Installation.h"
 #include "Measurements.h"
