@@ -65,7 +65,7 @@ make_installation() {
 
 show_menu() {
   make_installation demo
-  make_prefix demo
+  select_prefix demo
   exec 9>"$WINEPREFIX.lock"
   if ! flock -n 9; then
     echo "The demonstration is running already" >&2
@@ -179,7 +179,7 @@ else
       expected_exit_code=1
       ;;
   esac
-  make_prefix screenshot
+  select_prefix screenshot
   # The menu then shows its folder as S:\host, like one on a share, and not as a path of this machine.
   ln -sfn "$obrin_root/build/screenshot" "$WINEPREFIX/dosdevices/s:"
   printf '\n[Control Panel\\\\Desktop]\n"LogPixels"=dword:%08x\n' "$dpi" >>"$WINEPREFIX/pristine/user.reg"

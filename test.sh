@@ -186,7 +186,7 @@ for preset in "${built[@]}"; do
     x86)
       if ! $all; then
         continue
-      elif (make_prefix x86); then
+      elif (select_prefix x86); then
         run_tests x86 in_session x86
       else
         missing+=("x86: built, but its tests were NOT RUN, because there is no 32-bit Wine")

@@ -96,7 +96,7 @@ Installation::Installation(const char* host) {
     for (const char* program : {"ObrinMenu.exe", "Corvel.dll", "bare.exe"})
         std::filesystem::copy_file(OwnFolder() + program, program);
     std::filesystem::copy_file(OwnFolder() + host, "Fenn.exe");
-    SetEnvironmentVariableA("FENN_START_DELAY_MS", "0"); // for the demonstration host
+    SetEnvironmentVariableA("FENN_CAPTION_DELAY_MS", "0"); // for the demonstration host
 }
 
 // --- RunningMenu ---

@@ -31,7 +31,7 @@ Behaviour Behaviour::FromEnvironment() {
     Behaviour behaviour;
     behaviour.logFile = Variable("FENN_LOG");
     behaviour.windowDelay = Duration("FENN_WINDOW_DELAY_MS", behaviour.windowDelay);
-    behaviour.captionDelay = Duration("FENN_START_DELAY_MS", behaviour.captionDelay);
+    behaviour.captionDelay = Duration("FENN_CAPTION_DELAY_MS", behaviour.captionDelay);
     const std::string never = Variable("FENN_NEVER");
     behaviour.neverShowsWindow = never == "window";
     behaviour.neverSetsCaption = never == "caption";

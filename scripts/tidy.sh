@@ -30,7 +30,8 @@ library=$(x86_64-w64-mingw32-g++-posix -print-file-name=include/c++)
 cross=(--extra-arg=-isystem"$library" --extra-arg=-isystem"$library/x86_64-w64-mingw32"
   --extra-arg=-Wno-unknown-warning-option)
 
-# Checks the sources whose names it reads, and hides the counts of findings: tidy PRESET [OPTION...]
+# Reads the names of sources from the standard input and checks each. Hides the counts of findings:
+# tidy PRESET [OPTION...]
 tidy() {
   xargs -r -d '\n' -P "$(nproc)" -n 1 clang-tidy --quiet -p "build/$1" "${@:2}" 2> >(
     grep -v -E ' warnings?( and [0-9]+ errors?)? generated| warnings? treated as error' >&2

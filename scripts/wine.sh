@@ -18,7 +18,7 @@ use_prefix() {
     export LD_LIBRARY_PATH=$wine32_root/lib/i386-linux-gnu:$wine32_root/usr/lib/i386-linux-gnu
   fi
   export WINEPREFIX=$wine_folder/$1 WINEARCH=win64 WINEDEBUG=-all
-  # Both are named, so that all programs of a prefix use the one server that end_prefix ends.
+  # Names loader and server, so that all programs of a prefix use the same server, the one that end_prefix ends.
   export WINELOADER=$programs/wine64 WINESERVER=$programs/wineserver64
   # Left out: the debugger, with which a crash can end with exit code 0; the menu builder, which writes into the
   # developer's own desktop menus; .NET and HTML, which offer a download when a prefix is made.
@@ -101,8 +101,8 @@ unpack_wine32() {
     cp /usr/lib/x86_64-linux-gnu/wine/i386-windows/zlib1.dll "$wine32_root/usr/lib/i386-linux-gnu/wine/i386-windows/"
 }
 
-# Makes prefix $1 ready and selects it.
-make_prefix() {
+# Makes prefix $1 if it is missing or outdated, and selects it.
+select_prefix() {
   mkdir -p "$wine_folder"
   (
     # Two runs at a time would remove each other's unfinished prefixes.
@@ -116,6 +116,7 @@ make_prefix() {
   use_prefix "$1"
 }
 
+# Makes prefix $1 unless it is up to date.
 prepare_prefix() {
   local stamp recipe=2 # to be raised when prefixes must be made anew
   if [[ $1 == x86 ]]; then
@@ -194,7 +195,7 @@ in_session() {
     "$@"
     return
   fi
-  make_prefix "$prefix" || return
+  select_prefix "$prefix" || return
   (
     exec 9>"$WINEPREFIX.lock"
     if ! flock -n 9; then
@@ -206,7 +207,7 @@ in_session() {
     # Tries twice, because on a loaded machine the desktop sometimes does not start.
     # Programs do not inherit the lock, as they may outlive this shell for a moment.
     {
-      { start_desktop || { end_session && start_desktop; }; } && "$@"
+      { start_session || { end_session && start_session; }; } && "$@"
     } 9>&-
   )
 }
@@ -227,13 +228,13 @@ session_processes_ended() {
   ! kill -0 "${session_processes[@]}"
 }
 
-start_desktop() {
-  run_step "Starting the hidden desktop" "$WINEPREFIX-desktop.log" start_session
+start_session() {
+  run_step "Starting the hidden desktop" "$WINEPREFIX-desktop.log" start_desktop_programs
 }
 
 # Starts the display, the window manager and one program that keeps Wine's own processes running.
 # Their output goes to /dev/null: a reader of this script's output through a pipe would wait until they end, too.
-start_session() {
+start_desktop_programs() {
   local display number
   # A session that was interrupted may have left processes.
   end_prefix

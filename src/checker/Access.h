@@ -23,7 +23,8 @@ std::optional<std::string> ReadOrAddFinding(Findings& findings, Effect effect, c
 /// Returns why a file cannot be written in place; nothing if it can, or if it is missing and would be made.
 std::optional<Trouble> FindWriteTrouble(const std::string& path);
 
-/// Returns why a file cannot be deleted, and so not be replaced by a new one; nothing if it can.
+/// Returns why a file cannot be deleted; nothing if it can be deleted. The menu replaces only a file that it
+/// may delete.
 std::optional<Trouble> FindDeleteTrouble(const std::string& path);
 
 /// Returns why a file can neither be replaced by a new one nor be written in place; nothing if it can.
@@ -32,7 +33,7 @@ std::optional<Trouble> FindReplaceTrouble(const std::string& path);
 /// Returns why Windows cannot start a program; nothing if it can.
 std::optional<Trouble> FindStartTrouble(const std::string& path);
 
-/// Returns whether one of a program and this program has 32 bits and the other one 64.
+/// Returns whether `program` has 32 bits and this program 64, or the reverse.
 bool HasOtherBitness(const std::string& program);
 
 /// Returns why no files can be made in a folder, whose name may end with "\"; nothing if they can.

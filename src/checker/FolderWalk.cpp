@@ -42,7 +42,7 @@ public:
         CheckPrograms();
         CheckPicture();
         CheckSharedFiles();
-        CheckWorkstationUpdate();
+        CheckUpdateFiles();
         return {std::move(findings), std::move(menuFiles)};
     }
 
@@ -88,7 +88,7 @@ private:
             // The menu types the code into the host in capitals: case makes no difference.
             if (const auto [first, isNew] = nameOfCode.try_emplace(UpperCase(code), name); !isNew)
                 Add(findings, Effect::None, {base + name},
-                    {"the system code " + code + " is that of " + first->second + " too", "rename one file"},
+                    {"the same system code (" + code + ") as " + first->second, "rename one file"},
                     "the host starts the same system for both");
         }
     }
@@ -142,9 +142,9 @@ private:
         const auto bytes = ReadOrAddFinding(findings, Effect::EndsEveryStart, path);
         if (!bytes)
             return;
-        const bool isRight = AddDriveLine(shortFolder, BlankDriveLines(*bytes, UpperCase)) == *bytes;
+        const bool needsNoChange = AddDriveLine(shortFolder, BlankDriveLines(*bytes, UpperCase)) == *bytes;
         if (const auto trouble = FindReplaceTrouble(path))
-            Add(findings, isRight ? Effect::None : Effect::EndsEveryStart, {path}, *trouble,
+            Add(findings, needsNoChange ? Effect::None : Effect::EndsEveryStart, {path}, *trouble,
                 "the menu ends with an error at a start that has to change the drive line");
         else if (const auto noReplacement = FindDeleteTrouble(path))
             Add(findings, Effect::None, {path}, *noReplacement,
@@ -238,8 +238,8 @@ private:
         return bytes.value_or("");
     }
 
-    void CheckWorkstationUpdate() {
-        const std::string noCopy = "the update of a workstation says Complete without copying ";
+    void CheckUpdateFiles() {
+        const std::string noCopy = "the update of a workstation says \"Complete\" although it does not copy ";
         const std::string sources = base + updateFolder;
         if (!FolderExists(sources))
             Add(findings, Effect::None, {sources}, *FindFolderTrouble(sources), noCopy + "anything");

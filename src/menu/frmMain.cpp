@@ -397,8 +397,8 @@ void frmMain::LoadSystem(const std::string& fileName, std::string_view contents)
     if (NormalFileExists(pictureFile))
         Image1.Load(pictureFile, dpi);
     SetWindowTextA(window, menuCaption);
-    // In the System List "&" marks an access key. The frame gets none: it would take its key away from the
-    // menu bar.
+    // In the System List "&" marks an access key. The frame's caption gets none: Alt with that letter would
+    // not reach the menu bar any more.
     const std::string title = RemoveAccessKeyMarks(TrimBlanks(definition.title));
     SetWindowTextA(Frame1, DoubleAmpersands(title).c_str());
     SetWindowTextA(TreeView1.Window(), title.c_str()); // only screen readers use this text

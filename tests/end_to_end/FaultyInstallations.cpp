@@ -149,7 +149,7 @@ std::vector<FaultyInstallation> FaultyMenuFiles() {
          {{"UB.mnu", EndsEveryStart, isHeld}}},
         {"two systems with the same code",
          [] { Write("ub2.mnu", "T\r\nA^K"); },
-         {{"ub2.mnu", None, "the system code ub is that of UB.mnu too"}}},
+         {{"ub2.mnu", None, "the same system code (ub) as UB.mnu"}}},
     };
 }
 

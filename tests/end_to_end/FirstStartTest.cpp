@@ -7,8 +7,8 @@ namespace {
 
 constexpr const char* questionTitle = "Please Select a WSID";
 
-// An installation that does not know the user yet. Another user has number 9. That record ends right
-// after the number, as the last one may.
+// An installation that does not know the user yet. The file holds one record, of another user
+// with number 9. It ends right after the number, as the last record may.
 struct FirstStart : testing::Test {
     FirstStart() { WriteFileBytes("UserWSID.sys", otherRecord.substr(0, 102)); }
 

@@ -151,12 +151,13 @@ TEST_F(HostLinkTest, EndOfTheSessionDuringACloseFinishesTheClose) {
     };
     PostMessageA(window, WM_CLOSE, 0, 0);
     EXPECT_TRUE(WaitUntil([&] { return !IsWindow(window); }));
-    // Without the first key of the exit command, which is added to `typed` only after the call.
+    // The first key of the exit command is missing: TakeKey adds it to `typed` only after it has called
+    // onNextKey.
     EXPECT_EQ(typedAtSessionEnd, std::string(firstSystem) + (exitCommand + 1));
     EXPECT_FALSE(isMarkerThere);
 }
 
-TEST_F(HostLinkTest, AnsweringYesDoesNotHangWithTheHost) {
+TEST_F(HostLinkTest, ShowingAHostThatHangsDoesNotHangTheMenu) {
     WNDCLASSA host{};
     host.lpfnWndProc = DefWindowProcA;
     host.lpszClassName = hostWindowClass;

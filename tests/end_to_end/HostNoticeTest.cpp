@@ -13,7 +13,7 @@ struct HostNoticeTest : testing::Test {
 
 TEST_F(HostNoticeTest, IsNotShownInTheFirstTwoSeconds) {
     SetEnvironmentVariableA("FENN_WINDOW_DELAY_MS", "600");
-    SetEnvironmentVariableA("FENN_START_DELAY_MS", "600"); // from the window to its caption
+    SetEnvironmentVariableA("FENN_CAPTION_DELAY_MS", "600"); // from the window to its caption
     const ULONGLONG start = GetTickCount64();
     const RunningMenu menu;
     bool wasShown = false;

@@ -62,7 +62,7 @@ Installation::Installation(int wsid) {
          {"FENN_WINDOW_DELAY_MS", "FENN_NEVER", "FENN_HANG", "FENN_HANG_MS", "TesselTemp"})
         SetEnvironmentVariableA(variable, nullptr);
     SetEnvironmentVariableA("FENN_LOG", logFile);
-    SetEnvironmentVariableA("FENN_START_DELAY_MS", "20");
+    SetEnvironmentVariableA("FENN_CAPTION_DELAY_MS", "20");
     SetEnvironmentVariableA("Tessel", "Local");
 }
 

@@ -5,7 +5,8 @@
 namespace obrin::test {
 namespace {
 
-// The tree has three rows: the heading Billing, the program Backup, and a program without a text.
+// The tree has three rows: the heading Billing, the program Backup, and a program without a text, whose key
+// is Core\Programs\CSBackup.
 struct RightClick : testing::Test {
     RightClick() {
         SetEnvironmentVariableA("TesselTemp", ".");
@@ -57,7 +58,7 @@ TEST_F(RightClick, SelectsAHeadingWithoutAPopup) {
     EXPECT_FALSE(ShownPopup());
 }
 
-TEST_F(RightClick, HandledAfterThePointerHasLeftTheTreeDoesNotDisturbTheNextOne) {
+TEST_F(RightClick, WithThePointerOutsideTheTreeDoesNotDisturbTheNextOne) {
     PointAt({0, 0});
     SendMessageA(tree, WM_RBUTTONDOWN, MK_RBUTTON, 0);
     ClickRow(tree, 1, 0, rightClick);

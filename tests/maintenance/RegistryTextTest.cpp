@@ -28,12 +28,12 @@ TEST(RegistryText, NumberIsWrittenInDecimal) {
         const char* text;
     } const cases[] = {
         {"the lowest byte comes first", "\xFE\xFF\xFF\x7F"s, "2147483646"},
-        {"a NUL at the end is removed", "\0"s, "&h"},
+        {"one NUL at the end is removed, which leaves no bytes here", "\0"s, "&h"},
         {"zero", "\0\0\0\0"s, "0"},
         {"hexadecimal 105 loses the zero of its byte 05", "\x05\x01\0\0"s, "21"},
         {"hexadecimal 1000 loses a zero of its byte 00", "\0\x10\0\0"s, "256"},
         {"16 bits are signed", "\xFF\xFF\0\0"s, "-1"},
-        {"a number above 16 bits keeps its highest digit", "\x10\x10\x01\0"s, "69648"},
+        {"a number above 16 bits is not cut to 16 bits", "\x10\x10\x01\0"s, "69648"},
         {"32 bits are signed", "\xFE\xFF\xFF\xFF"s, "-2"},
         {"more than 32 bits are no number", "\x10\xBC\x10\x10\x1A"s, "&h1A1010BC10"},
         {"no bytes are no number", ""s, "&h"},

@@ -68,7 +68,7 @@ TEST_F(MenuWindow, LinkAndQuestionAreInFrontOfTheFrameAfterAResize) {
     EXPECT_EQ(GetWindow(question, GW_HWNDNEXT), frame);
 }
 
-TEST_F(MenuWindow, IsCentredOnItsScreenAndNoLargerThanIt) {
+TEST_F(MenuWindow, CentreOnScreenKeepsItInTheWorkArea) {
     RECT work;
     SystemParametersInfoA(SPI_GETWORKAREA, 0, &work, 0);
     CentreOnScreen(window, {700, 500});
@@ -109,7 +109,7 @@ TEST_F(MenuWindow, ShowsTreeLinesAndTheSelectionAndCanBeResized) {
     EXPECT_TRUE(HasStyle(window, WS_OVERLAPPEDWINDOW));
 }
 
-TEST_F(MenuWindow, FocusReturnsToTheLastControlFromAnotherWindow) {
+TEST_F(MenuWindow, FocusReturnsToTheLastControlWhenItIsActivatedAgain) {
     SetFocus(button);
     SendMessageA(window, WM_ACTIVATE, WA_INACTIVE, 0);
     SetFocus(window);

@@ -1,4 +1,4 @@
-// What the programs and the library tell the platform about themselves in their headers, version resources
+// What the programs and the library tell Windows about themselves in their headers, version resources
 // and manifests. A mistake there would show nowhere else.
 
 #include "platform/Workstation.h"
@@ -37,12 +37,12 @@ TEST_P(Image, NeedsWindows10AndHasItsProtectionsOn) {
     EXPECT_EQ(headers.OptionalHeader.DllCharacteristics & all, all);
 }
 
-// A lost connection to the share then does not end a running menu.
+// With this flag, a lost connection to the share does not end a running menu.
 TEST_P(Image, IsCopiedToSwapWhenItRunsFromAShare) {
     EXPECT_TRUE(headers.FileHeader.Characteristics & IMAGE_FILE_NET_RUN_FROM_SWAP);
 }
 
-// The platform loads these from its own folder, even if a file in the program's folder has the same name.
+// Windows loads these from its own folder, even if a file in the program's folder has the same name.
 // Every operator may write to that folder. The manifest tells where COMCTL32.DLL is.
 TEST_P(Image, LoadsOnlyLibrariesOfTheSystem) {
     const std::set<std::string> known{"ADVAPI32.DLL", "COMCTL32.DLL", "GDI32.DLL",    "KERNEL32.DLL",
@@ -78,9 +78,9 @@ TEST(MenuManifest, AsksForThemedControlsAndFollowsTheDpiOfEachScreen) {
     EXPECT_NE(manifest.find(">PerMonitorV2, system</dpiAwareness>"), std::string::npos);
 }
 
-// Without a level, the 32-bit menu keeps the platform's write redirection for classic programs. The checker
-// must do without: it opens files only to try whether they can be written, and the redirection would copy
-// them.
+// Without a requested execution level, Windows virtualizes the files that the 32-bit menu may not write. The
+// checker must do without: it opens files only to try whether they can be written, and the virtualization
+// would copy them.
 TEST(Manifests, OnlyTheCheckerAsksForARunLevel) {
     EXPECT_EQ(ManifestOf("ObrinMenu.exe").find("<requestedExecutionLevel"), std::string::npos);
     EXPECT_NE(ManifestOf("ObrinCheck.exe").find(R"(<requestedExecutionLevel level="asInvoker")"),

@@ -7,7 +7,7 @@
 namespace obrin {
 namespace {
 
-TEST(Margin, IsTheNumberAtTheStartOfATextInThousandthsOfAnInch) {
+TEST(Margin, IsReadInInchesAtTheStartOfATextAndKeptInTheLimits) {
     struct {
         const char* text;
         int loaded;

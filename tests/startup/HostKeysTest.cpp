@@ -19,7 +19,9 @@ TEST(HostKeyCodes, FollowTheCharactersOfTheCommand) {
     } const cases[] = {
         {"letters become upper case", "aZ9 .\xFF", {'A', 'Z', '9', ' ', '.', 255}},
         {"a backslash is the key 220", "\\a\\", {220, 'A', 220}},
-        {"a two-byte character is two codes, even with a backslash", "\x81\\\\", {0x81, '\\', 220}},
+        {"a two-byte character is two codes, even if the second is that of a backslash",
+         "\x81\\\\",
+         {0x81, '\\', 220}},
         {"CR LF and a lone CR are one Enter key each", "a\r\nb\r\r\n", {'A', 13, 'B', 13, 13}},
         {"a lone LF is sent as code 10", "\na\nb", {10, 'A', 10, 'B'}},
     };
