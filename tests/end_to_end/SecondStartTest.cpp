@@ -57,6 +57,7 @@ TEST_F(OpenHost, IsShownAfterYes) {
 struct OpenMenu : testing::Test {
     OpenMenu() {
         EXPECT_TRUE(installation.HostGetsLast("UB"));
+        EXPECT_TRUE(KeepsForeground(first.Window())); // the last thing that a start does
         installation.EndHost();
     }
 
